@@ -1,0 +1,23 @@
+// boringboxes.h -- the boxes of the log tool's window as records: where the truth about a boring is while it is
+// typed in. The window shows them, FillBoringForm fills them from BoringData, SaveBoringFile takes them from here.
+#pragma once
+
+#include "session/controls.h"
+
+namespace frmBorinput
+{
+extern Grid SSInfo, SSScale, SSRepParts, SSP1Setup, SSP2Setup, SSPar, SSSamp, SSLith, SSGenWellInfo, SSOuterLay,
+    SSInnerLay, SSW, SSCuttings, SSFormations, SSLegend;
+extern Memo MemoDes, MemoWcon, MemoRemarks, MemoBottNotes;
+extern Text txtClient;    // CR LF line ends
+extern Text Text1, Text2; // boring name, map file
+extern Text cmbLayFile;
+extern bool Check1; // draft
+extern int Option;  // 1 to 4 as Option1 to Option4, 0 none
+extern Text Title;  // of the window
+} // namespace frmBorinput
+
+namespace frmSoil
+{
+extern Memo MemoNotes; // the soil table's notes box
+}

@@ -1,0 +1,106 @@
+// metaugl.h -- PageCanvas and every primitive: the only way to draw.
+//
+// A pen plotter in page inches over the kept list of pageobjects.h. Arguments are page inches divided by the scale
+// factors (a renderer sets them to draw in feet of depth, say); y of arguments points up the sheet, y of device
+// units down. The pen is kept unrounded; only the coordinates of objects are rounded, half to even.
+#pragma once
+
+#include "session/slots.h"
+#include "session/text.h"
+
+constexpr int MaxPolyPoints = 60;
+
+struct CanvasRecord {
+    float unitsPerInch = 0;                          // 600 on a printer of 600 dots to the inch
+    float pageWidthInches = 0, pageHeightInches = 0; // the printable sheet
+    float pageWidthUnits = 0, pageHeightUnits = 0;
+    float originX = 0, originY = 0;
+    float penX = 0, penY = 0;
+    float scaleX = 0, scaleY = 0; // divisors; 0 until setorigin repairs them
+    int16_t textAlign = 0, textVAlign = 1;
+    double lineSpacing = 0; // device units between the lines of a text
+    double textAngle = 0;
+    Text fontName;
+    int32_t polyCount = 0;                    // slots of polyPoints in use; 0: no polygon under way
+    Slots<int32_t, MaxPolyPoints> polyPoints; // x, y pairs, rounded; slot 0 is in use here
+    Text fillFile;                            // current pattern: its screen form, or its missing print form
+    Text fillsDir;                            // with a separator at its end
+    int16_t tintCount = 0;                    // tinted patterns made on this page
+    Text mode;                                // the argument of canvasstart
+};
+extern CanvasRecord PageCanvas;
+
+// Page and origin.
+void canvasstart(const Text& mode); // "P", "L", "T", or "C" for the geometry of the page before
+void setorigin(float& x, float& y); // from the sheet's lower left corner. Kept: lowers both by the 0.25 margin
+void markorigin();
+void setscalex(float f);
+void setscaley(float f);
+
+// Pen moves, and lines from the pen that take it along.
+void moveright(float d);
+void moveleft(float d);
+void moveup(float d);
+void movedown(float d);
+void moveto(float x, float y); // from the origin; an axis whose target is off the sheet stays
+void lineright(float d);
+void lineleft(float d);
+void lineup(float d);
+void linedown(float d);
+void lineto(float x, float y);
+void lineby(float dx, float dy);
+void linepolar(float angle, float length); // degrees, counter-clockwise
+
+// Shapes; the pen stays.
+void rectby(float dx, float dy);
+void circle(float r);
+void blackcircle(float r);
+void drawarc(float width, float side); // half a wave over the next width: side -1 bulges up, any other down
+void triangleup(float r);
+void triangledown(float r);
+void triangleupsolid(float r);
+void triangledownsolid(float r);
+void drawbitmap(const Text& file, float width, float height); // missing: a message, and nothing is added
+void bringtofront();
+
+// Polygons: building calls move the pen, one closing call adds the object and puts the pen on the rounded first
+// vertex. A 31st vertex is failure 9.
+void polyright(float d);
+void polyleft(float d);
+void polyup(float d);
+void polydown(float d);
+void polyby(float dx, float dy);
+void polyto(float x, float y);
+void polyfill();
+void polyfillwhite();
+void polyfillcolored(const Text& color);
+void polyfillrgb(const Text& color);
+void polyfillflag(float f);
+
+// Filled rectangles rising from the pen; nothing at all when a side is not above 0.01.
+void rectfill(float dx, float dy);
+void rectfillwhite(float dx, float dy);
+void rectfillrgb(float dx, float dy, const Text& color);
+void rectfillcolored(float dx, float dy, const Text& color);
+void rectfillflag(float dx, float dy, float f);
+
+// Styles and text.
+void setlinestyle(int16_t& n); // 1 solid, 2 dash, 3 dash-dot, 4 dash-dot-dot, 5 dot. Kept: n leaves as the pen style
+void setlinestyle(int&& n);    // the same for a constant
+void setlinewidth(int n);
+void setcolor(int n);
+void setfontname(const Text& name);
+void setfontsize(float points);
+void settextangle(double degrees);
+void textleft();
+void textcenter();
+void textright();
+void textmiddle();
+void textboldon();
+void textboldoff();
+void printtext(const Text& s); // "\n" in it starts a new line; centred text gets a blank on each side
+void printtextraw(const Text& s);
+void printnum(float v);
+
+// "r g b" cut at its blanks into a colour; with fewer than two blanks white.
+int32_t ParseColor(const Text& color);

@@ -1,0 +1,38 @@
+// patterns.h -- fill patterns: from the code in a cell to a bitmap in the fills folder.
+//
+// A pattern has a print form, "F12.BMP", and a screen form of 25 by 25 pixels, "F12_sc.BMP", made from it on first
+// use and kept beside it. User pattern number p is file number p + 20. A fills folder that cannot be written is no
+// hindrance: what could not be saved is kept in memory under its name.
+#pragma once
+
+#include "canvas/bitmap.h"
+#include "session/slots.h"
+
+constexpr int MaxUscsCodes = 31, MaxPatternNames = 65;
+extern Slots<Text, MaxUscsCodes> uscsCodes;       // code in slot i is file number i + 20
+extern Slots<Text, MaxPatternNames> patternNames; // filled at the start of the guide
+extern const Slots<int16_t, 7> wellFillNumbers;   // 0 to 7: file numbers of the well materials
+
+void filluscscodes(); // the table of lithology codes, at the start of a program
+
+// A "Fill #" cell as a file number; 0 is blank. Box "Fill pattern number is out of range: " for a bad number, a
+// code that is not in the table is silently 0.
+int16_t getpch(const Text& cell);
+// The older reader, of sections and soil tables: drops the first character, heeds case. Ends in setfillfile.
+void setpatt(const Text& code);
+// Selects the current pattern of the canvas: PageCanvas.fillFile becomes its screen form, made if need be; a
+// pattern whose print form is missing leaves the print name there.
+void setfillfile(int number);
+// Tinted copy k of the current pattern: "T" k "_sc.bmp" and "T" k ".bmp" in the fills folder.
+void createcoloredFP(const Text& color, int k);
+
+Text PrintForm(const Text& screenName);    // without its last 7 characters, plus ".bmp"
+bool PatternThere(const Text& screenName); // the screen form, or the print form that it is made from
+// The picture behind a name that setfillfile or createcoloredFP has made, from memory or the fills folder; loaded
+// once for the run of the program. Failure 53 if it is not there.
+const Bitmap& PatternPicture(const Text& name);
+
+// Tinted copies are written as files unless this is set: several programs may draw with one fills folder at once.
+extern bool TintsInMemory;
+
+void patternstart(); // the Fill Pattern Guide: draws the page and shows it

@@ -1,0 +1,39 @@
+// screenview.h -- RunPages, the steering of a run from the screen view, zoom sums, and printing a page.
+#pragma once
+
+#include "session/text.h"
+
+struct RunPagesRecord {
+    int16_t pageCount = 0; // pages of the run
+    int16_t pageIndex = 0; // the page now on screen; a log run counts from 0, every other run from 1
+    int16_t zeroBased = 0; // Kept: set to 1 by the first log run and never cleared; only Previous reads it
+    Text pageFile;         // path of the file that the current page comes from
+    int16_t printing = 0;  // 1: a print run
+};
+extern RunPagesRecord RunPages;
+
+// Ends a page: prints it and steps to the next one on a print run, else shows it, blocking.
+void ShowOrPrint();
+// The page to the printer: the objects hold the print forms of their patterns meanwhile. Failures by number.
+void printcanvas();
+
+// The page as DXF beside its source, and the box that says so; the name is pageFile with its last 4 characters
+// replaced by ".dxf".
+void ExportDxf();
+
+// The commands of the screen view. True: the view is to be hidden, and the run goes on at pageIndex.
+bool NextPage();
+bool PreviousPage(); // on the first page a box, and the view stays
+bool GoToPage();     // asks; an empty answer changes nothing
+bool ExitRun();
+
+// The view: the size of the page's image and its offset in the window, in screen units.
+struct ViewRecord {
+    double ImageWidth = 0, ImageHeight = 0, Left = 0, Top = 0;
+};
+ViewRecord ZoomScreenWidth(ViewRecord view, double clientWidth); // left offset stays
+ViewRecord ZoomPage(double clientWidth, double clientHeight, double drawWidth, double drawHeight);
+// Corners in page units; pixelX, pixelY the size of a screen pixel in units of the control. Failure 11 for a drag
+// without width or height.
+ViewRecord ZoomWindow(double x1, double y1, double x2, double y2, double drawWidth, double drawHeight, double pixelX,
+                      double pixelY);

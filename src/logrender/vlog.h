@@ -1,0 +1,60 @@
+// vlog.h -- the drawing routines of the log, one line each.
+//
+// Every column is entered with the pen at its left edge on the baseline and leaves it at its right edge on the
+// baseline, with both scales 1 and line style 1; the pen's travel is the only record of where a column stands.
+#pragma once
+
+#include "session/text.h"
+
+namespace VLOG
+{
+// logrun.cpp
+void vlogstart(); // the loop over the pages of log.mas
+// columns.cpp
+void processrepparts(); // the report part at ColumnNumber, by the table of all columns
+// frame.cpp, scale.cpp
+void drawframe();
+void drawscale();
+void drawelev();
+// lithology.cpp
+void drawuscs();
+void drawformation();
+void drawcuttings();
+void drawcuttingsgraph();
+// samples.cpp
+void drawsamp();
+void drawblows();
+void drawlabno();
+// descriptions.cpp, desclegend.cpp
+void ArrangeDescs();
+void drawdes();
+void drawdesdot();
+void drawdesold();
+void drawdesclegend();
+// remarks.cpp
+void drawremarks(float width);
+void drawwcon(float width);
+// titleblocks.cpp
+void drawlogo(float e);
+void drawclient(float e);
+void drawborinfo(float e, int kind, int row);
+void drawlongborinfo(float e);
+void drawlogplusinfo(float e);
+void drawmap();
+void drawbottnotes(float e, int kind);
+// paramgraphs.cpp, generalgraphs.cpp
+void drawpar(float width);
+void drawpargraph(float width);
+void draw2pargraph();
+void draw4pargraph();
+void drawblowgraph();
+void drawblowgraph2();
+void drawgpar(float width);
+void drawgpargraph();
+void drawmpgraph();
+// welldiagram.cpp, waterlevels.cpp
+void drawgw();
+void drawwaterlevels();
+// Shared by the narrow columns.
+void turnedheading(float x, const Text& words); // 8 point, upward, from (x, 0.05)
+} // namespace VLOG

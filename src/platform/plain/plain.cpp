@@ -1,0 +1,83 @@
+// plain.cpp -- the seam with no screen.
+#include "platform/plain/plain.h"
+
+#include "canvas/pagelisting.h"
+#include "canvas/screenview.h"
+
+std::vector<PlainMessage> Messages;
+std::deque<int> Answers;
+std::deque<Text> InputAnswers;
+std::vector<std::string> Listings;
+void (*PlainShowPage)() = nullptr;
+int PlainPrinted = 0;
+int PlainRunsEnded = 0;
+
+static int Box(const Text& words, Buttons buttons, Icon icon)
+{
+    Messages.push_back({words, buttons, icon});
+    if (Answers.empty())
+        return buttons == OkOnly || buttons == OkCancel ? Ok : No;
+    const int answer = Answers.front();
+    Answers.pop_front();
+    return answer;
+}
+
+static Text Input(const Text& prompt, const Text& title, const Text&)
+{
+    Messages.push_back({title + ": " + prompt, OkCancel, NoIcon});
+    if (InputAnswers.empty())
+        return "";
+    const Text answer = InputAnswers.front();
+    InputAnswers.pop_front();
+    return answer;
+}
+
+// Letter and 11 by 17 less a quarter inch on each side, at 600 units to the inch.
+static Sheet DefaultSheet(char mode)
+{
+    if (mode == 'P')
+        return {8.0f, 10.5f, 4800, 6300};
+    if (mode == 'L')
+        return {10.5f, 8.0f, 6300, 4800};
+    return {16.5f, 10.5f, 9900, 6300};
+}
+
+static void Drawn()
+{
+    Listings.push_back(PageListing(int(Listings.size()) + 1, RunPages.pageFile));
+}
+
+static void Show()
+{
+    if (PlainShowPage)
+        PlainShowPage();
+    else
+        NextPage();
+}
+
+void UsePlainPlatform()
+{
+    Messages.clear();
+    Answers.clear();
+    InputAnswers.clear();
+    Listings.clear();
+    PlainShowPage = nullptr;
+    PlainPrinted = 0;
+    PlainRunsEnded = 0;
+    Platform.MsgBox = Box;
+    Platform.InputBox = Input;
+    Platform.PrinterSheet = DefaultSheet;
+    Platform.PageDrawn = Drawn;
+    Platform.ShowPage = Show;
+    Platform.PrintPage = [] { ++PlainPrinted; };
+    Platform.EndPrintRun = [] { ++PlainRunsEnded; };
+    Platform.ShowDrawPrint = [] {};
+    Platform.ShowPrinting = [] {};
+    Platform.ShowProgress = [](bool) {};
+    Platform.StepProgress = [](const Text&, float) {};
+    Platform.ShowChooser = [] {};
+    Platform.ShowHelp = [] {};
+    Platform.Breathe = [] {};
+    Platform.ShortDate = [] { return Text("1/2/2026"); };
+    Platform.Unattended = false;
+}

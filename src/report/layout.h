@@ -1,0 +1,14 @@
+// layout.h -- LayoutData: orientation of a page and what stands in its twelve title block positions (.LAY).
+#pragma once
+
+#include "session/slots.h"
+#include "session/text.h"
+
+struct LayoutRecord {
+    int16_t Orientation = 0;   // 0 portrait, 1 landscape, 2 tabloid
+    Slots<int16_t, 12> Blocks; // the code in each position, 0 for none
+};
+extern LayoutRecord LayoutData;
+
+void ReadLayoutFile(const Text& name); // 13 lines into LayoutData; failures by number
+void SaveLayoutFile();                 // LayoutData to DialogResult

@@ -1,0 +1,46 @@
+// platform.h -- all that the logic asks of the machine.
+//
+// The record of procedures is filled in once, at the start of a program: by platform/qt for the two programs, by
+// platform/plain for the tests. Every procedure is always there.
+#pragma once
+
+#include "session/text.h"
+
+enum Buttons { OkOnly, OkCancel, YesNo, YesNoCancel };
+enum Icon { NoIcon, Question, Exclamation };
+enum Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+
+// What a printer says of its sheet: the printable size, in inches and in device units.
+struct Sheet {
+    float WidthInches = 0, HeightInches = 0, WidthUnits = 0, HeightUnits = 0;
+};
+
+struct PlatformRecord {
+    // Boxes.
+    int (*MsgBox)(const Text& words, Buttons buttons, Icon icon);
+    Text (*InputBox)(const Text& prompt, const Text& title, const Text& answer); // "" when cancelled
+    // The page. PrinterSheet: mode 'P' letter portrait, 'L' letter landscape, any other 11 by 17 landscape.
+    Sheet (*PrinterSheet)(char mode);
+    void (*PageDrawn)();   // the object list of a page is complete, and is neither shown nor printed yet
+    void (*ShowPage)();    // the screen view, blocking; its commands move RunPages.pageIndex
+    void (*PrintPage)();   // the object list to the printer: one page, brush pictures as the objects hold them
+    void (*EndPrintRun)(); // the last page of a print run has gone out
+    // Windows. The blocking ones return when the window is closed.
+    void (*ShowDrawPrint)(); // the batch dialog, blocking
+    void (*ShowPrinting)();  // the notice "Printing...", blocking for a second and a half
+    void (*ShowProgress)(bool shown);
+    void (*StepProgress)(const Text& words, float percent);
+    void (*ShowChooser)(); // by DialogMode; answers in DialogResult
+    void (*ShowHelp)();
+    void (*Breathe)();   // a turn for the window system, so that Escape is seen
+    Text (*ShortDate)(); // today, in the short form of the user's locale
+    // True where nobody sits in front: a question takes the answer that loses nothing, and a run that cannot go
+    // on ends instead of waiting for a key.
+    bool Unattended;
+};
+extern PlatformRecord Platform;
+
+inline int MsgBox(const Text& words, Buttons buttons = OkOnly, Icon icon = NoIcon)
+{
+    return Platform.MsgBox(words, buttons, icon);
+}

@@ -1,0 +1,126 @@
+// main.cpp -- the test program of the logic: fresh records and an empty working folder before each test.
+#define DOCTEST_CONFIG_IMPLEMENT
+#include "testing.h"
+
+#include "canvas/metaugl.h"
+#include "canvas/pageobjects.h"
+#include "canvas/screenview.h"
+#include "session/deviceconfig.h"
+#include "session/failure.h"
+#include "session/files.h"
+#include "session/session.h"
+
+#include <fstream>
+#include <unistd.h>
+
+static Text scratch;
+
+Text TestData(const Text& name)
+{
+    return Text(TEST_DATA) + "/" + name;
+}
+
+const Text& ScratchFolder()
+{
+    return scratch;
+}
+
+Text Scratch(const Text& name)
+{
+    return scratch + "/" + name;
+}
+
+void WriteScratch(const Text& name, std::string_view bytes)
+{
+    std::ofstream(Scratch(name), std::ios::binary) << bytes;
+}
+
+std::string ReadScratch(const Text& name)
+{
+    std::ifstream in(Scratch(name), std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
+int FailureOf(void (*procedure)())
+{
+    try {
+        procedure();
+        return 0;
+    } catch (...) {
+        return FailureInHand();
+    }
+}
+
+std::string Lines(std::initializer_list<std::string_view> lines)
+{
+    std::string text;
+    for (const std::string_view line : lines)
+        text.append(line).append("\r\n");
+    return text;
+}
+
+namespace
+{
+// Between two tests: nothing of the one before is left in the records or on the disk.
+struct Fresh : doctest::IReporter {
+    explicit Fresh(const doctest::ContextOptions&)
+    {
+    }
+    void test_case_start(const doctest::TestCaseData&) override
+    {
+        std::filesystem::remove_all(scratch);
+        std::filesystem::create_directories(scratch);
+        UsePlainPlatform();
+        WorkingFolder = RunFolder = ProjectPath = scratch;
+        BoringFileName = DialogResult = "";
+        FileChanged = DeviceChanged = ActiveBox = DialogMode = LineCount = 0;
+        DeviceConfig = DeviceRecord();
+        DefaultSystemFiles();
+        PageCanvas = CanvasRecord();
+        PageList = PageListRecord();
+        RunPages = RunPagesRecord();
+    }
+    void report_query(const doctest::QueryData&) override
+    {
+    }
+    void test_run_start() override
+    {
+    }
+    void test_run_end(const doctest::TestRunStats&) override
+    {
+        std::filesystem::remove_all(scratch);
+    }
+    void test_case_reenter(const doctest::TestCaseData&) override
+    {
+    }
+    void test_case_end(const doctest::CurrentTestCaseStats&) override
+    {
+    }
+    void test_case_exception(const doctest::TestCaseException&) override
+    {
+    }
+    void subcase_start(const doctest::SubcaseSignature&) override
+    {
+    }
+    void subcase_end() override
+    {
+    }
+    void log_assert(const doctest::AssertData&) override
+    {
+    }
+    void log_message(const doctest::MessageData&) override
+    {
+    }
+    void test_case_skipped(const doctest::TestCaseData&) override
+    {
+    }
+};
+} // namespace
+REGISTER_LISTENER("fresh", 1, Fresh);
+
+int main(int argc, char** argv)
+{
+    scratch = std::filesystem::temp_directory_path().string() + "/stratavue-test-" + std::to_string(::getpid());
+    doctest::Context context(argc, argv);
+    return context.run();
+}

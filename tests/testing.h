@@ -1,0 +1,17 @@
+// testing.h -- what every test starts from: records at their start values, an empty working folder of its own.
+#pragma once
+
+#include "platform/plain/plain.h"
+
+#include <doctest/doctest.h>
+#include <filesystem>
+
+Text TestData(const Text& name); // path of a file under tests/data
+const Text& ScratchFolder();     // the working folder of the test that runs: empty at its start
+Text Scratch(const Text& name);  // a path in it
+void WriteScratch(const Text& name, std::string_view bytes);
+std::string ReadScratch(const Text& name);
+int FailureOf(void (*procedure)()); // the number of the failure that it raises, 0 for none
+
+// Lines joined with CR LF, closed by one: a file.
+std::string Lines(std::initializer_list<std::string_view> lines);
