@@ -32,7 +32,7 @@ struct Blow {
     Text Value;
 };
 std::vector<Blow> blowsonpage(); // every blow count of the page, from the top
-// descriptions.cpp, desclegend.cpp
+// descriptions.cpp; dotdescriptions.cpp, manualdescriptions.cpp, desclegend.cpp
 void ArrangeDescs();
 void drawdes();
 void drawdesdot();
