@@ -166,7 +166,6 @@ DrawPrint::DrawPrint(QWidget* parent) : QDialog(parent)
     connect(file1, &QListWidget::itemSelectionChanged, this, [this] { TakeSelection(); });
     connect(file1, &QListWidget::itemDoubleClicked, this, [this] { Ok(); });
     connect(option1, &QRadioButton::clicked, this, [this] {
-        option1->setChecked(true); // it stays until another folder is shown
         frmDrawPrint::Option1();
         Files();
     });
@@ -240,6 +239,7 @@ void DrawPrint::Files()
     }
     if (file1->count() > 0 && !file1->currentItem())
         file1->setCurrentRow(0, QItemSelectionModel::NoUpdate);
+    option1->setChecked(Dialog.SelectAll);
     filling = false;
 }
 
@@ -256,7 +256,6 @@ void DrawPrint::GoTo(const QString& folder)
     if (filling || dialogBusy)
         return;
     frmDrawPrint::ChangeFolder(FromUi(folder));
-    option1->setChecked(false);
     Folders();
     Files();
 }
@@ -303,11 +302,11 @@ void ShowDrawPrintDialog()
     DrawPrintLoad();
     DrawPrint dialog(QApplication::activeWindow());
     open = &dialog;
+    // The choice is made: the dialog goes before the windows of its job come, while OK is still at work.
+    frmDrawPrint::CloseWindow = [] {
+        if (open)
+            open->hide();
+    };
     dialog.exec();
-}
-
-void HideUnloadedDialog()
-{
-    if (open && Dialog.Unloaded)
-        open->hide();
+    frmDrawPrint::CloseWindow = nullptr;
 }

@@ -77,14 +77,15 @@ bool RunUnderWay()
 void ShowProgressWindow(bool shown)
 {
     ProgressWindow& window = Window();
-    window.wanted = shown;
     if (shown) {
-        window.since.start();
+        if (!window.wanted)
+            window.since.start();
         window.gauge1->setValue(0);
         window.label2->setText("% Complete: ");
     } else {
         window.hide();
     }
+    window.wanted = shown;
 }
 
 void StepProgressWindow(const Text& words, float percent)
@@ -92,12 +93,19 @@ void StepProgressWindow(const Text& words, float percent)
     ProgressWindow& window = Window();
     window.label2->setText(ToUi(words));
     window.gauge1->setValue(int(percent * 10));
+    Breathe();
+}
+
+// The bar is painted and Escape is seen. The window is modal, so nothing else is; while it is not up there is nothing to
+// see, and a click meant for a menu would start a second run inside the first.
+void Breathe()
+{
+    ProgressWindow& window = Window();
     if (!window.wanted || window.since.elapsed() < PatienceMs)
         return;
     if (!window.isVisible()) {
         CentreOnScreen(window);
         window.show();
     }
-    // A turn for the window system: the bar is painted and Escape is seen. The window is modal, so nothing else is.
     QApplication::processEvents();
 }

@@ -36,18 +36,12 @@ void UseDesktopPlatform()
     Platform.InputBox = ShowInputBox;
     Platform.PrinterSheet = SheetOf;
     Platform.PageDrawn = [] {};
-    Platform.ShowPage = [] {
-        HideUnloadedDialog();
-        ShowDrawArea();
-    };
+    Platform.ShowPage = ShowDrawArea;
     Platform.PrintPage = PrintPageObjects;
     Platform.EndPrintRun = EndPdfRun;
     Platform.ShowDrawPrint = ShowDrawPrintDialog;
     Platform.ShowPrinting = ShowPrintingNotice;
-    Platform.ShowProgress = [](bool shown) {
-        HideUnloadedDialog();
-        ShowProgressWindow(shown);
-    };
+    Platform.ShowProgress = ShowProgressWindow;
     Platform.StepProgress = StepProgressWindow;
     Platform.ShowChooser = ShowFileDialog;
     Platform.ShowHelp = ShowHelpWindow;
@@ -58,12 +52,7 @@ void UseDesktopPlatform()
     Platform.ShowLogWindow = ShowLogWindow;
     Platform.ShowWelcome = ShowWelcomeWindow;
     Platform.EndProcess = EndProgram;
-    // Without a window that asks for keys there is nobody whose Escape could be missed, and a click meant for a menu
-    // would start a second run inside the first.
-    Platform.Breathe = [] {
-        QApplication::processEvents(QApplication::activeModalWidget() ? QEventLoop::AllEvents
-                                                                      : QEventLoop::ExcludeUserInputEvents);
-    };
+    Platform.Breathe = Breathe;
     Platform.ShortDate = Today;
     Platform.Unattended = false;
 }

@@ -9,7 +9,6 @@
 #include "platform/qt/uitext.h"
 #include "session/failure.h"
 #include "session/files.h"
-#include "session/session.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -89,14 +88,8 @@ static void SetPaper(QPrinter& printer, char mode)
 Sheet SheetOf(char mode)
 {
     QPrinter* printer = Printer();
-    if (!printer) {
-        // Letter and 11 by 17 less a quarter inch on each side, at 600 dots to the inch.
-        if (mode == 'P')
-            return {8.0f, 10.5f, 4800, 6300};
-        if (mode == 'L')
-            return {10.5f, 8.0f, 6300, 4800};
-        return {16.5f, 10.5f, 9900, 6300};
-    }
+    if (!printer)
+        return DefaultSheet(mode);
     SetPaper(*printer, mode);
     const QRectF inches = printer->pageRect(QPrinter::Inch);
     const QRectF dots = printer->pageRect(QPrinter::DevicePixel);
@@ -111,10 +104,8 @@ static Text pdfName;
 static void PageIntoPdf()
 {
     if (!pdf) {
-        // A page that comes from no file, such as the guide's, is put into the working folder.
-        const Text source = RunPages.pageFile.empty() ? JoinPath(WorkingFolder, "Page.bor") : RunPages.pageFile;
-        pdfName = PdfBeside(source);
-        pdf = std::make_unique<PdfRun>(pdfName, BaseName(source));
+        pdfName = PdfBeside(RunPages.pageFile);
+        pdf = std::make_unique<PdfRun>(pdfName, BaseName(RunPages.pageFile));
     }
     pdf->AddPage();
 }

@@ -13,10 +13,10 @@ void ShowLogWindow();                                    // frmBorinput
 void EndProgram();                                       // the same: it goes, and the event loop with it
 void ShowDrawArea();                                     // frmDrawArea
 void ShowDrawPrintDialog();                              // frmDrawPrint
-void HideUnloadedDialog();                               // the same: once its choice is made it goes, the job runs on
 void ShowPrintingNotice();                               // frmPrinting
 void ShowProgressWindow(bool shown);                     // frmProgress
 void StepProgressWindow(const Text& words, float percent);
+void Breathe();                                          // a turn for the window system
 bool RunUnderWay();                                      // a page is being made: the progress window is asked for
 
 
