@@ -15,6 +15,8 @@ struct Sheet {
     float WidthInches = 0, HeightInches = 0, WidthUnits = 0, HeightUnits = 0;
 };
 
+Sheet DefaultSheet(char mode);
+
 struct PlatformRecord {
     // Boxes.
     int (*MsgBox)(const Text& words, Buttons buttons, Icon icon);
