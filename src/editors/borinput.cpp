@@ -5,7 +5,6 @@
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
 #include "canvas/batch.h"
-#include "canvas/patterns.h"
 #include "editors/fillform.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
@@ -67,7 +66,6 @@ void frmBorinput::Load()
     MemoDes.widthTwips = 4205 + DeviceConfig.TextAdjust[1];
     MemoWcon.widthTwips = 3249 + DeviceConfig.TextAdjust[2];
     MemoRemarks.widthTwips = 2223 + DeviceConfig.TextAdjust[3];
-    filluscscodes();
 }
 
 // The question before something that would drop unsaved work. False: the user has thought better of it.
