@@ -32,16 +32,6 @@ static Text Input(const Text& prompt, const Text& title, const Text&)
     return answer;
 }
 
-// Letter and 11 by 17 less a quarter inch on each side, at 600 units to the inch.
-static Sheet DefaultSheet(char mode)
-{
-    if (mode == 'P')
-        return {8.0f, 10.5f, 4800, 6300};
-    if (mode == 'L')
-        return {10.5f, 8.0f, 6300, 4800};
-    return {16.5f, 10.5f, 9900, 6300};
-}
-
 static void Drawn()
 {
     Listings.push_back(PageListing(int(Listings.size()) + 1, RunPages.pageFile));
