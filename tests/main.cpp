@@ -2,6 +2,7 @@
 #define DOCTEST_CONFIG_IMPLEMENT
 #include "testing.h"
 
+#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
@@ -90,6 +91,14 @@ struct Fresh : doctest::IReporter {
         LegendBoxFill = {};
         ForgetPatterns();
         TintsInMemory = false;
+        jobCode = runFileCount = singleFile = introType = dialogBusy = stopRequested = 0;
+        progressValue = progressTotal = 0;
+        runFiles = {};
+        singleFileName = lastDir = "";
+        JobTable = {};
+        IntroPages = nullptr;
+        frmDrawPrint::Dialog = frmDrawPrint::Record();
+        frmDrawPrint::CloseWindow = nullptr;
     }
     void report_query(const doctest::QueryData&) override
     {
