@@ -216,9 +216,11 @@ static void OutputFolder(const Text& folder)
 static void FillDialog()
 {
     jobCode = Asked.Job->JobCode;
-    singleFile = Asked.Files.empty() ? int16_t(1) : int16_t(0);
+    singleFile = 1; // no folder is listed
     singleFileName = "";
     DrawPrintLoad();
+    if (!Asked.Files.empty())
+        singleFile = 0;
     frmDrawPrint::Record& dialog = frmDrawPrint::Dialog;
     dialog.Dir1 = "";
     dialog.FileCount = int(Asked.Files.size());
@@ -252,7 +254,6 @@ static void RunJob()
         if (!Listing)
             RaiseSystemError(errno, true);
     }
-    filluscscodes();
     FillJobTable();
     FillDialog();
     DrawPrintOk();
