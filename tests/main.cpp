@@ -2,10 +2,13 @@
 #define DOCTEST_CONFIG_IMPLEMENT
 #include "testing.h"
 
+#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "logrender/logdata.h"
+#include "report/heading.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -80,8 +83,22 @@ struct Fresh : doctest::IReporter {
         PageCanvas = CanvasRecord();
         PageList = PageListRecord();
         RunPages = RunPagesRecord();
+        LogPage = LogPageRecord();
+        LogBoring = LogBoringRecord();
+        LogGeometry = LogGeometryRecord();
+        HeadingWords = {};
+        LegendInUse = 0;
+        LegendBoxFill = {};
         ForgetPatterns();
         TintsInMemory = false;
+        jobCode = runFileCount = singleFile = introType = dialogBusy = stopRequested = 0;
+        progressValue = progressTotal = 0;
+        runFiles = {};
+        singleFileName = lastDir = "";
+        JobTable = {};
+        IntroPages = nullptr;
+        frmDrawPrint::Dialog = frmDrawPrint::Record();
+        frmDrawPrint::CloseWindow = nullptr;
     }
     void report_query(const doctest::QueryData&) override
     {
