@@ -5,9 +5,12 @@
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
+#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
+#include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "logrender/logdata.h"
 #include "report/heading.h"
 #include "report/layout.h"
 #include "session/deviceconfig.h"
@@ -115,6 +118,20 @@ struct Fresh : doctest::IReporter {
         PageCanvas = CanvasRecord();
         PageList = PageListRecord();
         RunPages = RunPagesRecord();
+        LogPage = LogPageRecord();
+        LogBoring = LogBoringRecord();
+        LogGeometry = LogGeometryRecord();
+        LegendBoxFill = {};
+        ForgetPatterns();
+        TintsInMemory = false;
+        jobCode = runFileCount = singleFile = introType = dialogBusy = stopRequested = 0;
+        progressValue = progressTotal = 0;
+        runFiles = {};
+        singleFileName = lastDir = "";
+        JobTable = {};
+        IntroPages = nullptr;
+        frmDrawPrint::Dialog = frmDrawPrint::Record();
+        frmDrawPrint::CloseWindow = nullptr;
     }
     void report_query(const doctest::QueryData&) override
     {

@@ -6,6 +6,8 @@
 
 #include "session/text.h"
 
+#include <vector>
+
 namespace VLOG
 {
 // logrun.cpp
@@ -25,7 +27,12 @@ void drawcuttingsgraph();
 void drawsamp();
 void drawblows();
 void drawlabno();
-// descriptions.cpp, desclegend.cpp
+struct Blow {
+    float Depth; // of the middle of its part of the sample
+    Text Value;
+};
+std::vector<Blow> blowsonpage(); // every blow count of the page, from the top
+// descriptions.cpp; dotdescriptions.cpp, manualdescriptions.cpp, desclegend.cpp
 void ArrangeDescs();
 void drawdes();
 void drawdesdot();
@@ -35,14 +42,14 @@ void drawdesclegend();
 void drawremarks(float width);
 void drawwcon(float width);
 // titleblocks.cpp
-void drawlogo(float e);
-void drawclient(float e);
-void drawborinfo(float e, int kind, int row);
-void drawlongborinfo(float e);
-void drawlogplusinfo(float e);
+void drawlogo(double e);
+void drawclient(double e);
+void drawborinfo(double e, int kind, int row);
+void drawlongborinfo(double e);
+void drawlogplusinfo(double e);
 void drawmap();
-void drawbottnotes(float e, int kind);
-// paramgraphs.cpp, generalgraphs.cpp
+void drawbottnotes(double e, int kind);
+// paramnumbers.cpp, paramgraphs.cpp, blowgraphs.cpp, generalgraphs.cpp
 void drawpar(float width);
 void drawpargraph(float width);
 void draw2pargraph();
@@ -55,6 +62,8 @@ void drawmpgraph();
 // welldiagram.cpp, waterlevels.cpp
 void drawgw();
 void drawwaterlevels();
-// Shared by the narrow columns.
-void turnedheading(float x, const Text& words); // 8 point, upward, from (x, 0.05)
+// narrowcolumn.cpp: what the narrow columns begin and end with.
+void turnedheading(double x, const Text& words);      // markorigin; 8 point, upward, from (x, 0.05)
+void narrowcolumn(double width, bool bodyBox = true); // lines of the heading band; the depth line as origin, y scale
+void endcolumn(double width);                         // y scale 1, pen to the right edge on the baseline
 } // namespace VLOG
