@@ -5,6 +5,7 @@
 // it between runs, so a slot that a run does not load keeps what the run before left.
 #pragma once
 
+#include "session/controls.h"
 #include "session/slots.h"
 #include "session/text.h"
 
@@ -20,10 +21,20 @@ struct LogoRecord {
     Text File;
     Text Resolution;
 };
-extern LogoRecord LogoData;
+extern LogoRecord LogoData; // read anew by getclientlogo; empty where logo.txt is missing
 
-void OpenHeadingFile(); // DialogResult into HeadingTable; a file of the old form with a box
-void SaveHeadingFile(); // HeadingTable to DialogResult, atomically
+// The heading editor's grids, one word a row: slots 1 to 39, 62 to 71 and 72 to 84.
+namespace frmHeading
+{
+extern Grid SSLog, SSSections, SSGraphics;
+}
+
+// DialogResult into HeadingTable and the grids. A file of the old form, which had the legends inside, is told in a
+// box and has the words that it knew in their slots.
+void OpenHeadingFile();
+// The grids into HeadingTable, keywords (slots 31 to 39) in upper case, and that to DialogResult. Refused with a box
+// while 6 or more of slots 1 to 20 are empty in the table as last read.
+void SaveHeadingFile();
 
 // The renderers' reader: kind 1 the log, 2 cross sections and fences, 3 soil tables. Box "Heading File Not Found:  "
 // or the one for the old form; then logo.txt (not behind the old form).
