@@ -4,6 +4,7 @@
 
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
+#include "canvas/patterns.h"
 #include "canvas/screenview.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
@@ -79,6 +80,8 @@ struct Fresh : doctest::IReporter {
         PageCanvas = CanvasRecord();
         PageList = PageListRecord();
         RunPages = RunPagesRecord();
+        ForgetPatterns();
+        TintsInMemory = false;
     }
     void report_query(const doctest::QueryData&) override
     {

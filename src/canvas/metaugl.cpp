@@ -65,6 +65,7 @@ void canvasstart(const Text& mode)
         fills += "/";
     PageCanvas.fillFile = fills + "F01.BMP";
     PageCanvas.tintCount = 0;
+    ForgetPatternFiles();
 }
 
 void setorigin(float& x, float& y)

@@ -9,11 +9,9 @@
 #include "session/slots.h"
 
 constexpr int MaxUscsCodes = 31, MaxPatternNames = 65;
-extern Slots<Text, MaxUscsCodes> uscsCodes;       // code in slot i is file number i + 20
+extern const Slots<Text, MaxUscsCodes> uscsCodes; // code in slot i is file number i + 20
 extern Slots<Text, MaxPatternNames> patternNames; // filled at the start of the guide
 extern const Slots<int16_t, 7> wellFillNumbers;   // 0 to 7: file numbers of the well materials
-
-void filluscscodes(); // the table of lithology codes, at the start of a program
 
 // A "Fill #" cell as a file number; 0 is blank. Box "Fill pattern number is out of range: " for a bad number, a
 // code that is not in the table is silently 0.
@@ -29,10 +27,15 @@ void createcoloredFP(const Text& color, int k);
 Text PrintForm(const Text& screenName);    // without its last 7 characters, plus ".bmp"
 bool PatternThere(const Text& screenName); // the screen form, or the print form that it is made from
 // The picture behind a name that setfillfile or createcoloredFP has made, from memory or the fills folder; loaded
-// once for the run of the program. Failure 53 if it is not there.
+// once for the run of the program, a tint until its number is used again. The blank pattern is white where its file is
+// missing. Failure 53 for any other that is not there, 481 for one that is no picture.
 const Bitmap& PatternPicture(const Text& name);
+bool PictureThere(const Text& name); // PatternPicture has it now, whatever was found before
 
 // Tinted copies are written as files unless this is set: several programs may draw with one fills folder at once.
 extern bool TintsInMemory;
+
+void ForgetPatternFiles(); // at the start of a page: the fills folder is looked at anew, if it has changed
+void ForgetPatterns();     // all pictures too: as at the start of a program
 
 void patternstart(); // the Fill Pattern Guide: draws the page and shows it

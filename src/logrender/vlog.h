@@ -25,7 +25,7 @@ void drawcuttingsgraph();
 void drawsamp();
 void drawblows();
 void drawlabno();
-// descriptions.cpp, desclegend.cpp
+// descriptions.cpp; dotdescriptions.cpp, manualdescriptions.cpp, desclegend.cpp
 void ArrangeDescs();
 void drawdes();
 void drawdesdot();

@@ -8,6 +8,7 @@
 #include <atomic>
 #include <cerrno>
 #include <cstdlib>
+#include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -172,6 +173,19 @@ bool FolderWritable(const Text& path)
         return false;
     const bool written = ::write(file.handle, "test\r\n", 6) == 6;
     return ::unlink(probe.c_str()) == 0 && written;
+}
+
+int64_t FolderStamp(const Text& folder)
+{
+    struct stat status;
+    if (::stat(NativePath(folder.empty() ? Text(".") : folder).c_str(), &status) != 0 || !S_ISDIR(status.st_mode))
+        return 0;
+    constexpr int64_t second = 1'000'000'000;
+    const int64_t changed = status.st_mtim.tv_sec * second + status.st_mtim.tv_nsec;
+    timespec clock;
+    ::clock_gettime(CLOCK_REALTIME, &clock);
+    const int64_t now = clock.tv_sec * second + clock.tv_nsec;
+    return changed > now - second ? 0 : changed ^ static_cast<int64_t>(status.st_ino);
 }
 
 std::vector<Text> FilesIn(const Text& folder, const Text& ending)

@@ -20,6 +20,9 @@ Text BaseName(const Text& name);   // behind the last "\", "/" or ":"
 Text FolderName(const Text& name); // before the last "\" or "/", without it; "" if there is none
 bool HasEnding(const Text& name);  // a "." in the base name
 Text FullPath(const Text& name);   // absolute, from the current folder of the process; links stay
+// Changes whenever an entry of the folder is added, removed or renamed; 0 for no folder, or for one that has changed
+// within the last second, when a further change might not show.
+int64_t FolderStamp(const Text& folder);
 std::vector<Text> FilesIn(const Text& folder, const Text& ending); // base names, ending in any case, by name
 
 // The whole file as bytes; failures by number.

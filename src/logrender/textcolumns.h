@@ -1,0 +1,30 @@
+// textcolumns.h -- what the columns of text have in common: the pitch of their lines, the heading and box of a
+// description column, text that stands at a depth.
+//
+// No column measures text. The lines were broken when the boring was saved, so one stored line is one printed line.
+#pragma once
+
+#include "session/text.h"
+
+namespace VLOG
+{
+constexpr double LinePitch = 0.12;  // inches a printed line takes
+constexpr double TextIndent = 0.05; // inches from the column's left edge to its text
+
+// A description column's heading, its legend if there is one, and its box; ColumnWidth is half the column. continued
+// says that a page that goes on from the one before has a dotted top line. Pen: from the baseline at the left edge;
+// leaves the origin at the left edge on the depth line, the y scale at DepthPerInch, 8 point, left aligned.
+void descriptionbox(bool continued);
+
+// The end of a description column: line style 1, y scale 1, pen to the right edge on the baseline.
+void enddescriptions();
+
+// Whether contact n, as an "@" line names it, is drawn on the page. The number is rounded and may be anything.
+bool contactonpage(double n);
+
+// Pen to the column's left edge at a depth; leaves y scale 1. The origin is on the depth line.
+void movetodepth(float depth);
+
+// A "-" line: whether its depth is on the page. If so the pen goes there, indented; leaves y scale 1.
+bool depthplaced(const Text& line);
+} // namespace VLOG

@@ -1,0 +1,131 @@
+// columnpage.cpp -- a page with one column under test.
+#include "columnpage.h"
+
+#include "canvas/batch.h"
+#include "canvas/metaugl.h"
+#include "canvas/pageobjects.h"
+#include "logrender/logdata.h"
+#include "report/heading.h"
+
+#include <cmath>
+
+void StartColumn()
+{
+    LogPage = LogPageRecord();
+    LogBoring = LogBoringRecord();
+    LogGeometry = LogGeometryRecord();
+    LogPage.PageEndDepth = 67;
+    LogGeometry.DepthPerInch = 10;
+    LogGeometry.BottomSpan = 60;
+    LogGeometry.ColumnWidth = 1;
+    LegendInUse = 0;
+    for (int slot = 1; slot <= MaxHeadings; ++slot)
+        HeadingWords[slot] = "W" + std::to_string(slot);
+    WriteBreak("0");
+    PageList = PageListRecord();
+    canvasstart("P");
+    float x = 1.25f, y = 7.75f;
+    setscalex(1);
+    setscaley(1);
+    setorigin(x, y);
+    REQUIRE(PageCanvas.penX == ColumnX);
+    REQUIRE(PageCanvas.penY == ColumnY);
+}
+
+void SetContacts(std::initializer_list<float> depths)
+{
+    LogBoring.ContactCount = 0;
+    for (const float depth : depths)
+        LogBoring.Contacts[++LogBoring.ContactCount].Depth = depth;
+    LogGeometry.ContactFirst = depths.size() > 0 ? 1 : 0;
+    LogGeometry.ContactLast = static_cast<int16_t>(depths.size());
+}
+
+void SetLines(std::initializer_list<const char*> lines)
+{
+    LogBoring.DesCount = 0;
+    for (const char* line : lines)
+        LogBoring.Des[++LogBoring.DesCount] = line;
+}
+
+static Text Place(int32_t x, int32_t y)
+{
+    return std::to_string(x - ColumnX) + "," + std::to_string(y - ColumnY - 60);
+}
+
+static Text Pen(const PageObject& object)
+{
+    static const char* const names[] = {"", " dashed", " dotted", " dash-dot", " dash-dot-dot"};
+    return names[object.PenStyle];
+}
+
+static Text Words(const PageObject& object)
+{
+    static const char* const aligned[] = {"", " centred", " right"};
+    const int32_t nudge = RoundInt32(-0.11 * object.FontHeight);
+    const int points = static_cast<int>(std::lround(-object.FontHeight * 72 / 600));
+    return "text " + Place(object.X1, object.Y1 - nudge) + " " + std::to_string(points) + "pt " + object.String +
+           (object.Bold ? " bold" : "") + aligned[object.HAlign];
+}
+
+static Text Vertices(const PageObject& object)
+{
+    Text words = "polygon";
+    for (const PagePoint& point : object.Vertices)
+        words += " " + Place(point.X, point.Y);
+    if (object.Brush == BrushStyle::Solid)
+        return words + (object.BrushColor == 0 ? " black" : " solid");
+    const Text name = object.BrushPicture.substr(object.BrushPicture.find_last_of("\\/") + 1);
+    return words + " " + name.substr(0, name.find('_'));
+}
+
+Drawing Drawn(size_t skip)
+{
+    Drawing drawing;
+    for (size_t i = skip; i < PageList.Objects.size(); ++i) {
+        const PageObject& object = PageList.Objects[i];
+        const Text corners = Place(object.X1, object.Y1) + " " + Place(object.X2, object.Y2);
+        switch (object.Kind) {
+        case ObjectKind::Line:
+            drawing.push_back("line " + corners + Pen(object));
+            break;
+        case ObjectKind::Rectangle:
+            drawing.push_back("rectangle " + corners + Pen(object));
+            break;
+        case ObjectKind::Polygon:
+            drawing.push_back(Vertices(object));
+            break;
+        case ObjectKind::Text:
+            drawing.push_back(Words(object));
+            break;
+        default:
+            drawing.push_back("another kind");
+        }
+    }
+    return drawing;
+}
+
+Drawing DrawnTexts()
+{
+    Drawing words;
+    for (const PageObject& object : PageList.Objects)
+        if (object.Kind == ObjectKind::Text)
+            words.push_back(object.String);
+    return words;
+}
+
+Text PenPlace()
+{
+    return Place(RoundInt32(PageCanvas.penX), RoundInt32(PageCanvas.penY));
+}
+
+bool EndsAtBaseline(float x)
+{
+    return std::fabs(PageCanvas.penX - (ColumnX + 600 * x)) < 0.01 && std::fabs(PageCanvas.penY - ColumnY) < 0.01 &&
+           PageCanvas.scaleX == 1 && PageCanvas.scaleY == 1 && PageList.Default.PenStyle == 0;
+}
+
+Text BreakFile()
+{
+    return ReadBreak();
+}

@@ -1,0 +1,48 @@
+// columnpage.h -- a page with one column under test, and what was drawn on it in words that a test can spell.
+//
+// The column's left edge on the baseline is at (ColumnX, ColumnY). Places are told in device units, 600 to the inch,
+// right of the column's left edge and down from the depth line, which is 60 below the baseline.
+#pragma once
+
+#include "testing.h"
+
+#include "session/text.h"
+
+#include <vector>
+
+constexpr int ColumnX = 600, ColumnY = 1800;
+
+using Drawing = std::vector<Text>;
+
+// Empty log records, heading words that name their slots, "0" in break.mas, a started page with the pen at the
+// column. The column is 2 inches wide and shows depths 0 to 67, 10 to the inch.
+void StartColumn();
+
+// The contacts of the boring, all of them on the page, the last one its end.
+void SetContacts(std::initializer_list<float> depths);
+void SetLines(std::initializer_list<const char*> lines);
+
+// The objects behind the first skip ones, one text each:
+//     line 0,0 1200,0 dotted          rectangle 0,0 600,300
+//     text 30,48 8pt Clay bold        (the place is the pen's, before the nudge that sits text on its line)
+//     polygon 0,0 150,0 F21 150,-60   (vertices; then "black", or the pattern's name without "_sc.BMP")
+Drawing Drawn(size_t skip = 0);
+Drawing DrawnTexts(); // the words only
+
+// Where the pen is, "1200,-60" for the right edge on the baseline.
+Text PenPlace();
+// The pen on the baseline at x inches, both scales 1, line style 1: what the next column relies on.
+bool EndsAtBaseline(float x);
+Text BreakFile(); // the line in break.mas
+
+// A drawing that differs is shown line by line.
+template <>
+struct doctest::StringMaker<Drawing> {
+    static doctest::String convert(const Drawing& drawing)
+    {
+        Text lines = "\n";
+        for (const Text& object : drawing)
+            lines += "    " + object + "\n";
+        return lines.c_str();
+    }
+};

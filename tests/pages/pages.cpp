@@ -1,0 +1,94 @@
+// pages.cpp -- golden pages: the working folder of a run, and the comparison.
+#include "pages/pages.h"
+
+#include "testing.h"
+
+#include "canvas/batch.h"
+#include "canvas/patterns.h"
+#include "canvas/screenview.h"
+#include "logrender/vlog.h"
+#include "session/deviceconfig.h"
+#include "session/files.h"
+#include "session/session.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+// Links to the stock files and folders of the build, then the files of the case over them.
+static void LayOutFolder(const std::string& folder)
+{
+    namespace fs = std::filesystem;
+    const fs::path stock = BUILD_DIR;
+    for (const char* name : {"us.hdg", "logo.txt", "LOGO.BMP", "fills"})
+        fs::create_symlink(stock / name, Scratch(name));
+    for (const auto& entry : fs::directory_iterator(stock))
+        if (SameText(entry.path().extension().string(), ".lay"))
+            fs::create_symlink(entry.path(), Scratch(entry.path().filename().string()));
+    for (const auto& entry : fs::directory_iterator(folder))
+        if (entry.is_regular_file()) {
+            const Text to = Scratch(entry.path().filename().string());
+            fs::remove(to);
+            fs::copy_file(entry.path(), to);
+        }
+}
+
+std::string DrawLogs(const std::string& folder, const std::vector<Text>& borings)
+{
+    LayOutFolder(folder);
+    filluscscodes();
+    TintsInMemory = true;
+    JobTable[2] = VLOG::vlogstart;
+    std::string listing;
+    Listings.clear();
+    for (const Text& boring : borings) {
+        jobCode = 2;
+        singleFile = 1;
+        singleFileName = boring;
+        frmDrawPrint::Dialog = frmDrawPrint::Record();
+        DrawPrintLoad();
+        DrawPrintOk();
+    }
+    singleFile = 0;
+    for (const std::string& page : Listings)
+        listing += page;
+    return listing;
+}
+
+static std::vector<std::string> SplitLines(const std::string& text)
+{
+    std::vector<std::string> lines;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+static bool Accepting(const std::string& name)
+{
+    const char* accept = std::getenv("STRATAVUE_ACCEPT");
+    return accept && (std::string(accept) == "all" || name == accept || name.starts_with(std::string(accept) + "/"));
+}
+
+void CheckListing(const std::string& name, const std::string& listing)
+{
+    const std::string file = std::string(SOURCE_DIR) + "/tests/pages/" + name + ".jsonl";
+    if (Accepting(name)) {
+        std::filesystem::create_directories(std::filesystem::path(file).parent_path());
+        std::ofstream(file, std::ios::binary) << listing;
+        return;
+    }
+    std::ifstream in(file, std::ios::binary);
+    const std::string kept(std::istreambuf_iterator<char>(in), {});
+    REQUIRE_MESSAGE(!kept.empty(), "no kept listing " << file);
+    const std::vector<std::string> expected = SplitLines(kept), drawn = SplitLines(listing);
+    int told = 0;
+    for (size_t i = 0; i < std::max(expected.size(), drawn.size()) && told < 10; ++i) {
+        const std::string before = i < expected.size() ? expected[i] : "(nothing)";
+        const std::string now = i < drawn.size() ? drawn[i] : "(nothing)";
+        if (before != now) {
+            ++told;
+            FAIL_CHECK(name << ", line " << i + 1 << "\n  kept:  " << before << "\n  drawn: " << now);
+        }
+    }
+}

@@ -1,0 +1,15 @@
+// pages.h -- golden pages: runs drawn from files, their listings against kept ones.
+#pragma once
+
+#include "session/text.h"
+
+#include <vector>
+
+// Draws the borings as one run, in a working folder made of the stock data with the files of the folder over it, and
+// gives the listing of all its pages. The date is fixed and the paths are bare names, so that a listing is the same on
+// every machine.
+std::string DrawLogs(const std::string& folder, const std::vector<Text>& borings);
+
+// Compares with the kept listing tests/pages/NAME.jsonl, line by line; says the first lines that differ. With
+// STRATAVUE_ACCEPT set to the name, its folder or "all", the kept listing is replaced instead.
+void CheckListing(const std::string& name, const std::string& listing);

@@ -1,0 +1,21 @@
+// samples_test.cpp -- the golden pages of the sample borings.
+#include "pages/pages.h"
+
+#include "testing.h"
+
+#include "session/files.h"
+
+TEST_CASE("the sample borings draw the kept pages, object by object, and without a message")
+{
+    const std::string folder = std::string(BUILD_DIR) + "/samples";
+    for (const Text& boring : FilesIn(folder, ".BOR")) {
+        CAPTURE(boring);
+        std::filesystem::remove_all(ScratchFolder());
+        std::filesystem::create_directories(ScratchFolder());
+        const std::string listing = DrawLogs(folder, {boring});
+        for (const PlainMessage& message : Messages)
+            FAIL_CHECK(message.words);
+        Messages.clear();
+        CheckListing("samples/" + boring.substr(0, boring.size() - 4), listing);
+    }
+}
