@@ -1,7 +1,8 @@
-// controls.cpp -- grids as plain records.
+// controls.cpp -- grids and text boxes as plain records.
 #include "session/controls.h"
 
 #include "session/failure.h"
+#include "session/linebreaks.h"
 
 #include <algorithm>
 
@@ -47,4 +48,19 @@ void Grid::ClearRows(int first, int last)
 void Grid::Clear()
 {
     ClearRows(1, rows);
+}
+
+int Memo::Points() const
+{
+    return factor == 1550 ? 8 : 7;
+}
+
+int64_t Memo::Room() const
+{
+    return BoxRoom(widthTwips, factor, Points());
+}
+
+std::vector<Text> Memo::DisplayLines() const
+{
+    return BreakLines(text, Room());
 }

@@ -25,5 +25,7 @@ struct Memo {
     Text text;
     int widthTwips = 0;
     int factor = 1550;                      // twips of room to an inch of text: 1550 for 8 point, 1750 for 7 point
+    int Points() const;                     // the size that factor stands for
+    int64_t Room() const;                   // of a line, in the line breaker's units
     std::vector<Text> DisplayLines() const; // every character but the line ends stands in one of them
 };

@@ -1,0 +1,22 @@
+// fillform.h -- from the boring record into the boxes of the log tool's window, and how the boxes are sized.
+//
+// No widget is known here: the window shows the records of boring/boringboxes.h and calls these at its changes.
+#pragma once
+
+#include "session/text.h"
+
+void FillBoringForm(); // BoringData into the boxes; called behind OpenBoringFile2. Leaves FileChanged 1
+// The clearing of New: no file name, empty boxes and record, options off; FileChanged 0. Neither asks nor sets fonts.
+void ClearBoringForm();
+
+// After every change of the report parts or the well names: takes the report parts, puts in default widths, warns of
+// widths out of range, sizes the boxes of the limited ones and shows the total width. Sets FileChanged.
+void BorTextChange();
+void SetupGridChange();  // a parameter set-up grid: taken into the record, and the headings that show its names
+void LayoutFileChange(); // the layout box: sizes the general notes box. Sets FileChanged
+
+// The layout file of the layout box, as it is named: the page's orientation and whether the general notes are narrow.
+// A file that is not there changes nothing.
+void findbottnotewidth();
+void changebottnotewidth(); // sizes the general notes box by what was found
+void ResetTextBoxes();      // all text boxes, after a change of the font or of the text adjustments
