@@ -4,14 +4,19 @@
 #include "canvas/pageobjects.h"
 
 class QPainter;
-class QSizeF;
-class QRectF;
 
 enum class PatternForm {
     Screen, // the 25 by 25 form, a pixel of it a pixel of the device, anchored at the page's corner, whatever the zoom
     Print   // the full bitmap, a pixel of it 1/600 inch
 };
 
-// Draws the list with the painter's origin at the page's upper left corner. scale: device pixels to a device unit of
-// the page. A pattern's white is transparent. Failure 53 or 481 for a picture that cannot be had.
+// Draws the list with the painter's origin at the page's upper left corner, and leaves the painter as it was.
+// scale: units of the painter to a device unit of the page. A pattern's white is transparent. A picture that cannot
+// be had is left out; when all else is drawn the first of these failures is raised, 53 or 481.
 void PaintPage(QPainter& painter, double scale, PatternForm form);
+
+// The sum of the advance widths of a text's characters in parts of the em: no kerning, no rounding.
+double TextAdvance(const Text& words, const Text& fontName, bool bold);
+
+// The font that Arial is drawn with is on this machine. Without it a page comes out in another font.
+bool PageFontThere();

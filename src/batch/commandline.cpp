@@ -1,0 +1,148 @@
+// commandline.cpp -- reading a command line by the table of jobs. A new job is a line of the table.
+#include "batch/commandline.h"
+
+#include "session/files.h"
+
+#include <algorithm>
+
+static constexpr char DrawingOptions[] = "--home DIR|--project DIR|--page N|--date TEXT|--pdf FILE|--png DIR|--dpi N|"
+                                         "--dxf DIR|--list FILE";
+static constexpr char SheetOptions[] = "--home DIR|--pdf FILE|--png DIR|--dpi N|--list FILE";
+
+static constexpr BatchJob Jobs[] = {
+    {"log", 2, 0, DrawingOptions, "FILE.BOR...", "the boring logs of saved borings"},
+    {"guide", 9, 0, SheetOptions, "", "the Fill Pattern Guide"},
+};
+
+static constexpr int SmallestDpi = 10, LargestDpi = 1200;
+
+namespace
+{
+struct Option {
+    const char* name;
+    Text CommandLine::*text; // where its word goes; --dpi and --date have places of their own
+    bool path;
+};
+} // namespace
+
+static constexpr Option Options[] = {
+    {"--home", &CommandLine::Home, true},  {"--project", &CommandLine::Project, true},
+    {"--page", &CommandLine::Page, false}, {"--date", &CommandLine::Date, false},
+    {"--pdf", &CommandLine::Pdf, true},    {"--png", &CommandLine::Png, true},
+    {"--dpi", nullptr, false},             {"--dxf", &CommandLine::Dxf, true},
+    {"--list", &CommandLine::List, true},
+};
+
+static bool Knows(const BatchJob& job, std::string_view option)
+{
+    const std::string_view options = job.Options;
+    const size_t at = options.find(std::string(option) + " ");
+    return at != std::string_view::npos && (at == 0 || options[at - 1] == '|');
+}
+
+static bool IsNumber(const std::string& word)
+{
+    return !word.empty() && word.size() < 6 &&
+           std::all_of(word.begin(), word.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+// The option at the front of the words, with its word; what is wrong with it, "" for nothing.
+static std::string TakeOption(CommandLine& line, const std::string& name, const std::string* word)
+{
+    const auto option = std::find_if(std::begin(Options), std::end(Options), [&](const Option& o) { return o.name == name; });
+    if (option == std::end(Options) || !Knows(*line.Job, name))
+        return std::string("unknown option for ") + line.Job->Name + ": " + name;
+    if (!word || word->empty())
+        return "nothing behind " + name;
+    if (name == "--dpi") {
+        line.Dpi = IsNumber(*word) ? std::stoi(*word) : 0;
+        if (line.Dpi < SmallestDpi || line.Dpi > LargestDpi)
+            return "--dpi takes a number from 10 to 1200, not " + *word;
+        return "";
+    }
+    if (name == "--page" && !IsNumber(*word))
+        return "--page takes a number, not " + *word;
+    line.*option->text = option->path ? FullPath(FromUtf8(*word)) : FromUtf8(*word);
+    return "";
+}
+
+CommandLine ReadCommandLine(const std::vector<std::string>& words)
+{
+    CommandLine line;
+    if (std::any_of(words.begin(), words.end(), [](const std::string& w) { return w == "--help" || w == "-h"; })) {
+        line.Help = true;
+        return line;
+    }
+    if (words.empty()) {
+        line.Wrong = "no job given";
+        return line;
+    }
+    const auto job = std::find_if(std::begin(Jobs), std::end(Jobs), [&](const BatchJob& j) { return j.Name == words[0]; });
+    if (job == std::end(Jobs)) {
+        line.Wrong = "unknown job: " + words[0];
+        return line;
+    }
+    line.Job = job;
+    bool optionsEnd = false, dpiGiven = false;
+    for (size_t i = 1; i < words.size() && line.Wrong.empty(); ++i) {
+        const std::string& word = words[i];
+        if (word == "--" && !optionsEnd)
+            optionsEnd = true;
+        else if (word.size() > 1 && word[0] == '-' && !optionsEnd) {
+            line.Wrong = TakeOption(line, word, i + 1 < words.size() ? &words[i + 1] : nullptr);
+            line.DateGiven = line.DateGiven || word == "--date";
+            dpiGiven = dpiGiven || word == "--dpi";
+            ++i;
+        } else if (word.empty())
+            line.Wrong = "an empty file name";
+        else
+            line.Files.push_back(FullPath(FromUtf8(word)));
+    }
+    const bool takesFiles = *job->Files != '\0';
+    if (line.Wrong.empty() && takesFiles && line.Files.empty())
+        line.Wrong = std::string("no file given for ") + job->Name;
+    if (line.Wrong.empty() && !takesFiles && !line.Files.empty())
+        line.Wrong = std::string(job->Name) + " takes no file";
+    if (line.Wrong.empty() && dpiGiven && line.Png.empty())
+        line.Wrong = "--dpi goes with --png";
+    if (!line.Wrong.empty())
+        line.Job = nullptr;
+    return line;
+}
+
+std::string UsageText()
+{
+    std::string text = "Usage:\n";
+    for (const BatchJob& job : Jobs) {
+        text += std::string("  stratavue-batch ") + job.Name;
+        std::string options = job.Options;
+        for (size_t at = 0; at < options.size();) {
+            const size_t end = std::min(options.find('|', at), options.size());
+            const std::string option = options.substr(at, end - at);
+            at = end + 1;
+            if (option == "--png DIR")
+                text += " [--png DIR [--dpi N]]";
+            else if (option != "--dpi N")
+                text += " [" + option + "]";
+        }
+        if (*job.Files)
+            text += std::string(" ") + job.Files;
+        text += "\n";
+    }
+    text += "Jobs:\n";
+    for (const BatchJob& job : Jobs)
+        text += std::string("  ") + job.Name + std::string(15 - std::string_view(job.Name).size(), ' ') + "draws " +
+                job.ThatDraws + "\n";
+    text += "Options:\n"
+            "  --home DIR     the working folder, with the set-up and the stock files (the program's own folder)\n"
+            "  --project DIR  the project folder (the folder of the first file)\n"
+            "  --page N       only page N of each boring\n"
+            "  --date TEXT    the text of the date line (today)\n"
+            "  --pdf FILE     all pages as one PDF\n"
+            "  --png DIR      each page as a picture, --dpi N dots to the inch (150)\n"
+            "  --dxf DIR      each page as a drawing\n"
+            "  --list FILE    the objects of all pages as lines of text\n"
+            "Messages go to standard error, one line each. The exit status is 0 when every page was drawn and no\n"
+            "message appeared, 1 when one appeared, and 2 for a wrong command line.\n";
+    return text;
+}

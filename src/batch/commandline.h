@@ -1,0 +1,29 @@
+// commandline.h -- the command lines of stratavue-batch: the table of its jobs, and what was asked.
+#pragma once
+
+#include "session/text.h"
+
+#include <vector>
+
+struct BatchJob {
+    const char* Name;      // the first word of the command line
+    int16_t JobCode;       // the job of the batch dialog that it runs
+    int16_t ReportOption;  // the dialog's report choice
+    const char* Options;   // the options that it knows, in the order of its usage line
+    const char* Files;     // what it takes besides, for the usage line; "" for none
+    const char* ThatDraws; // its line of the help
+};
+
+struct CommandLine {
+    const BatchJob* Job = nullptr; // none for a wrong command line or --help
+    bool Help = false;
+    std::string Wrong; // what is wrong with it; empty when nothing is
+    Text Home, Project, Pdf, Png, Dxf, List; // full paths; empty when not given
+    Text Page, Date;
+    bool DateGiven = false;
+    int Dpi = 150;
+    std::vector<Text> Files; // full paths
+};
+
+CommandLine ReadCommandLine(const std::vector<std::string>& words); // the words behind the program's name, in UTF-8
+std::string UsageText();

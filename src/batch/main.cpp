@@ -1,0 +1,293 @@
+// main.cpp -- stratavue-batch: the jobs of the program without its windows. The printer is replaced by files, and
+// the boxes by lines on standard error.
+#include "batch/commandline.h"
+#include "canvas/batch.h"
+#include "canvas/dxf.h"
+#include "canvas/pagelisting.h"
+#include "canvas/patterns.h"
+#include "canvas/screenview.h"
+#include "logrender/vlog.h"
+#include "platform/qt/headless.h"
+#include "platform/qt/pagepainter.h"
+#include "platform/qt/pdfrun.h"
+#include "platform/qt/pngpages.h"
+#include "session/deviceconfig.h"
+#include "session/failure.h"
+#include "session/files.h"
+#include "session/platform.h"
+#include "session/session.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <memory>
+#include <set>
+#include <system_error>
+#include <unistd.h>
+
+enum ExitStatus { AllDrawn = 0, MessageAppeared = 1, WrongCommandLine = 2 };
+
+static CommandLine Asked;
+static int MessageCount = 0;
+static int PageCount = 0;                 // pages drawn in this run
+static Text PageName;                     // "B-1-2": names the files of the page in hand
+static std::map<Text, int> PagesOf;       // pages drawn of each base name
+static std::unique_ptr<PdfRun> Pdf;       // from the first page on
+
+// ---- Messages
+
+// One line on standard error. The same words for the same file come once: a bad heading file would be told at
+// every page.
+static void Say(const Text& words)
+{
+    static std::set<std::pair<Text, Text>> said;
+    ++MessageCount;
+    if (!said.insert({RunPages.pageFile, words}).second)
+        return;
+    Text line;
+    for (const char letter : words) {
+        const bool lineBreak = letter == '\r' || letter == '\n';
+        if (!lineBreak)
+            line += letter;
+        else if (letter == '\n' && !line.empty() && line.back() == ' ' && !words.empty())
+            continue;
+        else
+            line += ' ';
+    }
+    std::fprintf(stderr, "%s\n", ToUtf8(line).c_str());
+}
+
+// Nobody answers: the answer that loses nothing.
+static int Box(const Text& words, Buttons buttons, Icon)
+{
+    Say(words);
+    switch (buttons) {
+    case OkOnly:
+        return Ok;
+    case YesNo:
+        return No;
+    case OkCancel:
+    case YesNoCancel:
+        break;
+    }
+    return Cancel;
+}
+
+// ---- The page
+
+// The page in hand by name, numbered within the files of one base name, so that no page takes the place of another.
+static void NamePage()
+{
+    Text name = BaseName(RunPages.pageFile);
+    if (name.empty())
+        name = Asked.Job->Name;
+    else if (HasEnding(name))
+        name.resize(name.rfind('.'));
+    PageName = name + "-" + PlainNumber(++PagesOf[UpperCase(name)]);
+}
+
+static std::ofstream Listing;
+
+static void ListPage()
+{
+    const std::string lines = PageListing(PageCount, RunPages.pageFile);
+    if (!Listing.write(lines.data(), std::streamsize(lines.size())).flush())
+        throw RunTimeError{DiskFull};
+}
+
+static void PageDrawn()
+{
+    ++PageCount;
+    NamePage();
+    if (!Asked.List.empty())
+        ListPage();
+    if (!Asked.Dxf.empty())
+        WriteWholeFile(JoinPath(Asked.Dxf, PageName + ".dxf"), PageDxf(), Durability::Scratch);
+}
+
+static void PrintPage()
+{
+    if (Asked.Pdf.empty() && Asked.Png.empty())
+        return;
+    StartWithoutScreen();
+    if (PageCount == 1 && !PageFontThere())
+        Say("The font Liberation Sans is not installed: text is drawn in another font.");
+    // A page whose logo is damaged goes out without it everywhere, and is told once.
+    int failure = 0;
+    const auto attempt = [&](auto output) {
+        try {
+            output();
+        } catch (const RunTimeError& error) {
+            failure = failure == 0 ? error.Number : failure;
+        }
+    };
+    if (!Asked.Pdf.empty())
+        attempt([] {
+            if (!Pdf)
+                Pdf = std::make_unique<PdfRun>(Asked.Pdf, PageCount == 1 ? BaseName(RunPages.pageFile) : "");
+            Pdf->AddPage();
+        });
+    if (!Asked.Png.empty())
+        attempt([] { SavePagePng(JoinPath(Asked.Png, PageName + ".png"), Asked.Dpi); });
+    if (failure != 0)
+        throw RunTimeError{failure};
+}
+
+// A job that would show its page prints it, and goes on.
+static void ShowPage()
+{
+    printcanvas();
+    NextPage();
+}
+
+static void FillPlatform()
+{
+    Platform.MsgBox = Box;
+    Platform.InputBox = [](const Text& prompt, const Text&, const Text&) {
+        Say(prompt);
+        return Text();
+    };
+    Platform.PrinterSheet = DefaultSheet;
+    Platform.PageDrawn = PageDrawn;
+    Platform.ShowPage = ShowPage;
+    Platform.PrintPage = PrintPage;
+    Platform.EndPrintRun = [] {};
+    Platform.ShowDrawPrint = [] {};
+    Platform.ShowPrinting = [] {};
+    Platform.ShowProgress = [](bool) {};
+    Platform.StepProgress = [](const Text&, float) {};
+    Platform.ShowChooser = [] { DialogResult = ""; };
+    Platform.ShowHelp = [] {};
+    Platform.Breathe = [] {};
+    Platform.ShortDate = [] { return Asked.DateGiven ? Asked.Date : ShortDateOfLocale(); };
+    Platform.Unattended = true;
+}
+
+static void FillJobTable()
+{
+    JobTable[1] = JobTable[2] = VLOG::vlogstart;
+    JobTable[9] = patternstart;
+}
+
+// ---- The run
+
+namespace
+{
+// The private folder of the run files, gone with the run.
+struct PrivateFolder {
+    PrivateFolder()
+    {
+        std::string name = std::filesystem::temp_directory_path().string() + "/stratavue-XXXXXX";
+        if (!::mkdtemp(name.data()))
+            RaiseSystemError(errno, true);
+        path = name;
+        RunFolder = FullPath(FromUtf8(path));
+    }
+    ~PrivateFolder()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(path, ignored);
+    }
+    PrivateFolder(const PrivateFolder&) = delete;
+    PrivateFolder& operator=(const PrivateFolder&) = delete;
+    std::string path;
+};
+} // namespace
+
+static Text ExecutableFolder()
+{
+    std::error_code ignored;
+    return FromUtf8(std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path().string());
+}
+
+// The folder of an option, made if it is not there.
+static void OutputFolder(const Text& folder)
+{
+    if (folder.empty())
+        return;
+    std::error_code error;
+    std::filesystem::create_directories(NativePath(folder), error);
+    if (error)
+        RaiseSystemError(error.value(), true);
+}
+
+// What the batch dialog would hold: the files, all marked, and the report choice. The files may lie in several
+// folders, so the folder of the dialog is empty and its list has their full paths.
+static void FillDialog()
+{
+    jobCode = Asked.Job->JobCode;
+    singleFile = Asked.Files.empty() ? int16_t(1) : int16_t(0);
+    singleFileName = "";
+    DrawPrintLoad();
+    frmDrawPrint::Record& dialog = frmDrawPrint::Dialog;
+    dialog.Dir1 = "";
+    dialog.FileCount = int(Asked.Files.size());
+    for (int i = 1; i <= dialog.FileCount; ++i) {
+        dialog.File1[i] = Asked.Files[size_t(i - 1)];
+        dialog.Selected[i] = true;
+    }
+    dialog.ReportOption = Asked.Job->ReportOption;
+    dialog.AllPages = Asked.Page.empty();
+    dialog.Text1 = Asked.Page;
+}
+
+// Runs the job. The listing grows in a temporary file and takes its place when it is whole.
+static void RunJob()
+{
+    const PrivateFolder privateFolder;
+    WorkingFolder = Asked.Home.empty() ? ExecutableFolder() : Asked.Home;
+    TintsInMemory = true;
+    LoadDevice();
+    if (!Asked.Project.empty())
+        ProjectPath = Asked.Project;
+    else if (!Asked.Files.empty())
+        ProjectPath = FolderName(Asked.Files.front());
+    OutputFolder(Asked.Png);
+    OutputFolder(Asked.Dxf);
+    std::string listing, temporary;
+    if (!Asked.List.empty()) {
+        listing = NativePath(Asked.List);
+        temporary = listing + "." + std::to_string(::getpid()) + ".tmp~";
+        Listing.open(temporary, std::ios::binary);
+        if (!Listing)
+            RaiseSystemError(errno, true);
+    }
+    filluscscodes();
+    FillJobTable();
+    FillDialog();
+    DrawPrintOk();
+    if (Pdf)
+        Pdf->Close();
+    if (!listing.empty()) {
+        Listing.close();
+        if (!Listing || std::rename(temporary.c_str(), listing.c_str()) != 0) {
+            ::unlink(temporary.c_str());
+            throw RunTimeError{DiskFull};
+        }
+    }
+}
+
+int main(int argc, char** argv)
+{
+    Asked = ReadCommandLine({argv + 1, argv + argc});
+    if (Asked.Help) {
+        std::fputs(UsageText().c_str(), stdout);
+        return AllDrawn;
+    }
+    if (!Asked.Wrong.empty()) {
+        std::fprintf(stderr, "stratavue-batch: %s (see stratavue-batch --help)\n", Asked.Wrong.c_str());
+        return WrongCommandLine;
+    }
+    FillPlatform();
+    try {
+        RunJob();
+    } catch (...) {
+        Say("Run-time error" + NumberText(FailureInHand()));
+    }
+    Pdf.reset();
+    std::fflush(stderr);
+    return MessageCount == 0 ? AllDrawn : MessageAppeared;
+}

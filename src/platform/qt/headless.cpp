@@ -1,0 +1,40 @@
+// headless.cpp -- fonts, pictures and the PDF writer, with no screen and no theme.
+#include "platform/qt/headless.h"
+
+#include <QDate>
+#include <QGuiApplication>
+#include <QLocale>
+
+#include <cstdio>
+#include <cstdlib>
+
+// What the library has to tell is about screens and themes, of no use here; only its last words are passed on.
+static void Silence(QtMsgType type, const QMessageLogContext&, const QString& words)
+{
+    if (type == QtFatalMsg)
+        std::fprintf(stderr, "%s\n", qPrintable(words));
+}
+
+void StartWithoutScreen()
+{
+    static bool started = false;
+    if (started)
+        return;
+    started = true;
+    qInstallMessageHandler(Silence);
+    // The user's desktop theme would be loaded, and might look for the display.
+    qunsetenv("QT_QPA_PLATFORMTHEME");
+    qunsetenv("QT_STYLE_OVERRIDE");
+    qunsetenv("QT_SCALE_FACTOR");
+    static char name[] = "stratavue-batch", option[] = "-platform", platform[] = "offscreen";
+    static char* words[] = {name, option, platform, nullptr};
+    static int count = 3;
+    // Not given back: the process ends with its last page, and the faces of the painter live as long.
+    static QGuiApplication* application = new QGuiApplication(count, words);
+    static_cast<void>(application);
+}
+
+Text ShortDateOfLocale()
+{
+    return FromUtf8(QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString());
+}

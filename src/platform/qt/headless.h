@@ -1,0 +1,11 @@
+// headless.h -- the window system's library without a screen: what a page needs of it to be painted.
+#pragma once
+
+#include "session/text.h"
+
+// Starts it, once; before the first page is painted and never earlier, since a run that only lists pages has no use
+// for it. It says nothing on standard error.
+void StartWithoutScreen();
+
+// Today, in the short form of the user's locale.
+Text ShortDateOfLocale();

@@ -1,0 +1,185 @@
+// pdfrun.cpp -- a PDF of vector pages with searchable text, and whether a PDF is one of ours.
+#include "platform/qt/pdfrun.h"
+
+#include "canvas/metaugl.h"
+#include "platform/qt/pagepainter.h"
+#include "session/failure.h"
+#include "session/files.h"
+#include "session/session.h"
+
+#include <QFile>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+
+#include <atomic>
+#include <cerrno>
+#include <cmath>
+#include <cstdio>
+#include <unistd.h>
+
+static constexpr double Margin = 0.25; // inches of the paper on each side of the sheet
+static constexpr char Producer[] = "Stratavue 1.0";
+// The document's entries stand at its front, in room made by this many letters of its creator.
+static constexpr int EntryRoom = 100;
+static constexpr qint64 FrontLength = 16384;
+
+struct PdfRun::Body {
+    Body(const std::string& place, const Text& documentTitle)
+        : path(place), temporary(TemporaryFor(place)), title(documentTitle),
+          file(QString::fromStdString(temporary)), writer(&file)
+    {
+    }
+    static std::string TemporaryFor(const std::string& place)
+    {
+        static std::atomic<unsigned> serial = 0;
+        return place + "." + std::to_string(::getpid()) + "-" + std::to_string(++serial) + ".tmp~";
+    }
+    [[noreturn]] void Fail()
+    {
+        const bool full = file.error() == QFileDevice::WriteError || file.error() == QFileDevice::ResourceError;
+        throw RunTimeError{full ? DiskFull : DeviceError};
+    }
+    void Describe();
+
+    std::string path, temporary;
+    Text title;
+    QFile file;
+    QPdfWriter writer;
+    QPainter painter;
+    bool closed = false;
+};
+
+PdfRun::PdfRun(const Text& file, const Text& title)
+{
+    const std::string path = NativePath(file);
+    body = std::make_unique<Body>(path, title);
+    errno = 0;
+    if (!body->file.open(QIODevice::ReadWrite | QIODevice::NewOnly)) {
+        const int reason = errno;
+        RaiseSystemError(reason == 0 ? EACCES : reason, FolderWritable(FolderName(FromUtf8(path))));
+    }
+    // An older file that is write-protected is one to keep.
+    if (::access(path.c_str(), F_OK) == 0 && ::access(path.c_str(), W_OK) != 0) {
+        body->file.remove();
+        throw RunTimeError{PathAccess};
+    }
+    body->writer.setTitle(QString::fromStdString(ToUtf8(title)));
+    body->writer.setCreator(QString(EntryRoom, QLatin1Char(' ')));
+    body->writer.setResolution(600);
+}
+
+PdfRun::~PdfRun()
+{
+    if (!body->closed) {
+        body->painter.end();
+        body->file.remove();
+    }
+}
+
+void PdfRun::AddPage()
+{
+    Body& b = *body;
+    const double unitsPerInch = PageCanvas.unitsPerInch > 0 ? double(PageCanvas.unitsPerInch) : 600;
+    const QSizeF paper(PageList.ExtentWidth / unitsPerInch + 2 * Margin,
+                       PageList.ExtentHeight / unitsPerInch + 2 * Margin);
+    const QPageSize size(paper * 72, QPageSize::Point, QString(), QPageSize::ExactMatch);
+    b.writer.setPageLayout(QPageLayout(size, QPageLayout::Portrait, QMarginsF(0, 0, 0, 0)));
+    const bool begun = b.painter.isActive() ? b.writer.newPage() : b.painter.begin(&b.writer);
+    if (!begun)
+        b.Fail();
+    const double dotsPerUnit = 600 / unitsPerInch;
+    b.painter.resetTransform();
+    b.painter.translate(Margin * 600, Margin * 600);
+    PaintPage(b.painter, dotsPerUnit, PatternForm::Print);
+    if (b.file.error() != QFileDevice::NoError)
+        b.Fail();
+}
+
+// A text as a PDF string: as it stands where it is plain, else in 16-bit Unicode.
+static std::string PdfString(const Text& text)
+{
+    const QString unicode = QString::fromStdString(ToUtf8(text));
+    const bool plain = std::all_of(text.begin(), text.end(), [](char c) { return c >= 32 && c < 127; });
+    std::string bytes = plain ? text : "\xFE\xFF";
+    if (!plain)
+        for (const QChar c : unicode) {
+            bytes += static_cast<char>(c.unicode() >> 8);
+            bytes += static_cast<char>(c.unicode() & 255);
+        }
+    std::string quoted = "(";
+    for (const char c : bytes) {
+        if (c == '(' || c == ')' || c == '\\')
+            quoted += '\\';
+        if (c == '\r')
+            quoted += "\\r";
+        else
+            quoted += c;
+    }
+    return quoted + ")";
+}
+
+// Puts this program's name into the entries of the document, in place of those of the library: whether a file may be
+// replaced goes by it. The time is left out, so that the same pages give the same file.
+void PdfRun::Body::Describe()
+{
+    file.seek(0);
+    QByteArray front = file.read(FrontLength);
+    const qsizetype creator = front.indexOf("/Creator");
+    const qsizetype begin = front.lastIndexOf("<<", creator);
+    const qsizetype end = front.indexOf("endobj", creator);
+    const qsizetype close = front.lastIndexOf(">>", end);
+    if (creator < 0 || begin < 0 || end < 0 || close < begin)
+        throw RunTimeError{DeviceError};
+    std::string entries = "<<\n/Title " + PdfString(title) + "\n/Creator (Stratavue)\n/Producer (" + Producer + ")\n";
+    const auto room = static_cast<size_t>(close - begin);
+    if (entries.size() > room)
+        throw RunTimeError{DeviceError};
+    entries.resize(room, ' ');
+    file.seek(begin);
+    if (file.write(entries.data(), qint64(room)) != qint64(room))
+        Fail();
+}
+
+void PdfRun::Close()
+{
+    Body& b = *body;
+    if (b.painter.isActive() && !b.painter.end())
+        b.Fail();
+    if (b.file.error() != QFileDevice::NoError || !b.file.flush())
+        b.Fail();
+    b.Describe();
+    if (!b.file.flush() || ::fsync(b.file.handle()) != 0)
+        b.Fail();
+    b.file.close();
+    if (std::rename(b.temporary.c_str(), b.path.c_str()) != 0) {
+        const int reason = errno;
+        b.file.remove();
+        b.closed = true;
+        RaiseSystemError(reason, true);
+    }
+    b.closed = true;
+}
+
+bool WrittenByUs(const Text& file)
+{
+    QFile in(QString::fromStdString(NativePath(file)));
+    if (!in.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray front = in.read(FrontLength);
+    return front.startsWith("%PDF-") && front.contains("/Producer (Stratavue ");
+}
+
+Text PdfBeside(const Text& source)
+{
+    Text stem = source;
+    if (BaseName(stem).empty())
+        stem = JoinPath(ProjectPath, "patterns");
+    else if (HasEnding(stem))
+        stem.resize(stem.rfind('.'));
+    for (int number = 1;; ++number) {
+        const Text name = stem + (number == 1 ? "" : "-" + PlainNumber(number)) + ".pdf";
+        if (!FileExists(name) || WrittenByUs(name))
+            return name;
+    }
+}
