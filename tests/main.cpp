@@ -2,10 +2,13 @@
 #define DOCTEST_CONFIG_IMPLEMENT
 #include "testing.h"
 
+#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "logrender/logdata.h"
+#include "report/heading.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -80,6 +83,14 @@ struct Fresh : doctest::IReporter {
         PageCanvas = CanvasRecord();
         PageList = PageListRecord();
         RunPages = RunPagesRecord();
+        stopRequested = progressValue = progressTotal = 0;
+        LogPage = LogPageRecord();
+        LogBoring = LogBoringRecord();
+        LogGeometry = LogGeometryRecord();
+        HeadingWords = {};
+        LegendInUse = 0;
+        LegendBoxFill = {};
+        LogoData = LogoRecord();
         ForgetPatterns();
         TintsInMemory = false;
     }
