@@ -83,7 +83,6 @@ struct Fresh : doctest::IReporter {
         PageCanvas = CanvasRecord();
         PageList = PageListRecord();
         RunPages = RunPagesRecord();
-        stopRequested = progressValue = progressTotal = 0;
         LogPage = LogPageRecord();
         LogBoring = LogBoringRecord();
         LogGeometry = LogGeometryRecord();
@@ -93,6 +92,14 @@ struct Fresh : doctest::IReporter {
         LogoData = LogoRecord();
         ForgetPatterns();
         TintsInMemory = false;
+        jobCode = runFileCount = singleFile = introType = dialogBusy = stopRequested = 0;
+        progressValue = progressTotal = 0;
+        runFiles = {};
+        singleFileName = lastDir = "";
+        JobTable = {};
+        IntroPages = nullptr;
+        frmDrawPrint::Dialog = frmDrawPrint::Record();
+        frmDrawPrint::CloseWindow = nullptr;
     }
     void report_query(const doctest::QueryData&) override
     {

@@ -32,14 +32,17 @@ struct Record {
     Slots<Text, 10000> File1;
     Slots<bool, 10000> Selected;
     int FileCount = 0;
+    bool SelectAll = false;   // Option1 is checked
     bool ReportChoice = true; // Frame2 and Frame3 are there
-    int HeightTwips = 0;
-    int ReportOption = 0; // 0 OptionBor, 1 OptionIntro, 2 OptionIntro2
-    bool AllPages = true; // OptionAll, else OptionPage with Text1
+    int HeightTwips = 0;      // 0: as tall as its boxes need
+    int ReportOption = 0;     // 0 OptionBor, 1 OptionIntro, 2 OptionIntro2
+    bool AllPages = true;     // OptionAll, else OptionPage with Text1
     Text Text1;
     bool Unloaded = true; // the dialog is closed
 };
 extern Record Dialog;
+// Set by the window while it is up: it closes here, before the job's own windows come. May be null.
+extern void (*CloseWindow)();
 bool Command1(); // OK; true when the dialog has closed
 bool Command2(); // Cancel; false while busy
 void Option1();  // Select All
@@ -51,7 +54,7 @@ void DrawPrintOk();                      // performs the job on the selection, o
 void getpage(Text& first, Text& second); // the two page words of the heading file; an old value stays on failure
 void getsvfiles();                       // log.mas in list form into runFiles
 void incseg(int step);                   // one progress step; the argument is ignored
-void SetProgress(int total);             // the counter to 0 of total
+void SetProgress(int total);             // the counter to 0 of total; a total below 0 is 0
 void WriteBreak(const Text& flag);       // break.mas
 Text ReadBreak();                        // its line; failures by number
 Text MasFile();                          // path of log.mas

@@ -12,14 +12,17 @@ struct RunPagesRecord {
 };
 extern RunPagesRecord RunPages;
 
-// Ends a page: prints it and steps to the next one on a print run, else shows it, blocking.
+// Ends a page, which the platform is told of: prints it and steps to the next one on a print run, else shows it,
+// blocking.
 void ShowOrPrint();
-// The page to the printer: the objects hold the print forms of their patterns meanwhile. Failures by number.
+// The page to the printer: the objects hold the print forms of their patterns meanwhile. Failures by number; a
+// pattern that has gone from the fills folder is 53.
 void printcanvas();
 
 // The page as DXF beside its source, and the box that says so; the name is pageFile with its last 4 characters
 // replaced by ".dxf".
 void ExportDxf();
+Text DxfName(); // failure 5 for a pageFile too short to have an ending
 
 // The commands of the screen view. True: the view is to be hidden, and the run goes on at pageIndex.
 bool NextPage();

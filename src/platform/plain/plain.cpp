@@ -3,6 +3,7 @@
 
 #include "canvas/pagelisting.h"
 #include "canvas/screenview.h"
+#include "session/session.h"
 
 std::vector<PlainMessage> Messages;
 std::deque<int> Answers;
@@ -30,16 +31,6 @@ static Text Input(const Text& prompt, const Text& title, const Text&)
     const Text answer = InputAnswers.front();
     InputAnswers.pop_front();
     return answer;
-}
-
-// Letter and 11 by 17 less a quarter inch on each side, at 600 units to the inch.
-static Sheet DefaultSheet(char mode)
-{
-    if (mode == 'P')
-        return {8.0f, 10.5f, 4800, 6300};
-    if (mode == 'L')
-        return {10.5f, 8.0f, 6300, 4800};
-    return {16.5f, 10.5f, 9900, 6300};
 }
 
 static void Drawn()
@@ -77,6 +68,13 @@ void UsePlainPlatform()
     Platform.StepProgress = [](const Text&, float) {};
     Platform.ShowChooser = [] {};
     Platform.ShowHelp = [] {};
+    Platform.ShowPrinterSetup = [] {};
+    Platform.PrintToPdf = [](bool) {};
+    Platform.ExecutableFolder = [] { return WorkingFolder; };
+    Platform.ShowAbout = [](bool) {};
+    Platform.ShowLogWindow = [] {};
+    Platform.ShowWelcome = [] {};
+    Platform.EndProcess = [] {};
     Platform.Breathe = [] {};
     Platform.ShortDate = [] { return Text("1/2/2026"); };
     Platform.Unattended = false;
