@@ -64,6 +64,27 @@ void SetLines(std::initializer_list<const char*> lines)
         LogBoring.Des[++LogBoring.DesCount] = line;
 }
 
+LogParamSetup Setup(float start, float end, float increment)
+{
+    LogParamSetup setup;
+    setup.Start = start;
+    setup.End = end;
+    setup.Increment = increment;
+    return setup;
+}
+
+void AddSample(float top, float bottom)
+{
+    LogSample& sample = LogBoring.Samples[++LogBoring.SampleCount];
+    sample.Top = top;
+    sample.Bottom = bottom;
+    sample.Blows = "-1";
+    LogGeometry.SampleFirst = 1;
+    LogGeometry.SampleLast = static_cast<int16_t>(LogBoring.SampleCount);
+    LogGeometry.SampleTopHeld = LogBoring.Samples[1].Top;
+    LogGeometry.SampleBottomHeld = bottom;
+}
+
 static Text Place(int32_t x, int32_t y)
 {
     return std::to_string(x - ColumnX) + "," + std::to_string(y - ColumnY - 60);
@@ -81,9 +102,9 @@ static Text Words(const PageObject& object)
     const int32_t nudge = RoundInt32(-0.11 * object.FontHeight);
     const double angle = object.TextAngle;
     const int points = static_cast<int>(std::lround(-object.FontHeight * 72 / 600));
-    return "text " + Place(object.X1 - (angle == 90 ? nudge : 0), object.Y1 - (angle == 0 ? nudge : 0)) + " " +
-           std::to_string(points) + "pt " + object.String + (object.Bold ? " bold" : "") + aligned[object.HAlign] +
-           (angle == 0 ? "" : " at " + PlainNumber(angle));
+    const Text place = Place(object.X1 - (angle == 90 ? nudge : 0), object.Y1 - (angle == 0 ? nudge : 0));
+    return "text " + place + " " + std::to_string(points) + "pt " + object.String + (object.Bold ? " bold" : "") +
+           aligned[object.HAlign] + (angle == 0 ? "" : angle == 90 ? " upward" : " at " + PlainNumber(angle));
 }
 
 static Text Vertices(const PageObject& object)
@@ -95,6 +116,13 @@ static Text Vertices(const PageObject& object)
         return words + (object.BrushColor == 0 ? " black" : object.BrushColor == White ? " white" : " solid");
     const Text name = BaseName(object.TintOf.empty() ? object.BrushPicture : object.TintOf);
     return words + " " + name.substr(0, name.find('_')) + (object.Tint.empty() ? "" : " in " + object.Tint);
+}
+
+static Text Circle(const PageObject& object)
+{
+    return (object.Brush == BrushStyle::Solid && object.BrushColor == 0 ? "dot " : "circle ") +
+           Place((object.X1 + object.X2) / 2, (object.Y1 + object.Y2) / 2) + " " +
+           std::to_string((object.X2 - object.X1) / 2) + Pen(object);
 }
 
 Drawing Drawn(size_t skip)
@@ -109,6 +137,9 @@ Drawing Drawn(size_t skip)
             break;
         case ObjectKind::Rectangle:
             drawing.push_back("rectangle " + corners + Pen(object));
+            break;
+        case ObjectKind::Ellipse:
+            drawing.push_back(Circle(object));
             break;
         case ObjectKind::Polygon:
             drawing.push_back(Vertices(object));
@@ -148,6 +179,11 @@ bool EndsAtBaseline(float x)
 {
     return std::fabs(PageCanvas.penX - (ColumnX + 600 * x)) < 0.01 && std::fabs(PageCanvas.penY - ColumnY) < 0.01 &&
            PageCanvas.scaleX == 1 && PageCanvas.scaleY == 1 && PageList.Default.PenStyle == 0;
+}
+
+Text PageCanvasScales()
+{
+    return PlainNumber(double(PageCanvas.scaleX)) + " " + PlainNumber(double(PageCanvas.scaleY));
 }
 
 Text BreakFile()

@@ -40,7 +40,7 @@ static bool PenAt(float x, float y)
 TEST_CASE("a frame with no title blocks is its box, the date line beside it and the line under the head")
 {
     StartFrame('P');
-    CHECK(Frame() == Drawing{"rectangle 0,0 4320,5760", "text -42,5700 6pt 1/2/2026   /p/new\\B-1.BOR at 90",
+    CHECK(Frame() == Drawing{"rectangle 0,0 4320,5760", "text -42,5700 6pt 1/2/2026   /p/new\\B-1.BOR upward",
                              "line 0,900 4320,900"});
     CHECK(PageList.Objects[0].PenWidth == 8);
     CHECK(PageList.Objects[2].PenWidth == 4);
@@ -60,7 +60,7 @@ TEST_CASE("on a landscape page the date line stands below the frame")
 TEST_CASE("a wide page has the portrait's height")
 {
     StartFrame('T');
-    CHECK(Frame() == Drawing{"rectangle 0,0 9360,5760", "text -42,5700 6pt 1/2/2026   /p/new\\B-1.BOR at 90",
+    CHECK(Frame() == Drawing{"rectangle 0,0 9360,5760", "text -42,5700 6pt 1/2/2026   /p/new\\B-1.BOR upward",
                              "line 0,900 9360,900"});
 }
 

@@ -43,7 +43,7 @@ TEST_CASE("the graphic column has its heading and no box")
 {
     StartUnits(true, {});
     VLOG::drawuscs();
-    CHECK(Drawn() == Drawing{"text 75,-90 8pt W10 at 90", "line 150,-60 150,-780", "line 150,-60 0,-60"});
+    CHECK(Drawn() == Drawing{"text 75,-90 8pt W10 upward", "line 150,-60 150,-780", "line 150,-60 0,-60"});
     CHECK(Messages.empty());
 }
 
@@ -51,7 +51,7 @@ TEST_CASE("the letters column has a heading and a box of its own")
 {
     StartUnits(false, {});
     VLOG::drawuscs();
-    CHECK(Drawn() == Drawing{"text 75,-90 8pt W11 at 90", "line 150,-60 150,-780", "line 150,-60 0,-60",
+    CHECK(Drawn() == Drawing{"text 75,-90 8pt W11 upward", "line 150,-60 150,-780", "line 150,-60 0,-60",
                              "rectangle 0,0 150,3600"});
 }
 
@@ -232,7 +232,7 @@ TEST_CASE("the formation column has its heading and a box")
 {
     StartFormations({});
     VLOG::drawformation();
-    CHECK(Drawn() == Drawing{"line 0,-60 150,-60", "line 150,-60 150,-780", "text 74,-90 8pt W26 at 90",
+    CHECK(Drawn() == Drawing{"line 0,-60 150,-60", "line 150,-60 150,-780", "text 74,-90 8pt W26 upward",
                              "rectangle 0,0 150,3600"});
     CHECK(EndsAtBaseline(0.25f));
     CHECK(PageCanvas.textAngle == 0);
@@ -242,11 +242,11 @@ TEST_CASE("a formation's name reads upward in its middle, abbreviated where the 
 {
     StartFormations({{10, "Sand, S"}, {11, "Clay Till, CT"}, {12, "Abc,x"}, {14, "Gravel,G"}, {15.9f, "Chalk"}});
     VLOG::drawformation();
-    CHECK(Drawn(FormationFront) == Drawing{"line 0,600 150,600", "text 72,300 7pt  Sand  centred at 90",
-                                           "line 0,660 150,660", "text 72,630 7pt   CT  centred at 90",
-                                           "line 0,720 150,720", "text 72,690 7pt  Abc  centred at 90",
-                                           "line 0,840 150,840", "text 72,780 7pt  Gravel  centred at 90",
-                                           "line 0,954 150,954", "text 72,897 7pt    centred at 90"});
+    CHECK(Drawn(FormationFront) == Drawing{"line 0,600 150,600", "text 72,300 7pt  Sand  centred upward",
+                                           "line 0,660 150,660", "text 72,630 7pt   CT  centred upward",
+                                           "line 0,720 150,720", "text 72,690 7pt  Abc  centred upward",
+                                           "line 0,840 150,840", "text 72,780 7pt  Gravel  centred upward",
+                                           "line 0,954 150,954", "text 72,897 7pt    centred upward"});
     CHECK(Messages.empty());
 }
 
@@ -256,5 +256,5 @@ TEST_CASE("on a later page the first formation starts at the depth line")
     LogPage.PageStartDepth = 20;
     LogGeometry.FormationFirst = 2;
     VLOG::drawformation();
-    CHECK(Drawn(FormationFront) == Drawing{"line 0,600 150,600", "text 72,300 7pt  Clay  centred at 90"});
+    CHECK(Drawn(FormationFront) == Drawing{"line 0,600 150,600", "text 72,300 7pt  Clay  centred upward"});
 }

@@ -7,7 +7,7 @@
 
 static constexpr size_t Front = 4; // objects of heading and box
 
-static LogSample& AddSample(float top, float bottom)
+static LogSample& SetSample(float top, float bottom)
 {
     LogSample& sample = LogBoring.Samples[++LogBoring.SampleCount];
     sample.Top = top;
@@ -32,7 +32,7 @@ static void StartSamples()
 // The box of a sample from 5 to 10 feet in this condition.
 static Drawing ConditionBox(const char* condition)
 {
-    AddSample(5, 10).Condition = condition;
+    SetSample(5, 10).Condition = condition;
     LogGeometry.GraphicSampleFlag = true;
     VLOG::drawsamp();
     return Drawn(Front);
@@ -48,12 +48,12 @@ static Text Filled(const char* pattern)
 TEST_CASE("numbered samples are boxes with the number that they have in the boring")
 {
     StartSamples();
-    AddSample(1, 2);
-    AddSample(5, 10);
-    AddSample(20, 30);
+    SetSample(1, 2);
+    SetSample(5, 10);
+    SetSample(20, 30);
     LogGeometry.SampleFirst = 2;
     VLOG::drawsamp();
-    CHECK(Drawn() == Drawing{"text 90,-90 8pt W6 at 90", "line 180,-60 180,-780", "line 180,-60 0,-60",
+    CHECK(Drawn() == Drawing{"text 90,-90 8pt W6 upward", "line 180,-60 180,-780", "line 180,-60 0,-60",
                              "rectangle 0,0 180,3600", "rectangle 30,300 150,600", "text 90,450 7pt  2  centred",
                              "rectangle 30,1200 150,1800", "text 90,1500 7pt  3  centred"});
     CHECK(EndsAtBaseline(0.3f));
@@ -63,7 +63,7 @@ TEST_CASE("sample boxes count from the page's start")
 {
     StartSamples();
     LogPage.PageStartDepth = 4;
-    AddSample(5, 10);
+    SetSample(5, 10);
     VLOG::drawsamp();
     CHECK(Drawn()[Front] == "rectangle 30,60 150,360");
 }
@@ -127,10 +127,10 @@ static Drawing Blows()
 TEST_CASE("blow counts stand in the middle of the parts of their sample")
 {
     StartSamples();
-    AddSample(0, 6).Blows = "6, 8,11";
-    AddSample(10, 12).Blows = "20";
+    SetSample(0, 6).Blows = "6, 8,11";
+    SetSample(10, 12).Blows = "20";
     VLOG::drawblows();
-    CHECK(Drawn() == Drawing{"text 60,-90 8pt W7 at 90", "line 120,-60 120,-780", "line 120,-60 0,-60",
+    CHECK(Drawn() == Drawing{"text 60,-90 8pt W7 upward", "line 120,-60 120,-780", "line 120,-60 0,-60",
                              "rectangle 0,0 120,3600", "text 60,60 7pt  6  centred", "text 60,180 7pt  8  centred",
                              "text 60,300 7pt  11  centred", "text 60,660 7pt  20  centred"});
 }
@@ -139,7 +139,7 @@ TEST_CASE("a sample cut by the page's top shows just the counts that fall on the
 {
     StartSamples();
     LogPage.PageStartDepth = 10;
-    AddSample(10, 14).Blows = "6,8,11";
+    SetSample(10, 14).Blows = "6,8,11";
     LogGeometry.SampleTopHeld = 8;
     CHECK(Blows() == Drawing{"text 60,60 7pt  8  centred", "text 60,180 7pt  11  centred"});
 }
@@ -148,8 +148,8 @@ TEST_CASE("a sample cut by the page's end shows just the counts above it, the en
 {
     StartSamples();
     LogPage.PageEndDepth = 13;
-    AddSample(0, 2).Blows = "1";
-    AddSample(10, 13).Blows = "6,8,11";
+    SetSample(0, 2).Blows = "1";
+    SetSample(10, 13).Blows = "6,8,11";
     LogGeometry.SampleBottomHeld = 16;
     CHECK(Blows() ==
           Drawing{"text 60,60 7pt  1  centred", "text 60,660 7pt  6  centred", "text 60,780 7pt  8  centred"});
@@ -158,15 +158,15 @@ TEST_CASE("a sample cut by the page's end shows just the counts above it, the en
 TEST_CASE("a sample with no blow count leaves the column empty there")
 {
     StartSamples();
-    AddSample(0, 6).Blows = "-1"; // as an empty line is read
-    AddSample(10, 16).Blows = "-5,3";
+    SetSample(0, 6).Blows = "-1"; // as an empty line is read
+    SetSample(10, 16).Blows = "-5,3";
     CHECK(Blows().empty());
 }
 
 TEST_CASE("blow counts that are no numbers are printed, an empty one as blanks")
 {
     StartSamples();
-    AddSample(0, 6).Blows = "WOH,,50/3\"";
+    SetSample(0, 6).Blows = "WOH,,50/3\"";
     CHECK(Blows() ==
           Drawing{"text 60,60 7pt  WOH  centred", "text 60,180 7pt    centred", "text 60,300 7pt  50/3\"  centred"});
 }
@@ -174,7 +174,7 @@ TEST_CASE("blow counts that are no numbers are printed, an empty one as blanks")
 TEST_CASE("of more than ten blow counts the last stands in the tenth place")
 {
     StartSamples();
-    AddSample(0, 10).Blows = "1,2,3,4,5,6,7,8,9,10,11,12";
+    SetSample(0, 10).Blows = "1,2,3,4,5,6,7,8,9,10,11,12";
     const Drawing drawn = Blows();
     REQUIRE(drawn.size() == 10);
     CHECK(drawn[8] == "text 60,510 7pt  9  centred");
@@ -186,8 +186,8 @@ TEST_CASE("of more than ten blow counts the last stands in the tenth place")
 TEST_CASE("laboratory numbers stand in the middle of their samples, an empty one as blanks")
 {
     StartSamples();
-    AddSample(5, 10).LabNumber = "L-7";
-    AddSample(20, 30);
+    SetSample(5, 10).LabNumber = "L-7";
+    SetSample(20, 30);
     VLOG::drawlabno();
     CHECK(Drawn() == Drawing{"text 180,-129 8pt  W9  centred", "line 360,-60 360,-780", "line 360,-60 0,-60",
                              "rectangle 0,0 360,3600", "text 180,450 7pt  L-7  centred",

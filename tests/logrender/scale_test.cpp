@@ -156,7 +156,7 @@ TEST_CASE("a turned depth heading is one line of 8 point, and the numbers stay u
     StartScale(10);
     LogBoring.HeadingTurned = true;
     VLOG::drawscale();
-    CHECK(Drawn()[0] == "text 120,-90 8pt Depth in feet at 90");
+    CHECK(Drawn()[0] == "text 120,-90 8pt Depth in feet upward");
     CHECK(Drawn()[1] == "line 0,-780 0,4080");
     CHECK(Drawn()[6] == "text 180,0 8pt 0 right");
 }
