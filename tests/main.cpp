@@ -122,6 +122,7 @@ struct Fresh : doctest::IReporter {
         LogBoring = LogBoringRecord();
         LogGeometry = LogGeometryRecord();
         LegendBoxFill = {};
+        LogoData = LogoRecord();
         ForgetPatterns();
         TintsInMemory = false;
         jobCode = runFileCount = singleFile = introType = dialogBusy = stopRequested = 0;
