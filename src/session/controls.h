@@ -16,7 +16,8 @@ struct Grid {
 
     int rows, columns;
     std::vector<Text> cells;
-    std::vector<Text> headings; // of the columns, from index 1
+    std::vector<Text> headings;    // of the columns, from index 1
+    std::vector<Text> rowHeadings; // from index 1; short or empty: numbers
     Text title;
 };
 

@@ -3,6 +3,7 @@
 
 #include "canvas/pagelisting.h"
 #include "canvas/screenview.h"
+#include "session/session.h"
 
 std::vector<PlainMessage> Messages;
 std::deque<int> Answers;
@@ -67,6 +68,13 @@ void UsePlainPlatform()
     Platform.StepProgress = [](const Text&, float) {};
     Platform.ShowChooser = [] {};
     Platform.ShowHelp = [] {};
+    Platform.ShowPrinterSetup = [] {};
+    Platform.PrintToPdf = [](bool) {};
+    Platform.ExecutableFolder = [] { return WorkingFolder; };
+    Platform.ShowAbout = [](bool) {};
+    Platform.ShowLogWindow = [] {};
+    Platform.ShowWelcome = [] {};
+    Platform.EndProcess = [] {};
     Platform.Breathe = [] {};
     Platform.ShortDate = [] { return Text("1/2/2026"); };
     Platform.Unattended = false;

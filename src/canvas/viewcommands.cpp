@@ -1,0 +1,91 @@
+// viewcommands.cpp -- the screen view's File menu.
+#include "canvas/viewcommands.h"
+
+#include "canvas/batch.h"
+#include "canvas/metaugl.h"
+#include "canvas/pageobjects.h"
+#include "canvas/screenview.h"
+#include "session/platform.h"
+
+void PrintShownPage()
+{
+    Platform.ShowPrinting();
+    printcanvas();
+    Platform.EndPrintRun();
+}
+
+// The flag of break.mas, which the description column hands from one page to the next. Only log runs write the file.
+static Text BreakFlag()
+{
+    try {
+        return ReadBreak();
+    } catch (...) {
+        return "";
+    }
+}
+
+namespace
+{
+// Everything that a run changes and the page on the screen lives from. Put back even when the run fails.
+struct Kept {
+    RunPagesRecord run = RunPages;
+    PageListRecord list = PageList;
+    CanvasRecord canvas = PageCanvas;
+    int16_t job = jobCode, intro = introType, stop = stopRequested;
+    void (*showPage)() = Platform.ShowPage;
+    Text breakFlag = BreakFlag();
+
+    Kept() = default;
+    Kept(const Kept&) = delete;
+    Kept& operator=(const Kept&) = delete;
+    ~Kept()
+    {
+        Platform.PrintToPdf(false);
+        Platform.ShowPage = showPage;
+        RunPages = run;
+        PageList = list;
+        PageCanvas = canvas;
+        jobCode = job;
+        introType = intro;
+        stopRequested = stop;
+    }
+};
+} // namespace
+
+// Stands in for the screen view while the run goes through once more.
+static void PageToPdf()
+{
+    printcanvas();
+    NextPage();
+}
+
+void ExportPdf()
+{
+    // The run as a person at Next would see it, from its first page to its last, by the very loop that waits here.
+    void (*const run)() = jobCode <= 2 && introType != 0 ? IntroPages : JobTable[jobCode];
+    if (!run)
+        return;
+    const Kept kept;
+    Platform.PrintToPdf(true);
+    Platform.ShowPage = PageToPdf;
+    stopRequested = 0;
+    run();
+    Platform.EndPrintRun();
+    if (!kept.breakFlag.empty())
+        WriteBreak(kept.breakFlag);
+}
+
+static constexpr int GuideJob = 9;
+
+Text ShownPlace()
+{
+    if (jobCode == GuideJob)
+        return "";
+    const bool fromZero = jobCode <= 2 && introType == 0; // a log run; every other run counts from 1
+    return "Page" + NumberText(RunPages.pageIndex + (fromZero ? 1 : 0)) + " of" + NumberText(RunPages.pageCount);
+}
+
+Text ShownFile()
+{
+    return jobCode == GuideJob ? "" : RunPages.pageFile;
+}

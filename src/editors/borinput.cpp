@@ -1,0 +1,199 @@
+// borinput.cpp -- the commands of the log tool's window.
+#include "editors/borinput.h"
+
+#include "boring/boringboxes.h"
+#include "boring/boringdata.h"
+#include "boring/boringfile.h"
+#include "canvas/batch.h"
+#include "editors/fillform.h"
+#include "session/deviceconfig.h"
+#include "session/files.h"
+#include "session/platform.h"
+#include "session/session.h"
+
+static const char* const ToolTitle = "VeskLog - Boring Log Diagram";
+
+// The labels that the boxes bear by design.
+static void LabelBoxes()
+{
+    using namespace frmBorinput;
+    const auto label = [](Grid& grid, const char* title, std::initializer_list<const char*> headings,
+                          std::initializer_list<const char*> rows = {}) {
+        grid.title = title;
+        grid.headings.assign(1, "");
+        grid.headings.insert(grid.headings.end(), headings.begin(), headings.end());
+        grid.headings.resize(grid.columns + 1);
+        grid.rowHeadings.assign(1, "");
+        grid.rowHeadings.insert(grid.rowHeadings.end(), rows.begin(), rows.end());
+    };
+    label(SSInfo, "Boring/Title Information", {"Prompt", "Text"});
+    label(SSScale, "Scale Information", {""},
+          {"End Depth", "Inc,#Ticks", "Page Brk,Len.", "Meas. In,Rot.", "Surf Elev.", "Start Elev.", "X, Y Coord."});
+    label(SSRepParts, "Report Parts", {"Item", "Width"});
+    label(SSP1Setup, "Soil Sample Parameter Set-Up",
+          {"Name", "Lg. Graph Heading", "Graph St.,End,Inc", "Split 1", "Split 2", "Split 3", "Stnd. 1", "Stnd. 2",
+           "Units"});
+    label(SSP2Setup, "General Parameter Set-Up",
+          {"Name", "Lg. Graph Heading", "Graph St.,End,Inc", "Split 1", "Split 2", "Split 3", "File", "Field #/Hdr."});
+    label(SSPar, "General Parameter Data", {"Depth"});
+    label(SSSamp, "Soil Sample Data", {"Start", "End", "Cond.", "Blow Count", "Lab No."});
+    label(SSLith, "Lithology", {"Depth", "USCS", "Line T.", "Color"});
+    label(SSGenWellInfo, "General Well Information", {""},
+          {"Well Name 1", "Well Name 2", "Well Name 3", "Well Name 4", "Ref. Elevation", "Stick-Up", "Depth of S.C. 1",
+           "Depth of S.C. 2", "Depth of S.C. 3", "S.C. Fill #, Offset", "Water Depth 1", "Water Depth 2",
+           "Well Cover (y/n)", "Other Depth"});
+    label(SSOuterLay, "Outer Layers", {"Start", "End", "Text", "Label/Off.", "Fill #, Clr"});
+    label(SSInnerLay, "Inner Layers", {"Start", "End", "Text", "Label/Off.", "Width"});
+    label(SSW, "Well Construction Information", {"Prompt", "Text"});
+    label(SSCuttings, "Cutting Information", {"Depth", "% Fine", "% Medium", "% Coarse"});
+    label(SSFormations, "Formation Information", {"Depth", "Descripton, Abrev."});
+    label(SSLegend, "Intro Page Legend", {"USCS", "Text"});
+    for (int n = 1; n <= SampleParams; ++n)
+        SSSamp.headings[n + 5] = "Param." + NumberText(n);
+    for (int n = 1; n <= GenParams; ++n)
+        SSPar.headings[n + 1] = "Param." + NumberText(n);
+}
+
+void frmBorinput::Load()
+{
+    FileChanged = 0;
+    LoadDevice();
+    ActiveBox = 0;
+    BoringFileName = "";
+    LabelBoxes();
+    Title = ProjectPath + " - " + ToolTitle;
+    // The start widths; a boring's report parts set them anew.
+    MemoDes.widthTwips = 4205 + DeviceConfig.TextAdjust[1];
+    MemoWcon.widthTwips = 3249 + DeviceConfig.TextAdjust[2];
+    MemoRemarks.widthTwips = 2223 + DeviceConfig.TextAdjust[3];
+}
+
+// The question before something that would drop unsaved work. False: the user has thought better of it.
+static bool SaveFirst(const char* question)
+{
+    if (FileChanged != 1)
+        return true;
+    const int answer = MsgBox(question, YesNoCancel, Question);
+    if (answer == Yes)
+        frmBorinput::mnuSave();
+    return answer != Cancel;
+}
+
+void frmBorinput::mnuNew()
+{
+    if (!SaveFirst("Would you like to save the current file before starting a new file?"))
+        return;
+    ClearBoringForm();
+}
+
+void frmBorinput::mnuOpen()
+{
+    // Kept: after a No the flag stays 1, so New asks once more in its own words, and a Cancel there does not stop the
+    // opening; it only skips the clearing.
+    if (!SaveFirst("Would you like to save the current file before opening another file?"))
+        return;
+    DialogMode = 1;
+    Platform.ShowChooser();
+    if (!DialogResult.empty()) {
+        mnuNew();
+        BoringFileName = DialogResult;
+        FileChanged = 0;
+        OpenBoringFile2();
+        FillBoringForm();
+    }
+    FileChanged = 0; // Kept: also when the chooser was cancelled
+}
+
+void frmBorinput::mnuSave()
+{
+    if (BoringFileName.empty()) {
+        mnuSaveAs();
+        return;
+    }
+    boringcheck();
+    SaveBoringFile();
+    FileChanged = 0; // Kept: also when the save was refused
+}
+
+void frmBorinput::mnuSaveAs()
+{
+    DialogMode = 2;
+    Platform.ShowChooser();
+    if (DialogResult.empty())
+        return;
+    Text name = DialogResult;
+    if (!HasEnding(name))
+        name += ".BOR";
+    if (FileExists(name) &&
+        MsgBox("The file, " + name + " already exists.  Do you wish to overwrite it?", YesNo, Question) == No)
+        return;
+    boringcheck();
+    BoringFileName = name;
+    SaveBoringFile();
+    FileChanged = 0; // Kept: also when the save was refused
+    Title = BoringFileName + " - " + ToolTitle;
+}
+
+void frmBorinput::mnuPreview()
+{
+    if (BoringFileName.empty()) {
+        jobCode = 1;
+        Platform.ShowDrawPrint();
+        return;
+    }
+    if (FileChanged == 1)
+        mnuSave();
+    jobCode = 1;
+    singleFile = 1;
+    singleFileName = BoringFileName;
+    DrawPrintLoad();
+    DrawPrintOk();
+    singleFile = 0;
+}
+
+static void Batch(int16_t job)
+{
+    if (!SaveFirst("Would you like to save the current file before drawing?"))
+        return;
+    jobCode = job;
+    Platform.ShowDrawPrint();
+}
+
+void frmBorinput::mnuBatchDraw()
+{
+    Batch(1);
+}
+
+void frmBorinput::mnuPrint()
+{
+    Batch(2);
+}
+
+void frmBorinput::mnuPrintSetup()
+{
+    Platform.ShowPrinterSetup();
+}
+
+void frmBorinput::mnuFillPatt()
+{
+    singleFile = 1;
+    jobCode = 9;
+    DrawPrintOk();
+    singleFile = 0; // else the next batch run would take its file from here
+}
+
+void frmBorinput::mnuHelp()
+{
+    Platform.ShowHelp();
+}
+
+bool frmBorinput::mnuExit()
+{
+    if (!SaveFirst("Would you like to save the current file before quitting?"))
+        return false;
+    FileChanged = 0;
+    if (DeviceChanged == 1)
+        SaveDevice();
+    Platform.EndProcess();
+    return true;
+}

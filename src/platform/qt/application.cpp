@@ -1,0 +1,54 @@
+// application.cpp -- the program as Qt sees it.
+#include "platform/qt/application.h"
+
+#include "session/failure.h"
+#include "session/platform.h"
+#include "session/text.h"
+
+#include <QPalette>
+#include <QStyleFactory>
+#include <cstdlib>
+
+bool StartDone = false;
+
+// One look on every machine: Qt's own style, light, with a calm blue as the only accent.
+static void Dress()
+{
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QPalette palette(QColor(0xf2, 0xf3, 0xf5));
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor(0xf7, 0xf9, 0xfb));
+    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x6b, 0xa8));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Text, QColor(0x1f, 0x26, 0x2e));
+    palette.setColor(QPalette::WindowText, QColor(0x1f, 0x26, 0x2e));
+    palette.setColor(QPalette::ButtonText, QColor(0x1f, 0x26, 0x2e));
+    for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(0x8b, 0x93, 0x9c));
+    QApplication::setPalette(palette);
+}
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv)
+{
+    setApplicationName("Stratavue");
+    setApplicationDisplayName("Stratavue");
+    setQuitOnLastWindowClosed(false); // the log window ends the program, not the last box that closes
+    Dress();
+}
+
+bool Application::notify(QObject* receiver, QEvent* event)
+{
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (...) {
+        TellRunTimeError();
+        return true;
+    }
+}
+
+void TellRunTimeError()
+{
+    MsgBox("Run-time error" + NumberText(FailureInHand()));
+    if (!StartDone)
+        std::_Exit(1);
+}

@@ -1,0 +1,78 @@
+// boxes.cpp -- message boxes and the input box.
+#include "platform/qt/boxes.h"
+
+#include "canvas/batch.h"
+#include "platform/qt/uitext.h"
+#include "platform/qt/windows.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMessageBox>
+
+namespace
+{
+// While a run is under way Escape on a box is Escape on the run: a file that cannot be read brings its message round
+// after round, and this is the way out.
+class Box : public QMessageBox
+{
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->key() == Qt::Key_Escape && RunUnderWay())
+            stopRequested = -1;
+        QMessageBox::keyPressEvent(event);
+    }
+};
+} // namespace
+
+static QMessageBox::StandardButtons Offered(Buttons buttons)
+{
+    switch (buttons) {
+    case OkCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    default:
+        return QMessageBox::Ok;
+    }
+}
+
+int ShowMessageBox(const Text& words, Buttons buttons, Icon icon)
+{
+    Box box(QApplication::activeWindow());
+    box.setObjectName("MsgBox");
+    box.setWindowTitle("Stratavue");
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ToUi(words));
+    box.setIcon(icon == Question      ? QMessageBox::Question
+                : icon == Exclamation ? QMessageBox::Warning
+                                      : QMessageBox::NoIcon);
+    box.setStandardButtons(Offered(buttons));
+    switch (box.exec()) {
+    case QMessageBox::Ok:
+        return Ok;
+    case QMessageBox::Yes:
+        return Yes;
+    case QMessageBox::No:
+        return No;
+    default: // closed without a button: the answer that loses nothing
+        return buttons == OkOnly ? Ok : buttons == YesNo ? No : Cancel;
+    }
+}
+
+Text ShowInputBox(const Text& prompt, const Text& title, const Text& answer)
+{
+    QInputDialog box(QApplication::activeWindow());
+    box.setObjectName("InputBox");
+    box.setWindowTitle(ToUi(title));
+    box.setLabelText(ToUi(prompt));
+    box.setTextValue(ToUi(answer));
+    return box.exec() == QDialog::Accepted ? FromUi(box.textValue()) : Text();
+}

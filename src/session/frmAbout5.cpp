@@ -1,0 +1,69 @@
+// frmAbout5.cpp -- the title box: up while the program loads, then until it is clicked.
+#include "platform/qt/titlepicture.h"
+#include "platform/qt/windows.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPointer>
+#include <QVBoxLayout>
+
+namespace
+{
+class AboutBox : public QDialog
+{
+public:
+    AboutBox();
+
+protected:
+    void mousePressEvent(QMouseEvent*) override
+    {
+        ClickedAway();
+    }
+    void keyPressEvent(QKeyEvent*) override
+    {
+        ClickedAway(); // for who works without a mouse
+    }
+
+private:
+    void ClickedAway()
+    {
+        if (isModal())
+            accept();
+    }
+};
+
+AboutBox::AboutBox() : QDialog(nullptr, Qt::Dialog | Qt::FramelessWindowHint)
+{
+    setObjectName("frmAbout5");
+    setWindowTitle("Stratavue");
+    auto* picture = new QLabel(this);
+    picture->setObjectName("Picture1");
+    picture->setAccessibleName("Stratavue. Click to go on.");
+    picture->setPixmap(TitlePicture(devicePixelRatioF()));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(picture);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    adjustSize();
+}
+} // namespace
+
+static QPointer<AboutBox> box;
+
+void ShowAboutBox(bool blocking)
+{
+    if (!box)
+        box = new AboutBox;
+    if (!blocking) {
+        box->setWindowModality(Qt::NonModal);
+        CentreOnScreen(*box);
+        box->show();
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // painted before the loading begins
+        return;
+    }
+    box->hide();
+    box->exec();
+    delete box;
+}
