@@ -7,6 +7,8 @@
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "logrender/logdata.h"
+#include "report/heading.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -81,6 +83,12 @@ struct Fresh : doctest::IReporter {
         PageCanvas = CanvasRecord();
         PageList = PageListRecord();
         RunPages = RunPagesRecord();
+        LogPage = LogPageRecord();
+        LogBoring = LogBoringRecord();
+        LogGeometry = LogGeometryRecord();
+        HeadingWords = {};
+        LegendInUse = 0;
+        LegendBoxFill = {};
         ForgetPatterns();
         TintsInMemory = false;
         jobCode = runFileCount = singleFile = introType = dialogBusy = stopRequested = 0;

@@ -26,10 +26,14 @@ struct Option {
 } // namespace
 
 static constexpr Option Options[] = {
-    {"--home", &CommandLine::Home, true},  {"--project", &CommandLine::Project, true},
-    {"--page", &CommandLine::Page, false}, {"--date", &CommandLine::Date, false},
-    {"--pdf", &CommandLine::Pdf, true},    {"--png", &CommandLine::Png, true},
-    {"--dpi", nullptr, false},             {"--dxf", &CommandLine::Dxf, true},
+    {"--home", &CommandLine::Home, true},
+    {"--project", &CommandLine::Project, true},
+    {"--page", &CommandLine::Page, false},
+    {"--date", &CommandLine::Date, false},
+    {"--pdf", &CommandLine::Pdf, true},
+    {"--png", &CommandLine::Png, true},
+    {"--dpi", nullptr, false},
+    {"--dxf", &CommandLine::Dxf, true},
     {"--list", &CommandLine::List, true},
 };
 
@@ -49,7 +53,8 @@ static bool IsNumber(const std::string& word)
 // The option at the front of the words, with its word; what is wrong with it, "" for nothing.
 static std::string TakeOption(CommandLine& line, const std::string& name, const std::string* word)
 {
-    const auto option = std::find_if(std::begin(Options), std::end(Options), [&](const Option& o) { return o.name == name; });
+    const auto option =
+        std::find_if(std::begin(Options), std::end(Options), [&](const Option& o) { return o.name == name; });
     if (option == std::end(Options) || !Knows(*line.Job, name))
         return std::string("unknown option for ") + line.Job->Name + ": " + name;
     if (!word || word->empty())
@@ -77,7 +82,8 @@ CommandLine ReadCommandLine(const std::vector<std::string>& words)
         line.Wrong = "no job given";
         return line;
     }
-    const auto job = std::find_if(std::begin(Jobs), std::end(Jobs), [&](const BatchJob& j) { return j.Name == words[0]; });
+    const auto job =
+        std::find_if(std::begin(Jobs), std::end(Jobs), [&](const BatchJob& j) { return j.Name == words[0]; });
     if (job == std::end(Jobs)) {
         line.Wrong = "unknown job: " + words[0];
         return line;

@@ -17,7 +17,7 @@ struct BatchJob {
 struct CommandLine {
     const BatchJob* Job = nullptr; // none for a wrong command line or --help
     bool Help = false;
-    std::string Wrong; // what is wrong with it; empty when nothing is
+    std::string Wrong;                       // what is wrong with it; empty when nothing is
     Text Home, Project, Pdf, Png, Dxf, List; // full paths; empty when not given
     Text Page, Date;
     bool DateGiven = false;

@@ -32,10 +32,10 @@ enum ExitStatus { AllDrawn = 0, MessageAppeared = 1, WrongCommandLine = 2 };
 
 static CommandLine Asked;
 static int MessageCount = 0;
-static int PageCount = 0;                 // pages drawn in this run
-static Text PageName;                     // "B-1-2": names the files of the page in hand
-static std::map<Text, int> PagesOf;       // pages drawn of each base name
-static std::unique_ptr<PdfRun> Pdf;       // from the first page on
+static int PageCount = 0;           // pages drawn in this run
+static Text PageName;               // "B-1-2": names the files of the page in hand
+static std::map<Text, int> PagesOf; // pages drawn of each base name
+static std::unique_ptr<PdfRun> Pdf; // from the first page on
 
 // ---- Messages
 
@@ -48,14 +48,11 @@ static void Say(const Text& words)
     if (!said.insert({RunPages.pageFile, words}).second)
         return;
     Text line;
-    for (const char letter : words) {
-        const bool lineBreak = letter == '\r' || letter == '\n';
-        if (!lineBreak)
-            line += letter;
-        else if (letter == '\n' && !line.empty() && line.back() == ' ' && !words.empty())
+    for (size_t i = 0; i < words.size(); ++i) {
+        const char letter = words[i];
+        if (letter == '\r' && i + 1 < words.size() && words[i + 1] == '\n')
             continue;
-        else
-            line += ' ';
+        line += letter == '\r' || letter == '\n' ? ' ' : letter;
     }
     std::fprintf(stderr, "%s\n", ToUtf8(line).c_str());
 }
@@ -219,9 +216,11 @@ static void OutputFolder(const Text& folder)
 static void FillDialog()
 {
     jobCode = Asked.Job->JobCode;
-    singleFile = Asked.Files.empty() ? int16_t(1) : int16_t(0);
+    singleFile = 1; // no folder is listed
     singleFileName = "";
     DrawPrintLoad();
+    if (!Asked.Files.empty())
+        singleFile = 0;
     frmDrawPrint::Record& dialog = frmDrawPrint::Dialog;
     dialog.Dir1 = "";
     dialog.FileCount = int(Asked.Files.size());
@@ -255,7 +254,6 @@ static void RunJob()
         if (!Listing)
             RaiseSystemError(errno, true);
     }
-    filluscscodes();
     FillJobTable();
     FillDialog();
     DrawPrintOk();

@@ -9,6 +9,8 @@
 #include "session/failure.h"
 #include "session/platform.h"
 
+#include <cmath>
+
 namespace
 {
 enum Test { Begins, Equals };
@@ -68,6 +70,62 @@ static void Cuttings(const Text& name, float)
         VLOG::drawcuttingsgraph();
 }
 
+static int16_t NumberBehind(const Text& name, size_t letters)
+{
+    return RoundInt16(TextNumber(std::string_view(name).substr(letters)));
+}
+
+static void SampleParameter(const Text& name, float width)
+{
+    const double number = std::nearbyint(TextNumber(std::string_view(name).substr(1)));
+    if (number > SampleParams) {
+        MsgBox("Report Part, 'P" + PlainNumber(number) + ",' refers to a parameter number greater than 16.  ", OkOnly,
+               Exclamation);
+        return;
+    }
+    LogGeometry.ParamNumber[1] = RoundInt16(number);
+    VLOG::drawpar(width);
+}
+
+static void SampleGraph(const Text& name, float width)
+{
+    LogGeometry.ParamNumber[1] = NumberBehind(name, 1);
+    VLOG::drawpargraph(width);
+}
+
+static void SamplePair(int16_t first)
+{
+    LogGeometry.ParamNumber[1] = first;
+    LogGeometry.ParamNumber[2] = static_cast<int16_t>(first + 1);
+    VLOG::draw2pargraph();
+}
+
+static void SampleFour(const Text&, float)
+{
+    for (int16_t n = 1; n <= 4; ++n)
+        LogGeometry.ParamNumber[n] = n;
+    VLOG::draw4pargraph();
+}
+
+static void GeneralParameter(const Text& name, float width)
+{
+    LogGeometry.ParamNumber[1] = NumberBehind(name, 2);
+    VLOG::drawgpar(width);
+}
+
+static void GeneralGraph(const Text& name, float)
+{
+    LogGeometry.ParamNumber[1] = NumberBehind(name, 3);
+    VLOG::drawgpargraph();
+}
+
+static void GeneralGraphs(const Text& name, float width)
+{
+    LogGeometry.ColumnWidth = width;
+    LogGeometry.GraphList = name.substr(3);
+    VLOG::drawmpgraph();
+}
+
 static const Column columns[] = {
     {Begins, "DEP", Depth},
     {Begins, "ELEV", Elevation},
@@ -77,10 +135,23 @@ static const Column columns[] = {
     {Begins, "DES", [](const Text&, float width) { Descriptions(width); }},
     {Begins, "SAMP", Samples},
     {Equals, "BLOW COUNT", [](const Text&, float) { VLOG::drawblows(); }},
+    {Equals, "BLOW COUNT GRAPH", [](const Text&, float) { VLOG::drawblowgraph(); }},
+    {Equals, "BLOW COUNT GRAPH-WIDE", [](const Text&, float) { VLOG::drawblowgraph2(); }},
     {Begins, "LAB", [](const Text&, float) { VLOG::drawlabno(); }},
+    {Equals, "P1G", SampleGraph},
+    {Equals, "P2G", SampleGraph},
+    {Equals, "P3G", SampleGraph},
+    {Equals, "P4G", SampleGraph},
+    {Equals, "P12G", [](const Text&, float) { SamplePair(1); }},
+    {Equals, "P34G", [](const Text&, float) { SamplePair(3); }},
+    {Equals, "P1-4G", SampleFour},
+    {Begins, "P", SampleParameter},
     {Begins, "WELL C", [](const Text&, float width) { VLOG::drawwcon(width); }},
     {Begins, "WCON", [](const Text&, float width) { VLOG::drawwcon(width); }},
+    {Begins, "GPG", GeneralGraph},
+    {Begins, "GP", GeneralParameter},
     {Equals, "REMARKS", [](const Text&, float width) { VLOG::drawremarks(width); }},
+    {Begins, "MPG", GeneralGraphs},
     {Begins, "CUTT", Cuttings},
 };
 

@@ -172,7 +172,8 @@ static void ReadContacts(LineReader& in)
 }
 
 // "Graph St.,End,Inc" as an axis. A blank line counts as "0,1,1", for sample parameters one that begins "LOG" too;
-// an increment of 0 resets the axis, unless its start is -999, the mark of a logarithmic sample axis.
+// an increment of 0 resets the axis, unless its start is -999, the mark of a logarithmic sample axis. A fourth piece
+// "N" stands whatever becomes of the others.
 static void ReadAxis(LogParamSetup& setup, bool sample)
 {
     Text axis = setup.Axis;
@@ -183,7 +184,7 @@ static void ReadAxis(LogParamSetup& setup, bool sample)
     setup.Start = TextNumber(axis);
     setup.End = TextNumber(behindStart);
     setup.Increment = TextNumber(behindEnd);
-    setup.NoLines = UpperCase(Trim(Behind(behindEnd, ','))).starts_with("N");
+    setup.NoLines = SameText(Trim(Before(Behind(behindEnd, ','), ',')), "N");
     if (setup.Increment == 0 && !(sample && setup.Start == -999)) {
         setup.Start = 0;
         setup.End = 1;

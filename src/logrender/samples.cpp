@@ -63,11 +63,10 @@ static int SplitBlows(const Text& blows, Slots<Text, 10>& values)
 
 // Each count stands in the middle of its part of the sample. The uncut depths are used, so that a sample across a page
 // break shows on each page just the counts that fall there.
-void VLOG::drawblows()
-try {
+std::vector<VLOG::Blow> VLOG::blowsonpage()
+{
     const LogGeometryRecord& g = LogGeometry;
-    turnedheading(0.1, HeadingWords[7]);
-    narrowcolumn(0.2);
+    std::vector<Blow> blows;
     for (int i = g.SampleFirst; i > 0 && i <= g.SampleLast; ++i) {
         const LogSample& sample = LogBoring.Samples[i];
         if (!(TextNumber(sample.Blows) > -1))
@@ -78,11 +77,20 @@ try {
         const double bottom = i == g.SampleLast ? g.SampleBottomHeld : sample.Bottom;
         for (int j = 1; j <= n; ++j) {
             const float middle = top + (j - 0.5) * (bottom - top) / n;
-            if (middle >= LogPage.PageStartDepth && middle <= LogPage.PageEndDepth) {
-                moveto(0.1, -(double(middle) - double(LogPage.PageStartDepth)));
-                printtext(values[j]);
-            }
+            if (middle >= LogPage.PageStartDepth && middle <= LogPage.PageEndDepth)
+                blows.push_back({middle, values[j]});
         }
+    }
+    return blows;
+}
+
+void VLOG::drawblows()
+try {
+    turnedheading(0.1, HeadingWords[7]);
+    narrowcolumn(0.2);
+    for (const Blow& blow : blowsonpage()) {
+        moveto(0.1, -(double(blow.Depth) - double(LogPage.PageStartDepth)));
+        printtext(blow.Value);
     }
     endcolumn(0.2);
 } catch (...) {

@@ -6,6 +6,8 @@
 
 #include "session/text.h"
 
+#include <vector>
+
 namespace VLOG
 {
 // logrun.cpp
@@ -25,6 +27,11 @@ void drawcuttingsgraph();
 void drawsamp();
 void drawblows();
 void drawlabno();
+struct Blow {
+    float Depth; // of the middle of its part of the sample
+    Text Value;
+};
+std::vector<Blow> blowsonpage(); // every blow count of the page, from the top
 // descriptions.cpp; dotdescriptions.cpp, manualdescriptions.cpp, desclegend.cpp
 void ArrangeDescs();
 void drawdes();
@@ -42,7 +49,7 @@ void drawlongborinfo(double e);
 void drawlogplusinfo(double e);
 void drawmap();
 void drawbottnotes(double e, int kind);
-// paramgraphs.cpp, generalgraphs.cpp
+// paramnumbers.cpp, paramgraphs.cpp, blowgraphs.cpp, generalgraphs.cpp
 void drawpar(float width);
 void drawpargraph(float width);
 void draw2pargraph();

@@ -70,6 +70,15 @@ static void WriteFirstDevice()
 
 void LoadDevice()
 {
+    // A run without windows takes the set-up as it finds it: the folder may be read-only, or shared with others.
+    if (Platform.Unattended) {
+        DeviceConfig = DeviceRecord();
+        ProjectPath = WorkingFolder;
+        if (FileExists(DeviceFile()))
+            ReadDevice();
+        DefaultSystemFiles();
+        return;
+    }
     if (FileExists(DeviceFile())) {
         ReadDevice();
         if (!FolderWritable(ProjectPath))
@@ -84,6 +93,10 @@ void LoadDevice()
 
 void SaveDevice()
 try {
+    if (Platform.Unattended) {
+        DeviceChanged = 0;
+        return;
+    }
     LineWriter out(DeviceFile());
     out.Line(ProjectPath);
     out.Line(DeviceConfig.MarginOffsets);

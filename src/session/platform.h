@@ -15,6 +15,8 @@ struct Sheet {
     float WidthInches = 0, HeightInches = 0, WidthUnits = 0, HeightUnits = 0;
 };
 
+// The page of a machine with no printer: letter, or 11 by 17 inches landscape, less a quarter inch on each side, at 600
+// units to the inch. mode as for PrinterSheet.
 Sheet DefaultSheet(char mode);
 
 struct PlatformRecord {

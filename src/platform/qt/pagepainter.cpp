@@ -162,25 +162,26 @@ static QImage Averaged(const QImage& tile, double dotsPerPixel)
 
 namespace
 {
-struct Picture {
+struct LoadedPicture {
     QImage image;
     bool photograph = false; // came compressed with losses; may go on so
 };
 } // namespace
 
 // A logo or a map, loaded once.
-static const Picture& PictureOf(const Text& name)
+static const LoadedPicture& PictureOf(const Text& name)
 {
-    static auto& pictures = *new std::map<std::string, Picture>;
+    static auto& pictures = *new std::map<std::string, LoadedPicture>;
     const std::string path = NativePath(name);
     const auto found = pictures.find(path);
     if (found != pictures.end())
         return found->second;
     if (!FileExists(name))
         throw RunTimeError{FileNotFound};
+    QImageReader::setAllocationLimit(1024); // megabytes: site maps are large
     QImageReader reader(QString::fromStdString(path));
     reader.setDecideFormatFromContent(true);
-    Picture picture;
+    LoadedPicture picture;
     if (!reader.read(&picture.image))
         throw RunTimeError{InvalidPicture};
     picture.photograph = reader.format() == "jpeg";
@@ -260,11 +261,8 @@ PagePlotter::~PagePlotter()
 QPen PagePlotter::PenOf(int16_t style, int32_t width, int32_t color) const
 {
     static constexpr double dash = 0.06, dot = 0.012, gap = 0.03;
-    static const std::array<QList<qreal>, 5> lengths = {QList<qreal>(),
-                                                        {dash, gap},
-                                                        {dot, gap},
-                                                        {dash, gap, dot, gap},
-                                                        {dash, gap, dot, gap, dot, gap}};
+    static const std::array<QList<qreal>, 5> lengths = {
+        QList<qreal>(), {dash, gap}, {dot, gap}, {dash, gap, dot, gap}, {dash, gap, dot, gap, dot, gap}};
     const double units = std::max({double(width), 1.0, raster ? 1 / scale : 1.0});
     QPen pen(ColorFrom(color), units, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
     pen.setMiterLimit(10);
@@ -508,7 +506,7 @@ void PagePlotter::DrawTextObject(const PageObject& object)
 
 void PagePlotter::DrawPicture(const PageObject& object)
 {
-    const Picture& picture = PictureOf(object.String);
+    const LoadedPicture& picture = PictureOf(object.String);
     const QRectF place = QRectF(QPointF(object.X1, object.Y1), QPointF(object.X2, object.Y2)).normalized();
     painter.setRenderHint(QPainter::LosslessImageRendering, !picture.photograph);
     const bool smooth = painter.testRenderHint(QPainter::SmoothPixmapTransform);

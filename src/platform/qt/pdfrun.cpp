@@ -26,8 +26,8 @@ static constexpr qint64 FrontLength = 16384;
 
 struct PdfRun::Body {
     Body(const std::string& place, const Text& documentTitle)
-        : path(place), temporary(TemporaryFor(place)), title(documentTitle),
-          file(QString::fromStdString(temporary)), writer(&file)
+        : path(place), temporary(TemporaryFor(place)), title(documentTitle), file(QString::fromStdString(temporary)),
+          writer(&file)
     {
     }
     static std::string TemporaryFor(const std::string& place)

@@ -18,7 +18,9 @@ static constexpr double Margin = 0.25; // inches of the paper on each side of th
 void SavePagePng(const Text& file, int dotsPerInch)
 {
     const double unitsPerInch = PageCanvas.unitsPerInch > 0 ? double(PageCanvas.unitsPerInch) : 600;
-    const auto dots = [&](int32_t units) { return int(std::lround((units / unitsPerInch + 2 * Margin) * dotsPerInch)); };
+    const auto dots = [&](int32_t units) {
+        return int(std::lround((units / unitsPerInch + 2 * Margin) * dotsPerInch));
+    };
     QImage image(dots(PageList.ExtentWidth), dots(PageList.ExtentHeight), QImage::Format_RGB32);
     if (image.isNull())
         throw RunTimeError{OutOfMemory};

@@ -1,0 +1,104 @@
+// commandline_test.cpp -- the command lines of the program without windows, and the set-up that it leaves alone.
+#include "batch/commandline.h"
+
+#include "testing.h"
+
+#include "session/deviceconfig.h"
+#include "session/session.h"
+
+TEST_CASE("a log's command line: options in any order, files with full paths")
+{
+    const CommandLine line =
+        ReadCommandLine({"log",   "/a/B-1.BOR", "--pdf", "/o/x.pdf", "--home",     "/h",     "--project",
+                         "/p",    "--page",     "2",     "--date",   "1 May 2001", "--png",  "/o",
+                         "--dpi", "300",        "--dxf", "/d",       "--list",     "/l.txt", "B-2.BOR"});
+    REQUIRE(line.Wrong == "");
+    CHECK(line.Job->JobCode == 2);
+    REQUIRE(line.Files.size() == 2);
+    CHECK(line.Files[0] == "/a/B-1.BOR");
+    CHECK(line.Files[1] == std::filesystem::current_path().string() + "/B-2.BOR");
+    CHECK(line.Home == "/h");
+    CHECK(line.Project == "/p");
+    CHECK(line.Pdf == "/o/x.pdf");
+    CHECK(line.Png == "/o");
+    CHECK(line.Dxf == "/d");
+    CHECK(line.List == "/l.txt");
+    CHECK(line.Page == "2");
+    CHECK(line.DateGiven);
+    CHECK(line.Date == "1 May 2001");
+    CHECK(line.Dpi == 300);
+}
+
+TEST_CASE("without options there is no date, no page, and 150 dots to the inch")
+{
+    const CommandLine line = ReadCommandLine({"log", "B-1.BOR"});
+    CHECK(line.Wrong == "");
+    CHECK(!line.DateGiven);
+    CHECK(line.Page == "");
+    CHECK(line.Dpi == 150);
+    CHECK(line.Home == "");
+}
+
+TEST_CASE("names come in UTF-8 and are held in the code page")
+{
+    CHECK(ReadCommandLine({"log", "/M\xC3\xBCller.BOR"}).Files[0] == "/M\xFCller.BOR");
+}
+
+TEST_CASE("a wrong command line is told in one line, with no job")
+{
+    const std::vector<std::pair<std::vector<std::string>, std::string>> lines = {
+        {{}, "no job given"},
+        {{"logs"}, "unknown job: logs"},
+        {{"log"}, "no file given for log"},
+        {{"log", "--pdf", "x.pdf"}, "no file given for log"},
+        {{"log", "--pdf"}, "nothing behind --pdf"},
+        {{"log", "--pdg", "x", "B-1.BOR"}, "unknown option for log: --pdg"},
+        {{"log", "B-1.BOR", "--page", "two"}, "--page takes a number, not two"},
+        {{"log", "B-1.BOR", "--png", "o", "--dpi", "5"}, "--dpi takes a number from 10 to 1200, not 5"},
+        {{"log", "B-1.BOR", "--dpi", "100"}, "--dpi goes with --png"},
+        {{"log", "", "B-1.BOR"}, "an empty file name"},
+        {{"guide", "B-1.BOR"}, "guide takes no file"},
+        {{"guide", "--dxf", "o"}, "unknown option for guide: --dxf"},
+    };
+    for (const auto& [words, wrong] : lines) {
+        const CommandLine line = ReadCommandLine(words);
+        CHECK(line.Wrong == wrong);
+        CHECK(line.Job == nullptr);
+    }
+}
+
+TEST_CASE("a file whose name begins with a hyphen goes behind two hyphens")
+{
+    const CommandLine line = ReadCommandLine({"log", "--", "-1.BOR"});
+    CHECK(line.Wrong == "");
+    CHECK(line.Files.size() == 1);
+}
+
+TEST_CASE("the help has a usage line for each job")
+{
+    CHECK(ReadCommandLine({"log", "--help"}).Help);
+    const std::string text = UsageText();
+    CHECK(text.find("stratavue-batch log [--home DIR] [--project DIR] [--page N] [--date TEXT] [--pdf FILE] "
+                    "[--png DIR [--dpi N]] [--dxf DIR] [--list FILE] FILE.BOR...\n") != std::string::npos);
+    CHECK(text.find("stratavue-batch guide [--home DIR] [--pdf FILE] [--png DIR [--dpi N]] [--list FILE]\n") !=
+          std::string::npos);
+}
+
+TEST_CASE("without windows the set-up is read and never written, and a missing one is no message")
+{
+    Platform.Unattended = true;
+    LoadDevice();
+    CHECK(Messages.empty());
+    CHECK(!std::filesystem::exists(Scratch("device.cfg")));
+    CHECK(DeviceConfig.SystemFiles[HeadingFile] == "us.hdg");
+    CHECK(ProjectPath == ScratchFolder());
+    const std::string file = Lines({"/nowhere", "0.5,0.25", "Arial"});
+    WriteScratch("device.cfg", file);
+    LoadDevice();
+    DeviceChanged = 1;
+    SaveDevice();
+    CHECK(DeviceChanged == 0);
+    CHECK(DeviceConfig.MarginX == 0.5f);
+    CHECK(ReadScratch("device.cfg") == file);
+    CHECK(Messages.empty());
+}
