@@ -36,7 +36,6 @@ static void LayOutFolder(const std::string& folder)
 std::string DrawLogs(const std::string& folder, const std::vector<Text>& borings)
 {
     LayOutFolder(folder);
-    filluscscodes();
     TintsInMemory = true;
     JobTable[2] = VLOG::vlogstart;
     std::string listing;
