@@ -2,10 +2,13 @@
 #include "columnpage.h"
 
 #include "canvas/batch.h"
+#include "canvas/bitmap.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
+#include "canvas/patterns.h"
 #include "logrender/logdata.h"
 #include "report/heading.h"
+#include "session/files.h"
 
 #include <cmath>
 
@@ -30,6 +33,19 @@ void StartColumn()
     setorigin(x, y);
     REQUIRE(PageCanvas.penX == ColumnX);
     REQUIRE(PageCanvas.penY == ColumnY);
+}
+
+void SetPatterns(std::initializer_list<int> files)
+{
+    Bitmap tile;
+    tile.Width = tile.Height = 1;
+    tile.Pixels = {0};
+    std::filesystem::create_directories(Scratch("fills"));
+    for (const int file : files)
+        for (const char* form : {".BMP", "_sc.BMP"})
+            WriteScratch("fills/F" + Text(file > 0 && file < 10 ? "0" : "") + PlainNumber(file) + form,
+                         EncodeBitmap(tile));
+    ForgetPatterns();
 }
 
 void SetContacts(std::initializer_list<float> depths)
@@ -84,11 +100,11 @@ static Text Words(const PageObject& object)
 {
     static const char* const aligned[] = {"", " centred", " right"};
     const int32_t nudge = RoundInt32(-0.11 * object.FontHeight);
+    const double angle = object.TextAngle;
     const int points = static_cast<int>(std::lround(-object.FontHeight * 72 / 600));
-    const bool upward = object.TextAngle == 90;
-    const Text place = upward ? Place(object.X1 - nudge, object.Y1) : Place(object.X1, object.Y1 - nudge);
+    const Text place = Place(object.X1 - (angle == 90 ? nudge : 0), object.Y1 - (angle == 0 ? nudge : 0));
     return "text " + place + " " + std::to_string(points) + "pt " + object.String + (object.Bold ? " bold" : "") +
-           aligned[object.HAlign] + (upward ? " upward" : "");
+           aligned[object.HAlign] + (angle == 0 ? "" : angle == 90 ? " upward" : " at " + PlainNumber(angle));
 }
 
 static Text Vertices(const PageObject& object)
@@ -97,9 +113,9 @@ static Text Vertices(const PageObject& object)
     for (const PagePoint& point : object.Vertices)
         words += " " + Place(point.X, point.Y);
     if (object.Brush == BrushStyle::Solid)
-        return words + (object.BrushColor == 0 ? " black" : " solid");
-    const Text name = object.BrushPicture.substr(object.BrushPicture.find_last_of("\\/") + 1);
-    return words + " " + name.substr(0, name.find('_'));
+        return words + (object.BrushColor == 0 ? " black" : object.BrushColor == White ? " white" : " solid");
+    const Text name = BaseName(object.TintOf.empty() ? object.BrushPicture : object.TintOf);
+    return words + " " + name.substr(0, name.find('_')) + (object.Tint.empty() ? "" : " in " + object.Tint);
 }
 
 static Text Circle(const PageObject& object)
@@ -130,6 +146,13 @@ Drawing Drawn(size_t skip)
             break;
         case ObjectKind::Text:
             drawing.push_back(Words(object));
+            break;
+        case ObjectKind::Arc:
+            drawing.push_back("arc " + corners + " from " + Place(object.Vertices[0].X, object.Vertices[0].Y) + " to " +
+                              Place(object.Vertices[1].X, object.Vertices[1].Y));
+            break;
+        case ObjectKind::Picture:
+            drawing.push_back("picture " + corners + " " + BaseName(object.String));
             break;
         default:
             drawing.push_back("another kind");
