@@ -59,7 +59,7 @@ try {
     endgraph(0.6);
 } catch (...) {
     ReportFailure(__func__);
-    aftergraphfailure();
+    aftercolumnfailure();
 }
 
 // 1 inch wide. Kept: the axis ends at 80 whatever the greatest count is.
@@ -83,5 +83,5 @@ try {
     endgraph(0.95);
 } catch (...) {
     ReportFailure(__func__);
-    aftergraphfailure();
+    aftercolumnfailure();
 }

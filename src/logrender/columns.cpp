@@ -126,6 +126,12 @@ static void GeneralGraphs(const Text& name, float width)
     VLOG::drawmpgraph();
 }
 
+static void WellDiagram(float scale)
+{
+    LogGeometry.WellScale = scale;
+    VLOG::drawgw();
+}
+
 static const Column columns[] = {
     {Begins, "DEP", Depth},
     {Begins, "ELEV", Elevation},
@@ -150,9 +156,14 @@ static const Column columns[] = {
     {Begins, "WCON", [](const Text&, float width) { VLOG::drawwcon(width); }},
     {Begins, "GPG", GeneralGraph},
     {Begins, "GP", GeneralParameter},
+    {Equals, "GW", [](const Text&, float) { WellDiagram(0.6); }},
+    {Equals, "WELL DIAGRAM", [](const Text&, float) { WellDiagram(0.6); }},
+    {Equals, "SGW", [](const Text&, float) { WellDiagram(0); }},
+    {Equals, "WELL DIAGRAM-SMALL", [](const Text&, float) { WellDiagram(0); }},
     {Equals, "REMARKS", [](const Text&, float width) { VLOG::drawremarks(width); }},
     {Begins, "MPG", GeneralGraphs},
     {Begins, "CUTT", Cuttings},
+    {Begins, "WATER", [](const Text&, float) { VLOG::drawwaterlevels(); }},
 };
 
 static bool Fits(const Column& column, const Text& name)

@@ -59,7 +59,7 @@ try {
     endgraph(0.55);
 } catch (...) {
     ReportFailure(__func__);
-    aftergraphfailure();
+    aftercolumnfailure();
 }
 
 // GraphList, "3-2-1", as up to three parameter numbers; 0 for one that is missing.
@@ -164,5 +164,5 @@ try {
     endgraph(w - 0.1);
 } catch (...) {
     ReportFailure(__func__);
-    aftergraphfailure();
+    aftercolumnfailure();
 }

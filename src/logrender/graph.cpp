@@ -178,11 +178,3 @@ void VLOG::endgraph(double right)
     setscaley(1);
     moveto(right, 0.1);
 }
-
-// An axis that cannot be drawn would otherwise leave its scale to every column on its right.
-void VLOG::aftergraphfailure()
-{
-    setscalex(1);
-    setscaley(1);
-    setlinestyle(1);
-}

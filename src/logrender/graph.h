@@ -52,5 +52,4 @@ void curvevalue(GraphCurve& curve, const Text& value, float y);
 float belowstart(double depth); // the y of a depth on the body
 float samplemiddle(int sample); // the y of the middle of a sample, as cut at the page's ends
 void endgraph(double right);    // scales 1, the pen to the column's right edge, so far right of the plot's origin
-void aftergraphfailure();       // scales and line style as the next column expects them
 } // namespace VLOG

@@ -65,7 +65,7 @@ try {
     endcolumn(w);
 } catch (...) {
     ReportFailure(__func__);
-    aftergraphfailure();
+    aftercolumnfailure();
 }
 
 // General parameter ParamNumber 1, its text as it stands at each depth.
@@ -84,5 +84,5 @@ try {
     endcolumn(w);
 } catch (...) {
     ReportFailure(__func__);
-    aftergraphfailure();
+    aftercolumnfailure();
 }

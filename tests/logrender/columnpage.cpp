@@ -93,7 +93,7 @@ static Text Place(int32_t x, int32_t y)
 static Text Pen(const PageObject& object)
 {
     static const char* const names[] = {"", " dashed", " dotted", " dash-dot", " dash-dot-dot"};
-    return names[object.PenStyle];
+    return names[object.PenStyle] + Text(object.PenWidth == 8 ? " wide" : "");
 }
 
 static Text Words(const PageObject& object)
@@ -104,7 +104,10 @@ static Text Words(const PageObject& object)
     const int points = static_cast<int>(std::lround(-object.FontHeight * 72 / 600));
     const Text place = Place(object.X1 - (angle == 90 ? nudge : 0), object.Y1 - (angle == 0 ? nudge : 0));
     return "text " + place + " " + std::to_string(points) + "pt " + object.String + (object.Bold ? " bold" : "") +
-           aligned[object.HAlign] + (angle == 0 ? "" : angle == 90 ? " upward" : " at " + PlainNumber(angle));
+           aligned[object.HAlign] +
+           (angle == 0    ? ""
+            : angle == 90 ? " upward"
+                          : " at " + PlainNumber(angle));
 }
 
 static Text Vertices(const PageObject& object)

@@ -29,7 +29,8 @@ LogParamSetup Setup(float start, float end, float increment);
 void AddSample(float top, float bottom);
 
 // The objects behind the first skip ones, one text each:
-//     line 0,0 1200,0 dotted          rectangle 0,0 600,300
+//     line 0,0 1200,0 dotted          (and "wide" for a pen of twice the width)
+//     rectangle 0,0 600,300
 //     text 30,48 8pt Clay bold        (the place is the pen's, before the nudge that sits text on its line)
 //     text 30,48 8pt Clay upward      (turned by 90 degrees, "at 45" for any other angle)
 //     circle 300,600 18               dot 300,600 18     (the middle and the radius; a dot is filled black)

@@ -40,7 +40,7 @@ static bool PenAt(float x, float y)
 TEST_CASE("a frame with no title blocks is its box, the date line beside it and the line under the head")
 {
     StartFrame('P');
-    CHECK(Frame() == Drawing{"rectangle 0,0 4320,5760", "text -42,5700 6pt 1/2/2026   /p/new\\B-1.BOR upward",
+    CHECK(Frame() == Drawing{"rectangle 0,0 4320,5760 wide", "text -42,5700 6pt 1/2/2026   /p/new\\B-1.BOR upward",
                              "line 0,900 4320,900"});
     CHECK(PageList.Objects[0].PenWidth == 8);
     CHECK(PageList.Objects[2].PenWidth == 4);
@@ -52,15 +52,15 @@ TEST_CASE("a frame with no title blocks is its box, the date line beside it and 
 TEST_CASE("on a landscape page the date line stands below the frame")
 {
     StartFrame('L');
-    CHECK(Frame() ==
-          Drawing{"rectangle 0,0 5760,4260", "text 60,4302 6pt 1/2/2026   /p/new\\B-1.BOR", "line 0,900 5760,900"});
+    CHECK(Frame() == Drawing{"rectangle 0,0 5760,4260 wide", "text 60,4302 6pt 1/2/2026   /p/new\\B-1.BOR",
+                             "line 0,900 5760,900"});
     CHECK(PenAt(0, -2.7f));
 }
 
 TEST_CASE("a wide page has the portrait's height")
 {
     StartFrame('T');
-    CHECK(Frame() == Drawing{"rectangle 0,0 9360,5760", "text -42,5700 6pt 1/2/2026   /p/new\\B-1.BOR upward",
+    CHECK(Frame() == Drawing{"rectangle 0,0 9360,5760 wide", "text -42,5700 6pt 1/2/2026   /p/new\\B-1.BOR upward",
                              "line 0,900 9360,900"});
 }
 
@@ -76,7 +76,7 @@ TEST_CASE("the sheet offsets of the set-up move the frame")
     StartFrame('P');
     DeviceConfig.MarginX = 0.5f;
     DeviceConfig.MarginY = -0.25f;
-    CHECK(Frame()[0] == "rectangle 300,150 4620,5910");
+    CHECK(Frame()[0] == "rectangle 300,150 4620,5910 wide");
 }
 
 TEST_CASE("the page is in the font of the set-up, and in Arial without one")

@@ -1,0 +1,36 @@
+// wellfills.cpp -- what fills the annulus of a well: a pattern, or the symbol of a packer or a centralizer.
+#include "canvas/patterns.h"
+#include "logrender/logdata.h"
+#include "logrender/welldiagram.h"
+#include "report/heading.h"
+
+// Which of the material words of the heading file, slots 31 to 37, stands first in a text; 0 for none.
+static int MaterialOf(const Text& text)
+{
+    const Text upper = UpperCase(text);
+    for (int slot = 31; slot <= 37; ++slot)
+        if (!HeadingWords[slot].empty() && upper.find(HeadingWords[slot]) != Text::npos)
+            return slot - 30;
+    return 0;
+}
+
+int16_t VLOG::selectfill(int layer)
+{
+    const Text& text = LogBoring.OuterLayers[layer][3];
+    const Text cell(Before(LogBoring.OuterLayers[layer][5], ','));
+    if (!IsBlank(cell))
+        return getpch(cell);
+    const int material = MaterialOf(text);
+    if (material == 7) // a centralizer; the number behind its comma is its offset
+        return RoundInt16(wellFillNumbers[7] + TextNumber(Behind(text, ',')));
+    return wellFillNumbers[material];
+}
+
+double VLOG::findcenttype(Text& layer)
+{
+    if (!Holds(layer, ',') || UpperCase(layer).find("CENT") == Text::npos)
+        return 0;
+    const double offset = TextNumber(Behind(layer, ','));
+    layer = Text(Before(layer, ','));
+    return offset;
+}
