@@ -233,6 +233,18 @@ static void FillDialog()
     dialog.Text1 = Asked.Page;
 }
 
+// Where no set-up says otherwise: a project that brings its layouts along is drawn with them, and a home without fill
+// patterns is drawn with those of the installation.
+static void FindStockFiles()
+{
+    const Text home = WorkingFolder;
+    if (!FileExists(JoinPath(home, "device.cfg")) && !FilesIn(ProjectPath, ".lay").empty())
+        DeviceConfig.SystemFiles[LayoutFolder] = ProjectPath;
+    Text& fills = DeviceConfig.SystemFiles[FillFolder];
+    if (fills == JoinPath(home, "fills/") && FilesIn(fills, ".bmp").empty())
+        fills = JoinPath(ExecutableFolder(), "fills/");
+}
+
 // Runs the job. The listing grows in a temporary file and takes its place when it is whole.
 static void RunJob()
 {
@@ -244,6 +256,7 @@ static void RunJob()
         ProjectPath = Asked.Project;
     else if (!Asked.Files.empty())
         ProjectPath = FolderName(Asked.Files.front());
+    FindStockFiles();
     OutputFolder(Asked.Png);
     OutputFolder(Asked.Dxf);
     std::string listing, temporary;
