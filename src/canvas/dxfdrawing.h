@@ -1,0 +1,90 @@
+// dxfdrawing.h -- a DXF drawing under way: groups of code and value, handles, and all that stands around the entities.
+//
+// The form is that of AutoCAD 2004 (AC1018), the first with true colours, in the drawing's code page. dxf.cpp says
+// what the entities are; here are the sections that every reader wants to find before and behind them.
+#pragma once
+
+#include "session/text.h"
+
+#include <map>
+#include <vector>
+
+// Text of code and value lines.
+class DxfTags
+{
+public:
+    void Add(int code, std::string_view value);
+    void Add(int code, const char* value)
+    {
+        Add(code, std::string_view(value));
+    }
+    void Add(int code, int value);
+    void Add(int code, double value); // up to 6 decimals, no trailing zeros
+    void AddHandle(int code, int handle);
+    void AddPoint(int code, double x, double y); // code for x, code + 10 for y
+    void Append(const DxfTags& tags)
+    {
+        bytes += tags.bytes;
+    }
+    std::string bytes;
+};
+
+struct DxfSheet {
+    double Width = 0, Height = 0;                                    // drawing units
+    double UnitsPerInch = 600;                                       // drawing units to the inch of paper
+    double Left = 0, Bottom = 0, Right = 0, Top = 0;                 // what the entities fill
+    double UnprintableInches = 0.25, InchesWide = 0, InchesHigh = 0; // the printable sheet and its margin
+};
+
+// Layers by kind of content, in the order of the layer table.
+enum class DxfLayer { Lines, Rectangles, Ellipses, Arcs, Outlines, Fills, Patterns, Texts, Pictures };
+
+class DxfDrawing
+{
+public:
+    // Starts an entity of the model space: its type, handle and layer. Leaves the handle.
+    int Entity(const char* type, DxfLayer layer);
+    // The text style of a font; made when first asked for.
+    const Text& Style(const Text& font, bool bold);
+    // A picture's definition and the entity's link to it; path in the machine's own encoding, size in pixels.
+    struct ImageLink {
+        int Definition, Reactor;
+    };
+    ImageLink Image(int entity, const std::string& path, int width, int height);
+    // The whole file, with the entities so far.
+    std::string File(const DxfSheet& sheet);
+
+    DxfTags Entities;
+
+private:
+    struct FontStyle {
+        Text Font;
+        bool Bold;
+        Text Name;
+    };
+    struct Definition {
+        int Handle;
+        std::string Path;
+        int Width, Height;
+        std::vector<std::pair<int, int>> Reactors; // handle, and the entity that it watches
+    };
+
+    int NewHandle()
+    {
+        return nextHandle++;
+    }
+    void Header(DxfTags& out, const DxfSheet& sheet) const;
+    void Tables(DxfTags& out, const DxfSheet& sheet);
+    void Blocks(DxfTags& out);
+    void Objects(DxfTags& out, const DxfSheet& sheet);
+
+    int nextHandle = 0x100; // below it are the handles of what every drawing has
+    std::vector<FontStyle> styles;
+    std::vector<Definition> definitions;
+};
+
+// A text as the value of a group: control characters and "^" by the caret, "%%" and "\U+" so that they stay what they
+// are, codes without a character as the replacement sign.
+std::string DxfString(std::string_view text);
+// A name of a table entry: without the letters that names cannot have.
+Text DxfName(std::string_view name);
