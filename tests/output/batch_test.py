@@ -134,6 +134,10 @@ class Batch(unittest.TestCase):
         self.assertIn("Error 76 in ", done.stderr)
         self.assertEqual(len(listing(self.path("a.jsonl"))), 1)
 
+    def test_a_listing_that_cannot_be_written_ends_the_run(self):
+        done = self.run_batch("log", "--list", "none/a.jsonl", sample("TC-104.BOR"), status=1)
+        self.assertEqual(done.stderr, "Run-time error 76\n")
+
     def test_an_older_pdf_is_replaced_by_name(self):
         with open(self.path("a.pdf"), "w") as old:
             old.write("older")
