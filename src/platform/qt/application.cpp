@@ -6,15 +6,35 @@
 #include "session/text.h"
 
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyleFactory>
 #include <cstdlib>
 
 bool StartDone = false;
 
+namespace
+{
+// Words alone on the buttons.
+class PlainButtons : public QProxyStyle
+{
+public:
+    PlainButtons() : QProxyStyle(QStyleFactory::create("Fusion"))
+    {
+    }
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override
+    {
+        if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+            return 0;
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+} // namespace
+
 // One look on every machine: Qt's own style, light, with a calm blue as the only accent.
 static void Dress()
 {
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new PlainButtons);
     QPalette palette(QColor(0xf2, 0xf3, 0xf5));
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::AlternateBase, QColor(0xf7, 0xf9, 0xfb));
@@ -31,7 +51,6 @@ static void Dress()
 Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName("Stratavue");
-    setApplicationDisplayName("Stratavue");
     setQuitOnLastWindowClosed(false); // the log window ends the program, not the last box that closes
     Dress();
 }

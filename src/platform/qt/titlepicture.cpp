@@ -10,13 +10,16 @@
 namespace
 {
 struct Layer {
-    double top;     // of the height of the ground
-    QRgb color;     //
-    double swell;   // height of the contact's wave
-    int mark;       // what fills it: 0 nothing, 1 dots, 2 dashes, 3 slanting hatch, 4 rings
+    double top;   // of the height of the ground
+    QRgb color;   //
+    double swell; // height of the contact's wave
+    int mark;     // what fills it: 0 nothing, 1 dots, 2 dashes, 3 slanting hatch, 4 rings
 };
-constexpr Layer Layers[] = {{0.00, 0xff8c7355, 3, 2}, {0.13, 0xffd9c18c, 7, 1}, {0.36, 0xffb7a07a, 6, 4},
-                            {0.52, 0xff93a39a, 9, 3}, {0.74, 0xff6f7d86, 5, 0}};
+constexpr Layer Layers[] = {{0.00, 0xff8c7355, 3, 2},
+                            {0.13, 0xffd9c18c, 7, 1},
+                            {0.36, 0xffb7a07a, 6, 4},
+                            {0.52, 0xff93a39a, 9, 3},
+                            {0.74, 0xff6f7d86, 5, 0}};
 } // namespace
 
 // The contact of a layer at x: a slow wave, the same every time.
@@ -53,7 +56,7 @@ static void Marks(QPainter& painter, const QRectF& area, int mark)
 static void Ground(QPainter& painter, const QRectF& area)
 {
     painter.save();
-    painter.setClipRect(area);
+    painter.setClipRect(area.adjusted(0, -12, 0, 0));
     for (const Layer& layer : Layers) {
         QPainterPath path;
         path.moveTo(area.left(), area.bottom());
@@ -64,8 +67,9 @@ static void Ground(QPainter& painter, const QRectF& area)
         painter.fillPath(path, QColor(layer.color));
         painter.save();
         painter.setClipPath(path, Qt::IntersectClip);
-        Marks(painter, QRectF(area.left(), area.top() + layer.top * area.height() - 12, area.width(),
-                              area.height() * 0.4), layer.mark);
+        Marks(painter,
+              QRectF(area.left(), area.top() + layer.top * area.height() - 12, area.width(), area.height() * 0.4),
+              layer.mark);
         painter.restore();
         painter.strokePath(path, QPen(QColor(40, 34, 28, 150), 1.2));
     }
@@ -80,10 +84,12 @@ static void Boring(QPainter& painter, double x, const QRectF& area)
     painter.setBrush(QColor(250, 250, 248));
     painter.drawRect(hole);
     painter.setBrush(QColor(0x2f, 0x6b, 0xa8));
-    painter.drawRect(QRectF(hole.left(), area.top() + area.height() * 0.45, hole.width(), hole.bottom() - area.top() - area.height() * 0.45));
+    painter.drawRect(QRectF(hole.left(), area.top() + area.height() * 0.45, hole.width(),
+                            hole.bottom() - area.top() - area.height() * 0.45));
     painter.setBrush(QColor(20, 26, 32));
     for (int i = 0; i < 6; ++i)
-        painter.drawRect(QRectF(hole.right() + 4, area.top() + 18 + i * area.height() * 0.135, 5, 13));
+        painter.drawRect(QRectF(hole.right() + 4, area.top() + area.height() * 0.06 + i * area.height() * 0.135, 5,
+                                area.height() * 0.07));
     const double water = area.top() + area.height() * 0.45;
     const QPointF drop[] = {{x - 34, water - 11}, {x - 20, water - 11}, {x - 27, water}};
     painter.setBrush(QColor(0x2f, 0x6b, 0xa8));
@@ -141,8 +147,8 @@ QPixmap WelcomePicture(qreal pixelRatio)
     QPainter painter(&pixmap);
     Scene(painter, size, 196);
     Words(painter, QRectF(36, 24, 480, 44), "Welcome to Stratavue", 32, true, QColor(0x1d, 0x3c, 0x5c));
-    Words(painter, QRectF(38, 78, 500, 24), "Open a boring with File, Open and look at its log with Preview.", 15, false,
-          QColor(0x3d, 0x4d, 0x5c));
+    Words(painter, QRectF(38, 78, 500, 24), "Open a boring with File, Open and look at its log with Preview.", 15,
+          false, QColor(0x3d, 0x4d, 0x5c));
     Words(painter, QRectF(38, 102, 500, 24), "Batch Draw and Batch Print do the same for many borings at once.", 15,
           false, QColor(0x3d, 0x4d, 0x5c));
     return pixmap;
