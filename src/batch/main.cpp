@@ -86,13 +86,46 @@ static void NamePage()
     PageName = name + "-" + PlainNumber(++PagesOf[UpperCase(name)]);
 }
 
-static std::ofstream Listing;
+static std::ofstream Listing;   // grows beside its place
+static std::string ListingPart; // its name meanwhile; empty: none is asked for
+
+static void OpenListing()
+{
+    if (Asked.List.empty())
+        return;
+    ListingPart = NativePath(Asked.List) + "." + std::to_string(::getpid()) + ".tmp~";
+    Listing.open(ListingPart, std::ios::binary);
+    if (!Listing)
+        RaiseSystemError(errno, std::filesystem::is_directory(NativePath(FolderName(Asked.List))));
+}
 
 static void ListPage()
 {
     const std::string lines = PageListing(PageCount, RunPages.pageFile);
     if (!Listing.write(lines.data(), std::streamsize(lines.size())).flush())
         throw RunTimeError{DiskFull};
+}
+
+// Whole or not at all.
+static void CloseListing()
+try {
+    if (ListingPart.empty())
+        return;
+    Listing.close();
+    if (!Listing || std::rename(ListingPart.c_str(), NativePath(Asked.List).c_str()) != 0) {
+        ::unlink(ListingPart.c_str());
+        throw RunTimeError{DiskFull};
+    }
+} catch (...) {
+    ReportFailure(__func__);
+}
+
+static void ClosePdf()
+try {
+    if (Pdf)
+        Pdf->Close();
+} catch (...) {
+    ReportFailure(__func__);
 }
 
 static void PageDrawn()
@@ -259,26 +292,12 @@ static void RunJob()
     FindStockFiles();
     OutputFolder(Asked.Png);
     OutputFolder(Asked.Dxf);
-    std::string listing, temporary;
-    if (!Asked.List.empty()) {
-        listing = NativePath(Asked.List);
-        temporary = listing + "." + std::to_string(::getpid()) + ".tmp~";
-        Listing.open(temporary, std::ios::binary);
-        if (!Listing)
-            RaiseSystemError(errno, true);
-    }
+    OpenListing();
     FillJobTable();
     FillDialog();
     DrawPrintOk();
-    if (Pdf)
-        Pdf->Close();
-    if (!listing.empty()) {
-        Listing.close();
-        if (!Listing || std::rename(temporary.c_str(), listing.c_str()) != 0) {
-            ::unlink(temporary.c_str());
-            throw RunTimeError{DiskFull};
-        }
-    }
+    ClosePdf();
+    CloseListing();
 }
 
 int main(int argc, char** argv)
