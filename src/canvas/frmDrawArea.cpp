@@ -67,6 +67,10 @@ DrawArea::DrawArea()
     form = new QWidget(this);
     form->setObjectName("Form");
     form->installEventFilter(this);
+    QPalette desk;
+    desk.setColor(QPalette::Window, DeskColor);
+    form->setPalette(desk);
+    form->setAutoFillBackground(true);
     setCentralWidget(form);
     draw = new PageView(form);
     draw->onMoved = [this] {

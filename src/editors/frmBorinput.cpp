@@ -144,7 +144,7 @@ BorinputWindow::BorinputWindow()
     state->setContentsMargins(8, 0, 8, 0);
     statusBar()->addWidget(project, 1);
     statusBar()->addPermanentWidget(state);
-    resize(QSize(1120, 760).boundedTo(screen()->availableGeometry().size() * 0.94));
+    resize(QSize(1120, 760).boundedTo(screen()->availableGeometry().size() * 0.9));
     CentreOnScreen(*this);
     Refresh();
 }
@@ -284,9 +284,15 @@ QWidget* BorinputWindow::Tabs()
     auto* clientBox = Titled("Client/Project Information", client);
     clientBox->layout()->addWidget(style);
 
+    auto* parts = GridBox("SSRepParts", SSRepParts);
+    auto* total = new QLabel(parts);
+    total->setObjectName("lblWidthtot");
+    refreshers.push_back([total] { total->setText("Total Width: " + ToUi(lblWidthtot)); });
+    parts->layout()->addWidget(total);
+
     tabs->addTab(Tab(Split(Qt::Horizontal,
                            {Split(Qt::Vertical, {clientBox, GridBox("SSInfo", SSInfo)}, {2, 3}),
-                            Split(Qt::Vertical, {GridBox("SSScale", SSScale), GridBox("SSRepParts", SSRepParts)}, {2, 3})},
+                            Split(Qt::Vertical, {GridBox("SSScale", SSScale), parts}, {2, 3})},
                            {3, 2})),
                  "General");
     tabs->addTab(Tab(Split(Qt::Horizontal,

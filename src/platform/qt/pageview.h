@@ -7,10 +7,14 @@
 
 #include "canvas/pageview.h"
 
+#include <QColor>
 #include <QImage>
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+
+// What lies under the page.
+extern const QColor DeskColor;
 
 class PageView : public QWidget
 {

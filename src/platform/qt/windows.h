@@ -24,3 +24,5 @@ void CentreOnScreen(QWidget& window);
 
 // Fills in Platform for the desktop program.
 void UseDesktopPlatform();
+// What each job of the batch dialog starts.
+void FillJobTable();
