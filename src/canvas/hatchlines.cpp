@@ -116,6 +116,7 @@ struct Track {
     int Direction, Start, Position;
     bool Closed = false; // ink all the way round: one stroke without end
     std::vector<Stroke> Strokes;
+    double Worth = 1; // of a score: less where the line's parallels are closer than the pen is wide
     double Score = 0; // of the strokes that would be taken together
 };
 
@@ -144,6 +145,7 @@ public:
     {
         const size_t size = static_cast<size_t>(cell.Width * cell.Height);
         depth.resize(size);
+        weight.resize(size);
         centre.resize(size);
         need.resize(size);
         Measure(tile);
@@ -203,7 +205,8 @@ private:
     }
 
     // The pen is as wide as the thinner strokes of the tile: thick ones can be filled by several, thin ones cannot
-    // be drawn with a broad pen. Centres are where it stays in the ink, and the ridges of what is thinner still.
+    // be drawn with a broad pen. Centres are where it stays in the ink, and the ridges of what is thinner still;
+    // best are those where it just touches the edge, so that a broad area is filled from its edges inward.
     void ChoosePen()
     {
         std::vector<double> depths;
@@ -218,6 +221,7 @@ private:
         for (size_t i = 0; i < depth.size(); ++i) {
             centre[i] = ridge[i] || depth[i] >= std::max(1.0, 0.65 * half);
             need[i] = centre[i];
+            weight[i] = depth[i] <= half ? depth[i] : std::max(half - 0.3 * (depth[i] - half), 0.5 * half);
         }
     }
 
@@ -269,6 +273,8 @@ private:
         for (int direction = 0; direction < static_cast<int>(std::size(Directions)); ++direction) {
             const Rule rule = RuleOf(Directions[direction]);
             lineTrack.assign(static_cast<size_t>(rule.Parallels), -1);
+            const double apart = rule.Parallels / std::hypot(rule.Way.X, rule.Way.Y);
+            const double worth = std::min(1.0, std::pow(apart / pen, 2));
             const size_t firstTrack = tracks.size();
             size_t met = 0;
             const auto add = [&](int at, bool closed) {
@@ -278,7 +284,7 @@ private:
                 int& number = lineTrack[static_cast<size_t>(line)];
                 if (number < 0) {
                     number = static_cast<int>(tracks.size());
-                    tracks.push_back({direction, at, position, closed, {}, 0});
+                    tracks.push_back({direction, at, position, closed, {}, worth, 0});
                 }
                 Track& track = tracks[static_cast<size_t>(number)];
                 track.Strokes.push_back(stroke);
@@ -305,7 +311,7 @@ private:
         for (size_t index = size_t(at); centre[index] && stroke.Length < steps; index = At(x, y)) {
             seen[index] = 1;
             ++stroke.Length;
-            stroke.Score += depth[index];
+            stroke.Score += weight[index];
             Advance(x, y, Directions[direction]);
         }
         return stroke;
@@ -329,7 +335,7 @@ private:
                         start = static_cast<int>(index);
                     }
                     last = at;
-                    score += depth[index];
+                    score += weight[index];
                 } else
                     touched = true;
                 Advance(x, y, step);
@@ -354,7 +360,7 @@ private:
         });
         track.Score = 0;
         for (size_t i = 0; i < Together(track); ++i)
-            track.Score += track.Strokes[i].Score;
+            track.Score += track.Strokes[i].Score * track.Worth;
     }
 
     // How many of the track's best strokes go into one definition line: those that are worth it beside the best.
@@ -388,7 +394,7 @@ private:
         // As broad as makes the strokes as black as the tile.
         const double ink =
             static_cast<double>(std::count_if(depth.begin(), depth.end(), [](double d) { return d > 0; }));
-        pen = std::clamp(ink / std::max(length, 1.0), 2 * half - 1, 2 * half);
+        pen = std::clamp(ink / std::max(length, 1.0), 0.75 * (2 * half - 1), 2 * half);
     }
 
     // Makes a definition line of the track's best strokes and marks what the pen covers. Leaves their length.
@@ -401,7 +407,7 @@ private:
         double length = 0, below = 0, above = 0;
         for (size_t i = 0; i < count; ++i) {
             const Stroke& stroke = track.Strokes[i];
-            length += (stroke.Length - 1) * unit + pen;
+            length += track.Closed ? stroke.Length * unit : (stroke.Length - 1) * unit + 0.8 * pen;
             int x = stroke.Start % cell.Width, y = stroke.Start / cell.Width;
             for (int j = 0; j < stroke.Length; ++j, Advance(x, y, step)) {
                 for (int dy = -reach; dy <= reach; ++dy)
@@ -428,11 +434,11 @@ private:
         line.Angle = std::atan2(-step.Y, step.X) * 180 / std::numbers::pi;
         line.OffsetX = rule.Offset.X;
         line.OffsetY = -rule.Offset.Y;
-        // From the ends of the pen's way half its width further: that is where the ink ends.
+        // From the ends of the pen's way nearly half its width further: that is where the ink, often round, ends.
         std::vector<std::pair<double, double>> dashes;
         for (size_t i = 0; i < count; ++i)
-            dashes.push_back({track.Strokes[i].First * unit - pen / 2,
-                              (track.Strokes[i].First + track.Strokes[i].Length - 1) * unit + pen / 2});
+            dashes.push_back({track.Strokes[i].First * unit - 0.4 * pen,
+                              (track.Strokes[i].First + track.Strokes[i].Length - 1) * unit + 0.4 * pen});
         std::sort(dashes.begin(), dashes.end());
         for (size_t i = 1; i < dashes.size();)
             if (dashes[i].first <= dashes[i - 1].second) {
@@ -457,7 +463,7 @@ private:
     }
 
     Lattice cell;
-    std::vector<double> depth;
+    std::vector<double> depth, weight;
     std::vector<char> ridge, centre, need;
     double half = 1, pen = 1;
     int reach = 0;
