@@ -266,15 +266,17 @@ static void FillDialog()
     dialog.Text1 = Asked.Page;
 }
 
-// Where no set-up says otherwise: a project that brings its layouts along is drawn with them, and a home without fill
-// patterns is drawn with those of the installation.
+// Where the set-up names no folders of its own: a project that brings its layouts along is drawn with them, and a home
+// without fill patterns is drawn with those of the installation.
 static void FindStockFiles()
 {
-    const Text home = WorkingFolder;
-    if (!FileExists(JoinPath(home, "device.cfg")) && !FilesIn(ProjectPath, ".lay").empty())
-        DeviceConfig.SystemFiles[LayoutFolder] = ProjectPath;
+    Text& layouts = DeviceConfig.SystemFiles[LayoutFolder];
+    if (layouts == WorkingFolder)
+        for (const Text& name : FilesIn(ProjectPath, ".lay"))
+            if (!FileExists(JoinPath(WorkingFolder, name)))
+                layouts = ProjectPath;
     Text& fills = DeviceConfig.SystemFiles[FillFolder];
-    if (fills == JoinPath(home, "fills/") && FilesIn(fills, ".bmp").empty())
+    if (fills == JoinPath(WorkingFolder, "fills/") && FilesIn(fills, ".bmp").empty())
         fills = JoinPath(ExecutableFolder(), "fills/");
 }
 
