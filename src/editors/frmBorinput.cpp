@@ -23,6 +23,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
@@ -47,7 +48,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    QAction* Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys, std::function<void()> command);
+    QAction* Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
+                   std::function<void()> command);
     QWidget* Titled(const Text& title, QWidget* box);
     QWidget* GridBox(const char* name, Grid& grid);
     QWidget* MemoBox(const char* name, const char* title, const Memo& memo);
@@ -317,9 +319,8 @@ QWidget* BorinputWindow::Tabs()
                             MemoBox("MemoBottNotes", "General Notes:", MemoBottNotes)},
                            {2, 3})),
                  "Remarks and Notes");
-    tabs->addTab(
-        Tab(Split(Qt::Horizontal, {GridBox("SSCuttings", SSCuttings), GridBox("SSLegend", SSLegend)}, {1, 1})),
-        "Cuttings and Legend");
+    tabs->addTab(Tab(Split(Qt::Horizontal, {GridBox("SSCuttings", SSCuttings), GridBox("SSLegend", SSLegend)}, {1, 1})),
+                 "Cuttings and Legend");
     return tabs;
 }
 
@@ -367,7 +368,7 @@ void BorinputWindow::closeEvent(QCloseEvent* event)
         event->ignore();
 }
 
-static BorinputWindow* window = nullptr;
+static QPointer<BorinputWindow> window;
 
 // A failure of the loading ends the start: there is no window to go back to.
 void ShowLogWindow()

@@ -16,9 +16,11 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPointer>
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <deque>
 #include <filesystem>
 
@@ -31,6 +33,7 @@ struct Step {
 } // namespace
 
 static std::deque<Step> steps;
+static std::vector<QWidget*> acting; // the windows of the steps under way, the innermost last
 static QElapsedTimer waiting;
 static constexpr int patienceMs = 20000;
 
@@ -42,11 +45,16 @@ static void Look()
         return;
     QTimer::singleShot(5, Look);
     QWidget* front = QApplication::activeModalWidget();
-    if (front && front->isVisible() && front->objectName().toStdString() == steps.front().window) {
+    const bool ready = front && front->isVisible() && front->isEnabled() && front->isActiveWindow() &&
+                       std::find(acting.begin(), acting.end(), front) == acting.end();
+    if (ready && front->objectName().toStdString() == steps.front().window) {
         const Step step = steps.front();
         steps.pop_front();
         waiting.restart();
+        acting.push_back(front);
         step.act(front);
+        acting.pop_back();
+        waiting.restart();
     } else if (waiting.elapsed() > patienceMs) {
         // Nothing more will come: what blocks is closed, so that the test ends, and fails.
         const std::string missing = steps.front().window;
@@ -149,13 +157,18 @@ void UseDesktop()
         new Application(argc, argv);
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     }
-    qDeleteAll(QApplication::topLevelWidgets());
+    // The windows of the test before. Menus and the like go with their windows.
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    std::vector<QPointer<QWidget>> old(windows.begin(), windows.end());
+    for (const QPointer<QWidget>& window : old)
+        delete window;
     UseDesktopPlatform();
     FillJobTable();
     Platform.ExecutableFolder = [] { return ScratchFolder(); };
     ChoosePrinter(PrintToPdfName);
     StartDone = false;
     steps.clear();
+    acting.clear();
     namespace fs = std::filesystem;
     for (const fs::directory_entry& file : fs::directory_iterator(SOURCE_DIR "/data"))
         if (file.is_regular_file())

@@ -15,7 +15,7 @@ class QWidget;
 void UseDesktop();
 
 // What the user does when a window blocks: each step waits for the window of its name to be the one in front, in the
-// order of the calls. A step may open the next window.
+// order of the calls. A step may open the next window; it does not begin in a window where another is still at work.
 void Then(const char* window, std::function<void(QWidget*)> act);
 // A step for a message box: its words are checked, and its button of this caption is clicked.
 void ThenAnswer(const char* words, const char* button);

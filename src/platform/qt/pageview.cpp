@@ -7,8 +7,8 @@
 #include "platform/qt/pagepainter.h"
 
 #include <QMouseEvent>
-#include <QPainter>
 #include <QPaintEvent>
+#include <QPainter>
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
