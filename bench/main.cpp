@@ -1,7 +1,7 @@
 // main.cpp -- the benchmarks, in the working folder of the build with the fixed printer of a machine without one.
 //
 // Minimum and median of five runs:
-//     build/bench/bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
+//     build-bench/bench/output_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
 #include "session/deviceconfig.h"
 #include "session/platform.h"
 #include "session/session.h"

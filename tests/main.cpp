@@ -121,8 +121,6 @@ struct Fresh : doctest::IReporter {
         LogPage = LogPageRecord();
         LogBoring = LogBoringRecord();
         LogGeometry = LogGeometryRecord();
-        LegendBoxFill = {};
-        LogoData = LogoRecord();
         ForgetPatterns();
         TintsInMemory = false;
         jobCode = runFileCount = singleFile = introType = dialogBusy = stopRequested = 0;

@@ -67,6 +67,10 @@ DrawArea::DrawArea()
     form = new QWidget(this);
     form->setObjectName("Form");
     form->installEventFilter(this);
+    QPalette desk;
+    desk.setColor(QPalette::Window, DeskColor);
+    form->setPalette(desk);
+    form->setAutoFillBackground(true);
     setCentralWidget(form);
     draw = new PageView(form);
     draw->onMoved = [this] {
@@ -138,6 +142,7 @@ void DrawArea::ShowPage()
     draw->SetPage();
     waiting = true;
     hideSoon.stop();
+    setEnabled(true);
     show();
     raise();
     activateWindow();
@@ -157,6 +162,7 @@ void DrawArea::Steer(bool (*command)())
     if (!waiting || !command())
         return;
     waiting = false;
+    setEnabled(false); // between two pages there is nothing to steer
     if (command == ExitRun)
         hide();
     else
@@ -192,8 +198,8 @@ void DrawArea::Zoom(Fit kind)
 {
     fit = kind;
     if (kind == Fit::Opening)
-        draw->SetView(OpeningView(PageCanvas.mode, draw->View(), form->width(), form->height(), draw->width(),
-                                  draw->height()));
+        draw->SetView(
+            OpeningView(PageCanvas.mode, draw->View(), form->width(), form->height(), draw->width(), draw->height()));
     else if (kind == Fit::Width)
         draw->SetView(FullWidth(draw->View(), form->width(), draw->width()));
     else

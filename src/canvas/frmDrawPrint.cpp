@@ -70,8 +70,9 @@ DrawPrint::DrawPrint(QWidget* parent) : QDialog(parent)
     drive1 = new QComboBox(this);
     drive1->setObjectName("Drive1");
     for (const QStorageInfo& drive : QStorageInfo::mountedVolumes())
-        if (drive.isValid() && drive.isReady() && (drive.isRoot() || drive.rootPath().startsWith("/media") ||
-                                                  drive.rootPath().startsWith("/mnt") || drive.rootPath()[0] != '/'))
+        if (drive.isValid() && drive.isReady() &&
+            (drive.isRoot() || drive.rootPath().startsWith("/media") || drive.rootPath().startsWith("/mnt") ||
+             drive.rootPath()[0] != '/'))
             drive1->addItem(QDir::toNativeSeparators(drive.rootPath()));
     if (QDir::homePath() != "/")
         drive1->addItem(QDir::toNativeSeparators(QDir::homePath()));
@@ -179,7 +180,8 @@ DrawPrint::DrawPrint(QWidget* parent) : QDialog(parent)
         if (!dialogBusy)
             Platform.ShowPrinterSetup();
     });
-    connect(optionBor, &QRadioButton::toggled, this, [](bool on) { Dialog.ReportOption = on ? 0 : Dialog.ReportOption; });
+    connect(optionBor, &QRadioButton::toggled, this,
+            [](bool on) { Dialog.ReportOption = on ? 0 : Dialog.ReportOption; });
     connect(optionIntro, &QRadioButton::toggled, this,
             [](bool on) { Dialog.ReportOption = on ? 1 : Dialog.ReportOption; });
     connect(optionIntro2, &QRadioButton::toggled, this,
@@ -212,9 +214,9 @@ void DrawPrint::Folders()
     for (const QString& path : above)
         add(path, QDir(path).isRoot() ? QDir::toNativeSeparators(path) : QDir(path).dirName(), depth++,
             QStyle::SP_DirOpenIcon);
-    QListWidgetItem* here = add(folder.absolutePath(), folder.isRoot() ? QDir::toNativeSeparators(folder.path())
-                                                                       : folder.dirName(),
-                                depth++, QStyle::SP_DirOpenIcon);
+    QListWidgetItem* here =
+        add(folder.absolutePath(), folder.isRoot() ? QDir::toNativeSeparators(folder.path()) : folder.dirName(),
+            depth++, QStyle::SP_DirOpenIcon);
     for (const QString& name : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase))
         add(folder.absoluteFilePath(name), name, depth, QStyle::SP_DirIcon);
     dir1->setCurrentItem(here);

@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QProgressBar>
 #include <QVBoxLayout>
 
@@ -65,7 +66,9 @@ void ProgressWindow::closeEvent(QCloseEvent* event)
 
 static ProgressWindow& Window()
 {
-    static auto* window = new ProgressWindow;
+    static QPointer<ProgressWindow> window;
+    if (!window)
+        window = new ProgressWindow;
     return *window;
 }
 
@@ -96,8 +99,8 @@ void StepProgressWindow(const Text& words, float percent)
     Breathe();
 }
 
-// The bar is painted and Escape is seen. The window is modal, so nothing else is; while it is not up there is nothing to
-// see, and a click meant for a menu would start a second run inside the first.
+// The bar is painted and Escape is seen. The window is modal, so nothing else is; while it is not up there is nothing
+// to see, and a click meant for a menu would start a second run inside the first.
 void Breathe()
 {
     ProgressWindow& window = Window();

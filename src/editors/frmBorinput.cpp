@@ -23,6 +23,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
@@ -47,7 +48,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    QAction* Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys, std::function<void()> command);
+    QAction* Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
+                   std::function<void()> command);
     QWidget* Titled(const Text& title, QWidget* box);
     QWidget* GridBox(const char* name, Grid& grid);
     QWidget* MemoBox(const char* name, const char* title, const Memo& memo);
@@ -144,7 +146,7 @@ BorinputWindow::BorinputWindow()
     state->setContentsMargins(8, 0, 8, 0);
     statusBar()->addWidget(project, 1);
     statusBar()->addPermanentWidget(state);
-    resize(QSize(1120, 760).boundedTo(screen()->availableGeometry().size() * 0.94));
+    resize(QSize(1120, 760).boundedTo(screen()->availableGeometry().size() * 0.9));
     CentreOnScreen(*this);
     Refresh();
 }
@@ -284,9 +286,15 @@ QWidget* BorinputWindow::Tabs()
     auto* clientBox = Titled("Client/Project Information", client);
     clientBox->layout()->addWidget(style);
 
+    auto* parts = GridBox("SSRepParts", SSRepParts);
+    auto* total = new QLabel(parts);
+    total->setObjectName("lblWidthtot");
+    refreshers.push_back([total] { total->setText("Total Width: " + ToUi(lblWidthtot)); });
+    parts->layout()->addWidget(total);
+
     tabs->addTab(Tab(Split(Qt::Horizontal,
                            {Split(Qt::Vertical, {clientBox, GridBox("SSInfo", SSInfo)}, {2, 3}),
-                            Split(Qt::Vertical, {GridBox("SSScale", SSScale), GridBox("SSRepParts", SSRepParts)}, {2, 3})},
+                            Split(Qt::Vertical, {GridBox("SSScale", SSScale), parts}, {2, 3})},
                            {3, 2})),
                  "General");
     tabs->addTab(Tab(Split(Qt::Horizontal,
@@ -311,9 +319,8 @@ QWidget* BorinputWindow::Tabs()
                             MemoBox("MemoBottNotes", "General Notes:", MemoBottNotes)},
                            {2, 3})),
                  "Remarks and Notes");
-    tabs->addTab(
-        Tab(Split(Qt::Horizontal, {GridBox("SSCuttings", SSCuttings), GridBox("SSLegend", SSLegend)}, {1, 1})),
-        "Cuttings and Legend");
+    tabs->addTab(Tab(Split(Qt::Horizontal, {GridBox("SSCuttings", SSCuttings), GridBox("SSLegend", SSLegend)}, {1, 1})),
+                 "Cuttings and Legend");
     return tabs;
 }
 
@@ -361,7 +368,7 @@ void BorinputWindow::closeEvent(QCloseEvent* event)
         event->ignore();
 }
 
-static BorinputWindow* window = nullptr;
+static QPointer<BorinputWindow> window;
 
 // A failure of the loading ends the start: there is no window to go back to.
 void ShowLogWindow()

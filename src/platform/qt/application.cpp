@@ -11,6 +11,7 @@
 #include <cstdlib>
 
 bool StartDone = false;
+void (*EndAtOnce)(int status) = std::_Exit;
 
 namespace
 {
@@ -69,5 +70,5 @@ void TellRunTimeError()
 {
     MsgBox("Run-time error" + NumberText(FailureInHand()));
     if (!StartDone)
-        std::_Exit(1);
+        EndAtOnce(1);
 }

@@ -17,3 +17,5 @@ void TellRunTimeError();
 
 // The log window is up: from now on a failure in a handler does not end the program.
 extern bool StartDone;
+// How it ends then; a test looks on instead.
+extern void (*EndAtOnce)(int status);

@@ -1,4 +1,7 @@
 // desktop.cpp -- the seam of the desktop program: each procedure of Platform, and the window or box behind it.
+#include "canvas/batch.h"
+#include "canvas/patterns.h"
+#include "logrender/vlog.h"
 #include "platform/qt/boxes.h"
 #include "platform/qt/filedialog.h"
 #include "platform/qt/helpwindow.h"
@@ -55,4 +58,10 @@ void UseDesktopPlatform()
     Platform.Breathe = Breathe;
     Platform.ShortDate = Today;
     Platform.Unattended = false;
+}
+
+void FillJobTable()
+{
+    JobTable[1] = JobTable[2] = VLOG::vlogstart;
+    JobTable[9] = patternstart;
 }

@@ -36,8 +36,8 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
     {
         if (role == Qt::TextAlignmentRole)
-            return int(Qt::AlignVCenter | (orientation == Qt::Vertical && grid.rowHeadings.size() <= 1 ? Qt::AlignRight
-                                                                                                       : Qt::AlignLeft));
+            return int(Qt::AlignVCenter |
+                       (orientation == Qt::Vertical && grid.rowHeadings.size() <= 1 ? Qt::AlignRight : Qt::AlignLeft));
         if (role != Qt::DisplayRole)
             return {};
         const std::vector<Text>& headings = orientation == Qt::Horizontal ? grid.headings : grid.rowHeadings;

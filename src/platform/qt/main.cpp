@@ -1,7 +1,4 @@
-// main.cpp -- the desktop program: Qt, the seam, the table of jobs, and then the start.
-#include "canvas/batch.h"
-#include "canvas/patterns.h"
-#include "logrender/vlog.h"
+// main.cpp -- the desktop program: Qt, the seam, the jobs, and then the start.
 #include "platform/qt/application.h"
 #include "platform/qt/windows.h"
 #include "session/startup.h"
@@ -10,8 +7,7 @@ int main(int argc, char** argv)
 {
     Application application(argc, argv);
     UseDesktopPlatform();
-    JobTable[1] = JobTable[2] = VLOG::vlogstart;
-    JobTable[9] = patternstart;
+    FillJobTable();
     Main();
     if (!StartDone)
         return 1;

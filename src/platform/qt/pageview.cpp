@@ -7,8 +7,8 @@
 #include "platform/qt/pagepainter.h"
 
 #include <QMouseEvent>
-#include <QPainter>
 #include <QPaintEvent>
+#include <QPainter>
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
@@ -23,8 +23,10 @@ constexpr double WholeLimit = 6e6;
 constexpr int RestMs = 60;
 constexpr int ArrowStep = 48;
 
-const QColor Desk(0xc9, 0xce, 0xd4), Edge(0x9a, 0xa1, 0xa9), BandLine(0x2f, 0x6b, 0xa8);
+const QColor Edge(0x9a, 0xa1, 0xa9), BandLine(0x2f, 0x6b, 0xa8);
 } // namespace
+
+const QColor DeskColor(0xc9, 0xce, 0xd4);
 
 PageView::PageView(QWidget* parent) : QWidget(parent)
 {
@@ -158,7 +160,7 @@ void PageView::paintEvent(QPaintEvent* event)
     const QRect area = event->rect();
     painter.setClipRect(area);
     const QRect page = PageInView();
-    painter.fillRect(area, Desk);
+    painter.fillRect(area, DeskColor);
     painter.fillRect(page, Qt::white);
     const QRect seen = page & area;
     if (!seen.isEmpty()) {

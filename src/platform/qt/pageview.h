@@ -7,10 +7,14 @@
 
 #include "canvas/pageview.h"
 
+#include <QColor>
 #include <QImage>
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+
+// What lies under the page.
+extern const QColor DeskColor;
 
 class PageView : public QWidget
 {
@@ -50,8 +54,8 @@ private:
         QRectF part; // of the whole page, which is 0, 0, 1, 1
         double pixelsPerUnit = 0;
     };
-    QRectF Page() const;        // the page's image in the control
-    QRect PageInView() const;   // what of it is seen
+    QRectF Page() const;      // the page's image in the control
+    QRect PageInView() const; // what of it is seen
     double PixelsPerUnit() const;
     bool Covers(const Picture& picture, const QRectF& area) const;
     void PaintPicture(QPainter& painter, const Picture& picture, const QRect& area) const;
@@ -60,8 +64,8 @@ private:
     void MovedByHand(const ViewRecord& view);
 
     ViewRecord shown;
-    Picture sharp;    // of the part in view, at its zoom
-    Picture whole;    // the last one that showed the whole page, for what the sharp one lacks
+    Picture sharp; // of the part in view, at its zoom
+    Picture whole; // the last one that showed the whole page, for what the sharp one lacks
     QTimer redrawSoon;
     bool failed = false; // a picture of the page could not be had, and was told
     bool rectangleMode = false, banding = false, dragging = false;

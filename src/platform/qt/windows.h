@@ -7,20 +7,21 @@
 
 class QWidget;
 
-void ShowAboutBox(bool blocking);                        // frmAbout5
-void ShowWelcomeWindow();                                // frmWelcome
-void ShowLogWindow();                                    // frmBorinput
-void EndProgram();                                       // the same: it goes, and the event loop with it
-void ShowDrawArea();                                     // frmDrawArea
-void ShowDrawPrintDialog();                              // frmDrawPrint
-void ShowPrintingNotice();                               // frmPrinting
-void ShowProgressWindow(bool shown);                     // frmProgress
+void ShowAboutBox(bool blocking);    // frmAbout5
+void ShowWelcomeWindow();            // frmWelcome
+void ShowLogWindow();                // frmBorinput
+void EndProgram();                   // the same: it goes, and the event loop with it
+void ShowDrawArea();                 // frmDrawArea
+void ShowDrawPrintDialog();          // frmDrawPrint
+void ShowPrintingNotice();           // frmPrinting
+void ShowProgressWindow(bool shown); // frmProgress
 void StepProgressWindow(const Text& words, float percent);
-void Breathe();                                          // a turn for the window system
-bool RunUnderWay();                                      // a page is being made: the progress window is asked for
-
+void Breathe();     // a turn for the window system
+bool RunUnderWay(); // a page is being made: the progress window is asked for
 
 void CentreOnScreen(QWidget& window);
 
 // Fills in Platform for the desktop program.
 void UseDesktopPlatform();
+// What each job of the batch dialog starts.
+void FillJobTable();

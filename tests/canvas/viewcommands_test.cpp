@@ -1,0 +1,115 @@
+// viewcommands_test.cpp -- printing and the PDF of the whole run from the screen view.
+#include "canvas/viewcommands.h"
+
+#include "canvas/batch.h"
+#include "canvas/metaugl.h"
+#include "canvas/pageobjects.h"
+#include "canvas/screenview.h"
+#include "session/session.h"
+#include "testing.h"
+
+static std::vector<int> printedPages; // the page index at each page printed
+static std::vector<Text> events;
+
+// A run of three pages, each with as many lines as its number; as the log, it counts from 0 and leaves its mark for the
+// next page in break.mas.
+static void ThreePages()
+{
+    RunPages.pageCount = 3;
+    RunPages.pageIndex = 0;
+    RunPages.pageFile = "B-1.BOR";
+    while (RunPages.pageIndex < RunPages.pageCount) {
+        canvasstart("P");
+        float x = 0.25, y = 10;
+        setorigin(x, y);
+        for (int i = 0; i <= RunPages.pageIndex; ++i)
+            lineright(1);
+        WriteBreak(RunPages.pageIndex == 2 ? "Y" : "N");
+        ShowOrPrint();
+    }
+}
+
+static void Prepare()
+{
+    printedPages.clear();
+    events.clear();
+    JobTable[1] = ThreePages;
+    jobCode = 1;
+    introType = 0;
+    Platform.PrintPage = [] { printedPages.push_back(int(PageList.Objects.size())); };
+    Platform.PrintToPdf = [](bool on) { events.push_back(on ? "to PDF" : "as before"); };
+    Platform.EndPrintRun = [] { events.push_back("run ended"); };
+    Platform.ShowPrinting = [] { events.push_back("notice"); };
+}
+
+TEST_CASE("the PDF of a run has all its pages, and the page on the screen stays where it is")
+{
+    Prepare();
+    PlainShowPage = [] {
+        if (RunPages.pageIndex == 1) {
+            PageList.Objects[0].String = "shown";
+            ExportPdf();
+            CHECK(RunPages.pageIndex == 1);
+            REQUIRE(PageList.Objects.size() == 2);
+            CHECK(PageList.Objects[0].String == "shown");
+        }
+        NextPage();
+    };
+    ThreePages();
+    CHECK(printedPages == std::vector<int>{1, 2, 3});
+    CHECK(events == std::vector<Text>{"to PDF", "run ended", "as before"});
+    CHECK(Listings.size() == 3 + 3);
+}
+
+TEST_CASE("what one page leaves for the next in break.mas outlasts the PDF of the run")
+{
+    Prepare();
+    PlainShowPage = [] {
+        if (RunPages.pageIndex == 0) {
+            ExportPdf();
+            CHECK(ReadBreak() == "N");
+        }
+        NextPage();
+    };
+    ThreePages();
+}
+
+TEST_CASE("a run that fails on its way to the PDF gives the screen back")
+{
+    Prepare();
+    PlainShowPage = [] {
+        Platform.PrintPage = [] { throw RunTimeError{DiskFull}; };
+        void (*const screen)() = Platform.ShowPage;
+        CHECK(FailureOf(ExportPdf) == DiskFull);
+        const bool same = Platform.ShowPage == screen;
+        CHECK(same);
+        CHECK(events.back() == "as before");
+        ExitRun();
+    };
+    ThreePages();
+}
+
+TEST_CASE("Print shows its notice, prints the page and ends the job")
+{
+    Prepare();
+    PlainShowPage = [] {
+        PrintShownPage();
+        ExitRun();
+    };
+    ThreePages();
+    CHECK(printedPages == std::vector<int>{1});
+    CHECK(events == std::vector<Text>{"notice", "run ended"});
+}
+
+TEST_CASE("the place in the run counts from 1 in a log run and in every other")
+{
+    jobCode = 1;
+    introType = 0;
+    RunPages.pageCount = 5;
+    RunPages.pageIndex = 1;
+    CHECK(ShownPlace() == "Page 2 of 5");
+    jobCode = 3;
+    CHECK(ShownPlace() == "Page 1 of 5");
+    jobCode = 9;
+    CHECK(ShownPlace() == "");
+}

@@ -1,0 +1,90 @@
+// printing_test.cpp -- print runs where there is no printer, and the printer set-up.
+#include "canvas/batch.h"
+#include "canvas/screenview.h"
+#include "platform/qt/pdfrun.h"
+#include "platform/qt/printers.h"
+#include "session/files.h"
+#include "windows/driver.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QPushButton>
+
+static void Choose(QWidget* dialog, std::initializer_list<const char*> names)
+{
+    auto* files = Find<QListWidget>(dialog, "File1");
+    files->clearSelection();
+    for (const char* name : names)
+        for (QListWidgetItem* item : files->findItems(name, Qt::MatchExactly))
+            item->setSelected(true);
+}
+
+TEST_CASE("Batch Print of two borings is one PDF, named like the first page's source and told once at its end")
+{
+    QMainWindow* log = LogWindow();
+    const Text name = Scratch("samples/TC-102.pdf");
+    QElapsedTimer notice;
+    Then("frmDrawPrint", [&](QWidget* window) {
+        Choose(window, {"TC-102.BOR", "TC-103.BOR"});
+        notice.start();
+        ClickButton(window, "Command1");
+    });
+    Then("frmPrinting", [](QWidget* window) { CHECK(window->findChild<QLabel*>()->text() == "Printing..."); });
+    ThenAnswer(("FILE CREATED:  " + name).c_str(), "OK");
+    ClickMenu(log, "mnuFile", "mnuPrint");
+    CheckAllDone();
+    CHECK(notice.elapsed() >= 1500);
+    CHECK(WrittenByUs(name));
+    CHECK(ReadScratch("samples/TC-102.pdf").find("/Count 3") != std::string::npos);
+    CHECK_FALSE(FileExists(Scratch("samples/TC-103.pdf")));
+}
+
+TEST_CASE("a PDF that another program wrote is left alone, and one of ours is replaced")
+{
+    QMainWindow* log = LogWindow();
+    WriteScratch("samples/TC-103.pdf", "%PDF-1.4 somebody else's");
+    const Text name = Scratch("samples/TC-103-2.pdf");
+    OpenSample("TC-103.BOR");
+    for (int i = 0; i < 2; ++i) {
+        Then("DrawArea", [](QWidget* window) {
+            ClickMenu(window, "mnuFile", "mnuPrint");
+            CHECK(window->isVisible());
+            ClickMenu(window, "mnuFile", "mnuExit");
+        });
+        Then("frmPrinting", [](QWidget*) {});
+        ThenAnswer(("FILE CREATED:  " + name).c_str(), "OK");
+        ClickMenu(log, "mnuFile", "mnuPreview");
+        CheckAllDone();
+    }
+    CHECK(ReadScratch("samples/TC-103.pdf") == "%PDF-1.4 somebody else's");
+    CHECK(WrittenByUs(name));
+    CHECK_FALSE(FileExists(Scratch("samples/TC-103-3.pdf")));
+}
+
+TEST_CASE("the printer set-up offers Print to PDF, which is the choice of a system without printers")
+{
+    QMainWindow* log = LogWindow();
+    Then("PrintSetup", [](QWidget* window) {
+        auto* names = Find<QComboBox>(window, "cmbPrinter");
+        CHECK(names->itemText(0) == "Print to PDF");
+        CHECK(names->currentText() == "Print to PDF");
+        CHECK(Find<QLabel>(window, "lblSheet")->text().startsWith("Letter: 8.00 x 10.50 inches"));
+        CHECK_FALSE(Find<QPushButton>(window, "cmdProperties")->isEnabled());
+        Click(window->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok));
+    });
+    ClickMenu(log, "mnuFile", "mnuPrintSetup");
+    CheckAllDone();
+    CHECK(ChosenPrinter() == "Print to PDF");
+}
+
+TEST_CASE("without a printer the page is the one of the files: 600 dots to the inch, a quarter inch off each side")
+{
+    UseDesktop();
+    CHECK(SheetOf('P').WidthUnits == 4800);
+    CHECK(SheetOf('L').HeightInches == 8.0f);
+    CHECK(SheetOf('T').WidthUnits == 9900);
+}

@@ -1,0 +1,146 @@
+// start_test.cpp -- the start and the end of the program, as the user meets them.
+#include "platform/qt/application.h"
+#include "platform/qt/windows.h"
+#include "session/deviceconfig.h"
+#include "session/files.h"
+#include "session/session.h"
+#include "session/startup.h"
+#include "windows/driver.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QPlainTextEdit>
+#include <QTabWidget>
+#include <QTableView>
+#include <filesystem>
+
+TEST_CASE("a first start: the missing set-up is told once, the title box waits for a click, the welcome for its button")
+{
+    UseDesktop();
+    ThenAnswer("Couldn't Find DEVICE.CFG File, creating new", "OK");
+    Then("frmAbout5", Click);
+    Then("frmWelcome", [](QWidget* window) {
+        CHECK(ReadScratch("first.txt") == "yes\r\n");
+        ClickButton(window, "Command1");
+    });
+    Main();
+    CheckAllDone();
+    CHECK(StartDone);
+    CHECK(FileExists("device.cfg"));
+    for (QWidget* window : QApplication::topLevelWidgets())
+        CHECK_MESSAGE((window->isVisible() == (window->objectName() == "frmBorinput")),
+                      window->objectName().toStdString());
+}
+
+TEST_CASE("a second start asks for nothing but the click on the title box")
+{
+    QMainWindow* log = LogWindow();
+    REQUIRE(log);
+    CHECK(log->isVisible());
+    CHECK(log->windowTitle().toStdString() == Scratch("samples") + " - VeskLog - Boring Log Diagram");
+}
+
+TEST_CASE("a key closes the title box too")
+{
+    UseDesktop();
+    WriteScratch("device.cfg", Lines({ScratchFolder(), "0,0", "Arial"}));
+    WriteScratch("first.txt", "yes");
+    Then("frmAbout5", [](QWidget* window) { Key(window, Qt::Key_Return); });
+    Main();
+    CheckAllDone();
+}
+
+static int endedWith;
+
+TEST_CASE("a set-up that cannot be written ends the start: the number, then status 1")
+{
+    UseDesktop();
+    endedWith = 0;
+    void (*const before)(int) = EndAtOnce;
+    EndAtOnce = [](int status) { endedWith = status; };
+    // A folder in the place of the file: it is not a file that could be read, nor one that could be replaced.
+    std::filesystem::create_directories(Scratch("device.cfg/inside"));
+    WriteScratch("first.txt", "yes");
+    ThenAnswer("Run-time error 75", "OK");
+    Then("frmAbout5", Click);
+    Main();
+    CheckAllDone();
+    EndAtOnce = before;
+    CHECK(endedWith == 1);
+    CHECK_FALSE(StartDone);
+}
+
+TEST_CASE("a failure in a command of the window is told once, and the program goes on")
+{
+    QMainWindow* log = LogWindow();
+    Platform.ShowPrinterSetup = [] { throw RunTimeError{482}; };
+    ThenAnswer("Run-time error 482", "OK");
+    ClickMenu(log, "mnuFile", "mnuPrintSetup");
+    CheckAllDone();
+    CHECK(log->isVisible());
+    OpenSample("TC-103.BOR");
+    CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-103");
+}
+
+TEST_CASE("the open boring is shown in all its boxes, and none of them can be typed in")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-101.BOR");
+    CHECK(log->windowTitle().toStdString() == Scratch("samples/TC-101.BOR") + " - VeskLog - Boring Log Diagram");
+    const QAbstractItemModel* lith = Find<QTableView>(log, "SSLith")->model();
+    CHECK(lith->rowCount() == 100);
+    CHECK(lith->columnCount() == 4);
+    CHECK(lith->headerData(1, Qt::Horizontal).toString() == "USCS");
+    CHECK_FALSE(lith->data(lith->index(0, 1)).toString().isEmpty());
+    CHECK_FALSE(lith->flags(lith->index(0, 1)).testFlag(Qt::ItemIsEditable));
+    CHECK(Find<QTableView>(log, "SSScale")->model()->headerData(0, Qt::Vertical).toString() == "End Depth");
+    CHECK(Find<QPlainTextEdit>(log, "MemoDes")->isReadOnly());
+    CHECK_FALSE(Find<QPlainTextEdit>(log, "MemoDes")->toPlainText().isEmpty());
+    for (const char* box : {"SSInfo", "SSRepParts", "SSP1Setup", "SSP2Setup", "SSPar", "SSSamp", "SSGenWellInfo",
+                            "SSOuterLay", "SSInnerLay", "SSW", "SSCuttings", "SSFormations", "SSLegend"})
+        CHECK(Find<QTableView>(log, box)->editTriggers() == QAbstractItemView::NoEditTriggers);
+    for (QLineEdit* line : log->findChildren<QLineEdit*>())
+        CHECK(line->isReadOnly());
+}
+
+TEST_CASE("an open of an older form or of a damaged file tells so and leaves a window that works")
+{
+    QMainWindow* log = LogWindow();
+    WriteScratch("samples/CUT.BOR", ReadScratch("samples/TC-101.BOR").substr(0, 900));
+    Then("frmOpenSave", [](QWidget* window) {
+        auto* box = window->findChild<QLineEdit*>("fileNameEdit");
+        box->setText("CUT.BOR");
+        Key(box, Qt::Key_Return);
+    });
+    ThenAnswer("Error 62 in OpenBoringFile2.  Please contact Norvane", "OK");
+    ClickMenu(log, "mnuFile", "mnuOpen");
+    CheckAllDone();
+    CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-101");
+}
+
+TEST_CASE("the closing of the window asks as Exit does: Cancel keeps it, No lets it go")
+{
+    QMainWindow* log = LogWindow();
+    FileChanged = 1;
+    ThenAnswer("Would you like to save the current file before quitting?", "Cancel");
+    log->close();
+    CheckAllDone();
+    CHECK(log->isVisible());
+    CHECK(FileChanged == 1);
+    ThenAnswer("Would you like to save the current file before quitting?", "No");
+    ClickMenu(log, "mnuFile", "mnuExit");
+    CheckAllDone();
+    CHECK_FALSE(log->isVisible());
+    CHECK(FileChanged == 0);
+}
+
+TEST_CASE("Help shows its window, by the menu and by F1")
+{
+    QMainWindow* log = LogWindow();
+    Then("Help", [](QWidget* window) { Key(window, Qt::Key_Escape); });
+    ClickMenu(log, "mnuHelpMenu", "mnuHelp");
+    CheckAllDone();
+}
