@@ -2,6 +2,9 @@
 #define DOCTEST_CONFIG_IMPLEMENT
 #include "testing.h"
 
+#include "boring/boringboxes.h"
+#include "boring/boringdata.h"
+#include "boring/boringfile.h"
 #include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
@@ -9,11 +12,13 @@
 #include "canvas/screenview.h"
 #include "logrender/logdata.h"
 #include "report/heading.h"
+#include "report/layout.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/session.h"
 
+#include <algorithm>
 #include <fstream>
 #include <unistd.h>
 
@@ -63,6 +68,26 @@ std::string Lines(std::initializer_list<std::string_view> lines)
     return text;
 }
 
+// The log tool's boxes as they are before anything is typed.
+static void EmptyBoxes()
+{
+    using namespace frmBorinput;
+    for (Grid* grid : {&SSInfo, &SSScale, &SSRepParts, &SSP1Setup, &SSP2Setup, &SSPar, &SSSamp, &SSLith, &SSGenWellInfo,
+                       &SSOuterLay, &SSInnerLay, &SSW, &SSCuttings, &SSFormations, &SSLegend, &frmHeading::SSLog,
+                       &frmHeading::SSSections, &frmHeading::SSGraphics}) {
+        grid->Clear();
+        grid->headings.assign(grid->headings.size(), "");
+    }
+    MemoDes = {"", 4205, 1550};
+    MemoWcon = {"", 3249, 1750};
+    MemoRemarks = {"", 2223, 1750};
+    MemoBottNotes = {"", 8010, 1750};
+    frmSoil::MemoNotes = {"", 6800, 1550};
+    txtClient = Text1 = Text2 = cmbLayFile = lblWidthtot = Title = "";
+    Check1 = NarrowNotes = false;
+    Option = 0;
+}
+
 namespace
 {
 // Between two tests: nothing of the one before is left in the records or on the disk.
@@ -80,15 +105,22 @@ struct Fresh : doctest::IReporter {
         FileChanged = DeviceChanged = ActiveBox = DialogMode = LineCount = 0;
         DeviceConfig = DeviceRecord();
         DefaultSystemFiles();
+        LineBuffer = {};
+        BoringData = BoringRecord();
+        EmptyBoxes();
+        std::fill(std::begin(OlderForms), std::end(OlderForms), nullptr);
+        HeadingTable = {};
+        HeadingWords = {};
+        LegendInUse = 0;
+        LegendBoxFill = {};
+        LogoData = LogoRecord();
+        LayoutData = LayoutRecord();
         PageCanvas = CanvasRecord();
         PageList = PageListRecord();
         RunPages = RunPagesRecord();
         LogPage = LogPageRecord();
         LogBoring = LogBoringRecord();
         LogGeometry = LogGeometryRecord();
-        HeadingWords = {};
-        LegendInUse = 0;
-        LegendBoxFill = {};
         ForgetPatterns();
         TintsInMemory = false;
         jobCode = runFileCount = singleFile = introType = dialogBusy = stopRequested = 0;

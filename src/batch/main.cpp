@@ -86,13 +86,46 @@ static void NamePage()
     PageName = name + "-" + PlainNumber(++PagesOf[UpperCase(name)]);
 }
 
-static std::ofstream Listing;
+static std::ofstream Listing;   // grows beside its place
+static std::string ListingPart; // its name meanwhile; empty: none is asked for
+
+static void OpenListing()
+{
+    if (Asked.List.empty())
+        return;
+    ListingPart = NativePath(Asked.List) + "." + std::to_string(::getpid()) + ".tmp~";
+    Listing.open(ListingPart, std::ios::binary);
+    if (!Listing)
+        RaiseSystemError(errno, std::filesystem::is_directory(NativePath(FolderName(Asked.List))));
+}
 
 static void ListPage()
 {
     const std::string lines = PageListing(PageCount, RunPages.pageFile);
     if (!Listing.write(lines.data(), std::streamsize(lines.size())).flush())
         throw RunTimeError{DiskFull};
+}
+
+// Whole or not at all.
+static void CloseListing()
+try {
+    if (ListingPart.empty())
+        return;
+    Listing.close();
+    if (!Listing || std::rename(ListingPart.c_str(), NativePath(Asked.List).c_str()) != 0) {
+        ::unlink(ListingPart.c_str());
+        throw RunTimeError{DiskFull};
+    }
+} catch (...) {
+    ReportFailure(__func__);
+}
+
+static void ClosePdf()
+try {
+    if (Pdf)
+        Pdf->Close();
+} catch (...) {
+    ReportFailure(__func__);
 }
 
 static void PageDrawn()
@@ -233,6 +266,20 @@ static void FillDialog()
     dialog.Text1 = Asked.Page;
 }
 
+// Where the set-up names no folders of its own: a project that brings its layouts along is drawn with them, and a home
+// without fill patterns is drawn with those of the installation.
+static void FindStockFiles()
+{
+    Text& layouts = DeviceConfig.SystemFiles[LayoutFolder];
+    if (layouts == WorkingFolder)
+        for (const Text& name : FilesIn(ProjectPath, ".lay"))
+            if (!FileExists(JoinPath(WorkingFolder, name)))
+                layouts = ProjectPath;
+    Text& fills = DeviceConfig.SystemFiles[FillFolder];
+    if (fills == JoinPath(WorkingFolder, "fills/") && FilesIn(fills, ".bmp").empty())
+        fills = JoinPath(ExecutableFolder(), "fills/");
+}
+
 // Runs the job. The listing grows in a temporary file and takes its place when it is whole.
 static void RunJob()
 {
@@ -244,28 +291,15 @@ static void RunJob()
         ProjectPath = Asked.Project;
     else if (!Asked.Files.empty())
         ProjectPath = FolderName(Asked.Files.front());
+    FindStockFiles();
     OutputFolder(Asked.Png);
     OutputFolder(Asked.Dxf);
-    std::string listing, temporary;
-    if (!Asked.List.empty()) {
-        listing = NativePath(Asked.List);
-        temporary = listing + "." + std::to_string(::getpid()) + ".tmp~";
-        Listing.open(temporary, std::ios::binary);
-        if (!Listing)
-            RaiseSystemError(errno, true);
-    }
+    OpenListing();
     FillJobTable();
     FillDialog();
     DrawPrintOk();
-    if (Pdf)
-        Pdf->Close();
-    if (!listing.empty()) {
-        Listing.close();
-        if (!Listing || std::rename(temporary.c_str(), listing.c_str()) != 0) {
-            ::unlink(temporary.c_str());
-            throw RunTimeError{DiskFull};
-        }
-    }
+    ClosePdf();
+    CloseListing();
 }
 
 int main(int argc, char** argv)

@@ -16,6 +16,7 @@ Text cmbLayFile;
 bool Check1 = false;
 int Option = 0;
 Text lblWidthtot;
+bool NarrowNotes = false;
 Text Title;
 } // namespace frmBorinput
 

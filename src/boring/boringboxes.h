@@ -15,6 +15,7 @@ extern Text cmbLayFile;
 extern bool Check1;      // draft
 extern int Option;       // 1 to 4 as Option1 to Option4, 0 none
 extern Text lblWidthtot; // total width of the report parts, as "6.35/6.8"
+extern bool NarrowNotes; // the last layout that said so has the general notes in their narrow form
 extern Text Title;       // of the window
 } // namespace frmBorinput
 

@@ -40,8 +40,12 @@ int LineWeight(double units, double unitsPerInch)
                              [&](int a, int b) { return std::fabs(a - wanted) < std::fabs(b - wanted); });
 }
 
+// Red in the high byte. Kept: white is a shade below white, since some programs take pure white for the pen that they
+// turn round with the ground, and would print white areas in black.
 int TrueColor(int32_t color)
 {
+    if (color == White)
+        return 0xFEFEFE;
     return (color & 255) << 16 | (color & 0xFF00) | (color >> 16 & 255);
 }
 

@@ -105,18 +105,37 @@ private:
     std::vector<Step> ink;
 };
 
-// A stroke: so many steps from the first one of its track.
+// A stroke: so many steps from the first one of its track, and the cell where it starts.
 struct Stroke {
-    int First, Length;
+    int First, Length, Start;
     double Score; // what it covers and no other does yet
 };
 
 // One line of the plane, with all lines that the lattice makes of it, and the strokes that could lie on it.
 struct Track {
-    int Direction, X, Y;
+    int Direction, Start, Position;
     bool Closed = false; // ink all the way round: one stroke without end
     std::vector<Stroke> Strokes;
+    double Worth = 1; // of a score: less where the line's parallels are closer than the pen is wide
     double Score = 0; // of the strokes that would be taken together
+};
+
+// How the lattice cuts the plane into lines of one direction.
+struct Rule {
+    Step Way;      // one step along a line
+    int Parallels; // lines that the lattice keeps apart
+    int Steps;     // steps until a line comes back to itself
+    Step Offset;   // a move of the lattice from a line to the next one but Parallels
+    Step Across;   // with Way a basis of the plane's cells
+    // The line of a cell, 0 to Parallels - 1, and its place on that line.
+    std::pair<int, int> Position(int x, int y) const
+    {
+        const int line = Way.X * y - Way.Y * x;
+        const int moves = (line - Modulo(line, Parallels)) / Parallels;
+        x -= moves * Offset.X;
+        y -= moves * Offset.Y;
+        return {Modulo(line, Parallels), Modulo(x * Across.Y - y * Across.X, Steps)};
+    }
 };
 
 class Cover
@@ -126,6 +145,7 @@ public:
     {
         const size_t size = static_cast<size_t>(cell.Width * cell.Height);
         depth.resize(size);
+        weight.resize(size);
         centre.resize(size);
         need.resize(size);
         Measure(tile);
@@ -151,17 +171,25 @@ private:
         const auto at = [&](int x, int y) -> int& { return distance[static_cast<size_t>(y * wide + x)]; };
         for (int y = 0; y < high; ++y)
             for (int x = 0; x < wide; ++x) {
-                const int index = cell.Index(x - Margin, y - Margin);
-                at(x, y) = tile.At(index % cell.Width, index / cell.Width) ? 3 * Margin : 0;
+                int fromX = x - Margin, fromY = y - Margin;
+                cell.Wrap(fromX, fromY);
+                at(x, y) = tile.At(fromX, fromY) ? 3 * Margin : 0;
             }
+        // From the four neighbours that the pass has been at: ahead is 1 on the way down, -1 on the way up.
+        const auto lower = [&](int x, int y, int ahead) {
+            int& own = at(x, y);
+            if (own == 0)
+                return;
+            const int straight = std::min(at(x - ahead, y), at(x, y - ahead)) + 3;
+            const int slanting = std::min(at(x - 1, y - ahead), at(x + 1, y - ahead)) + 4;
+            own = std::min(own, std::min(straight, slanting));
+        };
         for (int y = 1; y < high; ++y)
             for (int x = 1; x < wide - 1; ++x)
-                at(x, y) = std::min(
-                    {at(x, y), at(x - 1, y) + 3, at(x - 1, y - 1) + 4, at(x, y - 1) + 3, at(x + 1, y - 1) + 4});
+                lower(x, y, 1);
         for (int y = high - 2; y >= 0; --y)
             for (int x = wide - 2; x > 0; --x)
-                at(x, y) = std::min(
-                    {at(x, y), at(x + 1, y) + 3, at(x + 1, y + 1) + 4, at(x, y + 1) + 3, at(x - 1, y + 1) + 4});
+                lower(x, y, -1);
         ridge.assign(depth.size(), 0);
         for (int y = 0; y < cell.Height; ++y)
             for (int x = 0; x < cell.Width; ++x) {
@@ -177,7 +205,8 @@ private:
     }
 
     // The pen is as wide as the thinner strokes of the tile: thick ones can be filled by several, thin ones cannot
-    // be drawn with a broad pen. Centres are where it stays in the ink, and the ridges of what is thinner still.
+    // be drawn with a broad pen. Centres are where it stays in the ink, and the ridges of what is thinner still;
+    // best are those where it just touches the edge, so that a broad area is filled from its edges inward.
     void ChoosePen()
     {
         std::vector<double> depths;
@@ -192,6 +221,7 @@ private:
         for (size_t i = 0; i < depth.size(); ++i) {
             centre[i] = ridge[i] || depth[i] >= std::max(1.0, 0.65 * half);
             need[i] = centre[i];
+            weight[i] = depth[i] <= half ? depth[i] : std::max(half - 0.3 * (depth[i] - half), 0.5 * half);
         }
     }
 
@@ -207,47 +237,84 @@ private:
         return static_cast<size_t>(cell.Index(x, y));
     }
 
+    Rule RuleOf(Step way) const
+    {
+        Rule rule{way, std::gcd(way.Y * cell.Width, way.X * cell.Height - way.Y * cell.Shift), 0, {0, 0}, {0, 0}};
+        rule.Steps = cell.Width * cell.Height / rule.Parallels;
+        for (int y = 0; y <= 1; ++y)
+            for (int x = -1; x <= 1; ++x)
+                if (way.X * y - way.Y * x == 1)
+                    rule.Across = {x, y};
+        // The shortest of the moves that reach the next parallel; the rows of the lattice come round with its width.
+        const auto length = [](Step move) { return std::hypot(move.X, move.Y); };
+        for (int row = 0; row <= cell.Width; ++row)
+            for (int side = -1; side <= 1; side += 2) {
+                // (x + n Width, y) is it for a whole n.
+                const int x = row * cell.Shift, y = row * cell.Height, stride = way.Y * cell.Width;
+                const int rest = way.X * y - way.Y * x - side * rule.Parallels;
+                if (stride == 0 ? rest != 0 : rest % stride != 0)
+                    continue;
+                const int n = stride == 0 ? -x / cell.Width : rest / stride;
+                const Step move{side * (x + n * cell.Width), side * y};
+                if ((rule.Offset.X == 0 && rule.Offset.Y == 0) || length(move) < length(rule.Offset))
+                    rule.Offset = move;
+            }
+        return rule;
+    }
+
     // All lines in all directions that meet a centre, with the runs of centres on them.
     void FindTracks()
     {
-        std::vector<int> seen(depth.size(), -1);
-        for (int direction = 0; direction < static_cast<int>(std::size(Directions)); ++direction)
-            for (int y = 0; y < cell.Height; ++y)
-                for (int x = 0; x < cell.Width; ++x)
-                    if (const size_t at = At(x, y); centre[at] && seen[at] != direction) {
-                        tracks.push_back(TrackThrough(direction, x, y, seen));
-                        Rank(tracks.back());
-                        queue.push({tracks.back().Score, tracks.size() - 1});
-                    }
+        std::vector<int> centres, lineTrack;
+        for (size_t at = 0; at < centre.size(); ++at)
+            if (centre[at])
+                centres.push_back(static_cast<int>(at));
+        std::vector<char> seen;
+        for (int direction = 0; direction < static_cast<int>(std::size(Directions)); ++direction) {
+            const Rule rule = RuleOf(Directions[direction]);
+            lineTrack.assign(static_cast<size_t>(rule.Parallels), -1);
+            const double apart = rule.Parallels / std::hypot(rule.Way.X, rule.Way.Y);
+            const double worth = std::min(1.0, std::pow(apart / pen, 2));
+            const size_t firstTrack = tracks.size();
+            size_t met = 0;
+            const auto add = [&](int at, bool closed) {
+                const Stroke stroke = StrokeFrom(direction, at, rule.Steps, seen);
+                met += static_cast<size_t>(stroke.Length);
+                const auto [line, position] = rule.Position(at % cell.Width, at / cell.Width);
+                int& number = lineTrack[static_cast<size_t>(line)];
+                if (number < 0) {
+                    number = static_cast<int>(tracks.size());
+                    tracks.push_back({direction, at, position, closed, {}, worth, 0});
+                }
+                Track& track = tracks[static_cast<size_t>(number)];
+                track.Strokes.push_back(stroke);
+                track.Strokes.back().First = Modulo(position - track.Position, rule.Steps);
+            };
+            seen.assign(centre.size(), 0);
+            for (const int at : centres)
+                if (!centre[At(at % cell.Width - rule.Way.X, at / cell.Width - rule.Way.Y)])
+                    add(at, false);
+            for (const int at : centres)
+                if (met < centres.size() && !seen[size_t(at)])
+                    add(at, true);
+            for (size_t i = firstTrack; i < tracks.size(); ++i) {
+                Rank(tracks[i]);
+                queue.push({tracks[i].Score, i});
+            }
+        }
     }
 
-    Track TrackThrough(int direction, int x, int y, std::vector<int>& seen) const
+    Stroke StrokeFrom(int direction, int at, int steps, std::vector<char>& seen) const
     {
-        const Step step = Directions[direction];
-        const int steps = cell.Width * cell.Height / Parallels(step);
-        // Back to the start of the first stroke.
-        int back = 0;
-        while (back < steps && centre[At(x - step.X, y - step.Y)]) {
-            x -= step.X;
-            y -= step.Y;
-            cell.Wrap(x, y);
-            ++back;
+        Stroke stroke{0, 0, at, 0};
+        int x = at % cell.Width, y = at / cell.Width;
+        for (size_t index = size_t(at); centre[index] && stroke.Length < steps; index = At(x, y)) {
+            seen[index] = 1;
+            ++stroke.Length;
+            stroke.Score += weight[index];
+            Advance(x, y, Directions[direction]);
         }
-        Track track{direction, x, y, back == steps, {}, 0};
-        bool inside = false;
-        for (int i = 0; i < steps; ++i) {
-            const size_t at = At(x, y);
-            seen[at] = direction;
-            if (centre[at] && !inside)
-                track.Strokes.push_back({i, 0, 0});
-            if (centre[at]) {
-                ++track.Strokes.back().Length;
-                track.Strokes.back().Score += depth[at];
-            }
-            inside = centre[at];
-            Advance(x, y, step);
-        }
-        return track;
+        return stroke;
     }
 
     // Weighs each stroke by what it would cover that no other has, deep cells more than shallow ones. An open stroke
@@ -256,17 +323,19 @@ private:
     {
         const Step step = Directions[track.Direction];
         for (Stroke& stroke : track.Strokes) {
-            int x = track.X + stroke.First * step.X, y = track.Y + stroke.First * step.Y;
-            cell.Wrap(x, y);
+            int x = stroke.Start % cell.Width, y = stroke.Start / cell.Width, start = stroke.Start;
             int first = -1, last = -1;
             double score = 0;
             bool touched = false;
             for (int at = stroke.First; at < stroke.First + stroke.Length; ++at) {
-                const size_t index = At(x, y);
+                const size_t index = static_cast<size_t>(y * cell.Width + x);
                 if (need[index]) {
-                    first = first < 0 ? at : first;
+                    if (first < 0) {
+                        first = at;
+                        start = static_cast<int>(index);
+                    }
                     last = at;
-                    score += depth[index];
+                    score += weight[index];
                 } else
                     touched = true;
                 Advance(x, y, step);
@@ -275,6 +344,7 @@ private:
             stroke.Score = touched && score < half * (half + 1) ? 0 : score;
             if (score > 0 && !track.Closed) {
                 stroke.First = first;
+                stroke.Start = start;
                 stroke.Length = last - first + 1;
             }
         }
@@ -290,7 +360,7 @@ private:
         });
         track.Score = 0;
         for (size_t i = 0; i < Together(track); ++i)
-            track.Score += track.Strokes[i].Score;
+            track.Score += track.Strokes[i].Score * track.Worth;
     }
 
     // How many of the track's best strokes go into one definition line: those that are worth it beside the best.
@@ -322,8 +392,9 @@ private:
             queue.push({track.Score, number});
         }
         // As broad as makes the strokes as black as the tile.
-        const double ink = static_cast<double>(std::count_if(depth.begin(), depth.end(), [](double d) { return d > 0; }));
-        pen = std::clamp(ink / std::max(length, 1.0), 2 * half - 1, 2 * half);
+        const double ink =
+            static_cast<double>(std::count_if(depth.begin(), depth.end(), [](double d) { return d > 0; }));
+        pen = std::clamp(ink / std::max(length, 1.0), 0.75 * (2 * half - 1), 2 * half);
     }
 
     // Makes a definition line of the track's best strokes and marks what the pen covers. Leaves their length.
@@ -336,18 +407,15 @@ private:
         double length = 0, below = 0, above = 0;
         for (size_t i = 0; i < count; ++i) {
             const Stroke& stroke = track.Strokes[i];
-            length += (stroke.Length - 1) * unit + pen;
-            int x = track.X + stroke.First * step.X, y = track.Y + stroke.First * step.Y;
-            for (int j = 0; j < stroke.Length; ++j) {
-                cell.Wrap(x, y);
+            length += track.Closed ? stroke.Length * unit : (stroke.Length - 1) * unit + 0.8 * pen;
+            int x = stroke.Start % cell.Width, y = stroke.Start / cell.Width;
+            for (int j = 0; j < stroke.Length; ++j, Advance(x, y, step)) {
                 for (int dy = -reach; dy <= reach; ++dy)
                     for (int dx = -reach; dx <= reach; ++dx)
                         if (dx * dx + dy * dy <= (half + 0.5) * (half + 0.5))
                             need[At(x + dx, y + dy)] = 0;
                 above += depth[At(x - side.X, y - side.Y)];
                 below += depth[At(x + side.X, y + side.Y)];
-                x += step.X;
-                y += step.Y;
             }
         }
         // The middle of a stroke of even width lies between two rows of cells.
@@ -356,50 +424,21 @@ private:
         return length;
     }
 
-    // How many lines of this direction the lattice keeps apart.
-    int Parallels(Step step) const
-    {
-        return std::gcd(step.Y * cell.Width, step.X * cell.Height - step.Y * cell.Shift);
-    }
-
-    // The move of the lattice from a line to its next parallel.
-    Step Offset(Step step) const
-    {
-        const int parallels = Parallels(step);
-        Step best{0, 0};
-        const auto length = [](Step one) { return one.X * one.X + one.Y * one.Y; };
-        // Within so many rows the multiples of the lattice's second move come round.
-        for (int row = 0; row <= cell.Width * 2; ++row) {
-            const int x = row * cell.Shift, y = row * cell.Height;
-            const int cross = step.X * y - step.Y * x;
-            // (x + n Width, y) lies on the next parallel, on either side.
-            for (const int side : {parallels, -parallels}) {
-                const int rest = cross - side, stride = step.Y * cell.Width;
-                if (stride == 0 ? rest != 0 : rest % stride != 0)
-                    continue;
-                const Step move{x + (stride == 0 ? -x / cell.Width : rest / stride) * cell.Width, y};
-                if ((best.X == 0 && best.Y == 0) || length(move) < length(best))
-                    best = move;
-            }
-        }
-        return best;
-    }
-
     void AddLine(const Track& track, size_t count, double shiftX, double shiftY)
     {
         const Step step = Directions[track.Direction];
         const double unit = std::hypot(step.X, step.Y);
-        const double period = cell.Width * cell.Height / Parallels(step) * unit;
-        const Step offset = Offset(step);
+        const Rule rule = RuleOf(step);
+        const double period = rule.Steps * unit;
         HatchLine& line = lines.emplace_back();
         line.Angle = std::atan2(-step.Y, step.X) * 180 / std::numbers::pi;
-        line.OffsetX = offset.X;
-        line.OffsetY = -offset.Y;
-        // From the ends of the pen's way half its width further: that is where the ink ends.
+        line.OffsetX = rule.Offset.X;
+        line.OffsetY = -rule.Offset.Y;
+        // From the ends of the pen's way nearly half its width further: that is where the ink, often round, ends.
         std::vector<std::pair<double, double>> dashes;
         for (size_t i = 0; i < count; ++i)
-            dashes.push_back({track.Strokes[i].First * unit - pen / 2,
-                              (track.Strokes[i].First + track.Strokes[i].Length - 1) * unit + pen / 2});
+            dashes.push_back({track.Strokes[i].First * unit - 0.4 * pen,
+                              (track.Strokes[i].First + track.Strokes[i].Length - 1) * unit + 0.4 * pen});
         std::sort(dashes.begin(), dashes.end());
         for (size_t i = 1; i < dashes.size();)
             if (dashes[i].first <= dashes[i - 1].second) {
@@ -412,8 +451,8 @@ private:
             dashes.pop_back();
         }
         const double start = dashes.front().first;
-        line.X = track.X + 0.5 + shiftX + start / unit * step.X;
-        line.Y = -(track.Y + 0.5 + shiftY + start / unit * step.Y);
+        line.X = track.Start % cell.Width + 0.5 + shiftX + start / unit * step.X;
+        line.Y = -(track.Start / cell.Width + 0.5 + shiftY + start / unit * step.Y);
         if (track.Closed || dashes.front().second - start >= period)
             return;
         for (size_t i = 0; i < dashes.size(); ++i) {
@@ -424,7 +463,7 @@ private:
     }
 
     Lattice cell;
-    std::vector<double> depth;
+    std::vector<double> depth, weight;
     std::vector<char> ridge, centre, need;
     double half = 1, pen = 1;
     int reach = 0;

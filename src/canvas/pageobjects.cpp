@@ -16,6 +16,8 @@ void ClearPage(int32_t width, int32_t height)
 
 PageObject& AddObject(ObjectKind kind, int32_t x1, int32_t y1, int32_t x2, int32_t y2)
 {
+    if (PageList.Objects.size() >= MaxPageObjects)
+        throw RunTimeError{OutOfMemory};
     PageObject& object = PageList.Objects.emplace_back();
     static_cast<ObjectStyle&>(object) = PageList.Default;
     object.Kind = kind;

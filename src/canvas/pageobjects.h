@@ -51,6 +51,7 @@ struct PageObject : ObjectStyle {
     bool Selected = false;
 };
 
+constexpr size_t MaxPageObjects = 500000;
 struct PageListRecord {
     std::vector<PageObject> Objects; // in drawing order
     ObjectStyle Default;
@@ -59,7 +60,8 @@ struct PageListRecord {
 extern PageListRecord PageList;
 
 void ClearPage(int32_t width, int32_t height); // removes all objects and sets the extent
-// The new object, with the default style; it becomes the current object.
+// The new object, with the default style; it becomes the current object. Failure 7 on a full page: absurd tick counts
+// in a damaged file end so, and not in the machine's memory.
 PageObject& AddObject(ObjectKind kind, int32_t x1, int32_t y1, int32_t x2, int32_t y2);
 PageObject& CurrentObject(); // failure 5 without one
 void SelectedToFront();      // moves the selected objects to the end of the drawing order and clears the selection

@@ -196,8 +196,8 @@ const Bitmap& PatternPicture(const Text& name)
 bool PictureThere(const Text& name)
 {
     const Text upperName = UpperCase(name);
-    return tints.contains(TintKey(upperName)) || IsBlankPattern(upperName) || FileExists(name) ||
-           (IsScreenForm(upperName) && FileExists(PrintForm(name)));
+    return tints.contains(TintKey(upperName)) || IsBlankPattern(upperName) || InFolder(name) ||
+           (IsScreenForm(upperName) && InFolder(PrintForm(name)));
 }
 
 // Writes a picture that PatternPicture can make beside the patterns. A folder that cannot be written is no failure:

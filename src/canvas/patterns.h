@@ -30,12 +30,13 @@ bool PatternThere(const Text& screenName); // the screen form, or the print form
 // once for the run of the program, a tint until its number is used again. The blank pattern is white where its file is
 // missing. Failure 53 for any other that is not there, 481 for one that is no picture.
 const Bitmap& PatternPicture(const Text& name);
-bool PictureThere(const Text& name); // PatternPicture has it now, whatever was found before
+bool PictureThere(const Text& name); // it is in memory as a tint, or the fills folder has it
 
 // Tinted copies are written as files unless this is set: several programs may draw with one fills folder at once.
 extern bool TintsInMemory;
 
-void ForgetPatternFiles(); // at the start of a page: the fills folder is looked at anew, if it has changed
-void ForgetPatterns();     // all pictures too: as at the start of a program
+// At the start of a page, and before one is printed: the fills folder is looked at anew, if it has changed.
+void ForgetPatternFiles();
+void ForgetPatterns(); // all pictures too: as at the start of a program
 
 void patternstart(); // the Fill Pattern Guide: draws the page and shows it

@@ -38,7 +38,8 @@ struct PrintForms {
 
 static int32_t ColorAttribute(const PageObject& object)
 {
-    return object.Color.empty() ? 0 : RoundInt32(TextNumber(object.Color));
+    return object.Color.empty() ? 0
+                                : static_cast<int32_t>(std::clamp(TextNumber(object.Color), 0.0, double(INT32_MAX)));
 }
 
 PrintForms::PrintForms()
@@ -66,7 +67,9 @@ PrintForms::~PrintForms()
 
 void printcanvas()
 {
-    // All of them before anything is changed or sent. Neighbouring objects mostly share a pattern.
+    // All of them before anything is changed or sent, in the fills folder as it is now. Neighbouring objects mostly
+    // share a pattern.
+    ForgetPatternFiles();
     Text there;
     for (const PageObject& object : PageList.Objects)
         if (!object.Fill.empty() && object.Fill != there) {

@@ -15,7 +15,6 @@
 using namespace frmBorinput;
 
 static const char* const titleWords = "VeskLog - Boring Log Diagram";
-static bool narrowNotes = false; // the layout has the general notes in the narrow form; no layout says neither
 
 template <int Rows, int Columns>
 static void FillGrid(Grid& grid, const TextTable<Rows, Columns>& table, int count = Rows)
@@ -160,7 +159,7 @@ static const PartDefault partDefaults[] = {
      "The width of the WELL CONSTRUCTION column must not exceed 3 inches."},
     {Equals, "REMARKS", "1.4", &MemoRemarks, 3, 0.5, 3, "The width of the REMARKS column must be at least 0.5 inches.",
      "The width of the REMARKS column must not exceed 3 inches."},
-    {Begins, "P", ".4"},
+    {Begins, "P", ".4"},      // Kept: "P12G" and its kin too, whose drawn width is fixed
     {Begins, "GPG", nullptr}, // as any other item, and not as "GP"
     {Begins, "GP", ".5"},
     {Equals, "USCS", ".25"},
@@ -244,9 +243,9 @@ try {
     for (int i = 1; i <= 12; ++i) {
         const double code = TextNumber(in.Line());
         if (code == 10)
-            narrowNotes = true;
+            NarrowNotes = true;
         else if (code == 11)
-            narrowNotes = false;
+            NarrowNotes = false;
     }
 } catch (...) {
     ReportFailure(__func__);
@@ -255,7 +254,7 @@ try {
 void changebottnotewidth()
 try {
     const int adjustment = DeviceConfig.TextAdjust[4];
-    MemoBottNotes.widthTwips = narrowNotes ? std::min(6200 + adjustment, 6700) : std::min(8010 + adjustment, 9000);
+    MemoBottNotes.widthTwips = NarrowNotes ? std::min(6200 + adjustment, 6700) : std::min(8010 + adjustment, 9000);
 } catch (...) {
     ReportFailure(__func__);
 }

@@ -60,7 +60,7 @@ static void NarrowTitle(double e)
 // The block of a code at the pen. A code above 12 is none.
 static void TitleBlock(int code, int position, double e)
 {
-    const bool oneHigh = LogGeometry.FrameKind == 'P' ? position % 3 == 2 : position % 2 == 0;
+    const bool oneHigh = LogGeometry.FrameKind == 'P' ? position < 9 && position % 3 == 2 : position % 2 == 0;
     switch (code) {
     case 1:
         return VLOG::drawlogo(e);

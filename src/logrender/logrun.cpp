@@ -29,8 +29,10 @@ void VLOG::vlogstart()
 try {
     getvlogfilecounter();
     getclientlogo(1);
-    stopRequested = 0;
+    // What drawscale leaves as it was when it fails; of the run's pages, not of an earlier run's.
+    LogGeometry.BottomDepth = LogGeometry.BottomSpan = 0;
     while (RunPages.pageIndex < RunPages.pageCount) {
+        stopRequested = 0; // an Escape on an earlier page has ended nothing and counts no more
         Platform.ShowProgress(true);
         getvlogfiles();
         const int16_t index = RunPages.pageIndex;

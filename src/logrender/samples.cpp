@@ -6,12 +6,13 @@
 #include "report/heading.h"
 #include "session/failure.h"
 
+#include <cmath>
+
 // The box of a sample's condition, a small integer that names a key pattern; 1 with its own pattern is an X.
 static void ConditionBox(const LogSample& sample, double h)
 {
-    int condition = RoundInt16(TextNumber(sample.Condition));
-    if (condition < 0 || condition > 4)
-        condition = 0;
+    const double typed = std::nearbyint(TextNumber(sample.Condition));
+    const int condition = typed >= 0 && typed <= 4 ? static_cast<int>(typed) : 0;
     if (condition == 1 && LegendBoxFill[1] == 1) {
         lineby(0.2, -h);
         moveleft(0.2);

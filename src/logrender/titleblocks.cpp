@@ -17,7 +17,7 @@
 static void PictureLogo(double e)
 {
     const Text& folder = DeviceConfig.SystemFiles[LogoFolder];
-    const Text path = JoinPath(folder.empty() ? WorkingFolder : folder, LogoData.File);
+    const Text path = JoinPath(IsBlank(folder) ? WorkingFolder : folder, LogoData.File);
     const Text upper = UpperCase(LogoData.File);
     if (!upper.ends_with("BMP")) {
         MsgBox("Unsupported Logo File Format: " + path, OkOnly, Exclamation);

@@ -37,12 +37,12 @@ void DefaultSystemFiles()
             DeviceConfig.SystemFiles[i] = defaults[i - 1];
 }
 
-// Lines 4 to 15 are read only as long as the file has lines: an older, shorter device.cfg is valid.
+// Read only as long as the file has lines: an older, shorter device.cfg is valid.
 static void ReadDevice()
 {
     LineReader in(DeviceFile());
-    ProjectPath = in.Line();
-    DeviceConfig.MarginOffsets = in.Line();
+    ProjectPath = in.AtEnd() ? "" : in.Line();
+    DeviceConfig.MarginOffsets = in.AtEnd() ? "" : in.Line();
     DeviceConfig.FontName = in.AtEnd() ? "" : in.Line();
     for (int i = 1; i <= 5; ++i)
         DeviceConfig.TextAdjust[i] = in.AtEnd() ? int16_t(0) : RoundInt16(TextNumber(in.Line()));

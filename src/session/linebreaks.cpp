@@ -60,8 +60,13 @@ static size_t FirstLine(std::string_view text, int64_t room)
             continue; // blanks count only when something stands behind them
         if (i > 0 && text[i - 1] == ' ')
             wordStart = i;
-        if (width > room)
-            return wordStart > 0 ? wordStart : std::max<size_t>(i, 1);
+        if (width <= room)
+            continue;
+        if (wordStart > 0)
+            return wordStart;
+        if (i > 0)
+            return i;
+        return std::min(text.find_first_not_of(' ', 1), text.size()); // one character at least, and its blanks
     }
     return text.size();
 }

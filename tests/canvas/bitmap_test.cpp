@@ -161,3 +161,33 @@ TEST_CASE("a tint colours the ground, leaves strokes as they are, and grey comes
     bitmap.Pixels = {0xFFFFFF, 0x000000, 0x808080, 0xFF0000};
     CHECK(Tinted(bitmap, 0xFF8000).Pixels == std::vector<uint32_t>{0xFF8000, 0x000000, 0x804000, 0xFF0000});
 }
+
+TEST_CASE("a damaged bitmap is read or refused, whatever bytes are wrong")
+{
+    Bitmap bitmap;
+    bitmap.Width = bitmap.Height = 9;
+    bitmap.Pixels.assign(81, 0x123456);
+    const std::string runs("\x05\x01\x00\x03\x00\x01\x00\x00\x00\x00\x00\x02\x01\x00\x01\x01\x00\x01", 18);
+    const std::string whole[] = {EncodeBitmap(bitmap), File(9, 9, 8, 1, std::string(1024, '\x7F'), runs),
+                                 File(9, 9, 4, 2, std::string(64, '\x7F'), runs),
+                                 File(9, 9, 1, 0, blackWhite, std::string(36, '\x55')),
+                                 File(9, 9, 16, 3, std::string(12, '\x0F'), std::string(180, '\x55'))};
+    uint32_t random = 1;
+    const auto next = [&random](size_t bound) {
+        random = random * 1664525 + 1013904223;
+        return size_t(random >> 8) % bound;
+    };
+    int read = 0, refused = 0;
+    for (int round = 0; round < 2000; ++round) {
+        std::string bytes = whole[next(5)];
+        for (size_t changes = 1 + next(4); changes > 0; --changes)
+            bytes[next(round % 2 ? 54 : bytes.size())] = static_cast<char>(next(256));
+        if (next(4) == 0)
+            bytes.resize(next(bytes.size()));
+        const int failure = DecodeFailure(bytes);
+        CHECK((failure == 0 || failure == InvalidPicture));
+        ++(failure == 0 ? read : refused);
+    }
+    CHECK(read > 100);
+    CHECK(refused > 100);
+}

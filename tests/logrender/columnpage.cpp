@@ -2,10 +2,13 @@
 #include "columnpage.h"
 
 #include "canvas/batch.h"
+#include "canvas/bitmap.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
+#include "canvas/patterns.h"
 #include "logrender/logdata.h"
 #include "report/heading.h"
+#include "session/files.h"
 
 #include <cmath>
 
@@ -32,6 +35,19 @@ void StartColumn()
     REQUIRE(PageCanvas.penY == ColumnY);
 }
 
+void SetPatterns(std::initializer_list<int> files)
+{
+    Bitmap tile;
+    tile.Width = tile.Height = 1;
+    tile.Pixels = {0};
+    std::filesystem::create_directories(Scratch("fills"));
+    for (const int file : files)
+        for (const char* form : {".BMP", "_sc.BMP"})
+            WriteScratch("fills/F" + Text(file > 0 && file < 10 ? "0" : "") + PlainNumber(file) + form,
+                         EncodeBitmap(tile));
+    ForgetPatterns();
+}
+
 void SetContacts(std::initializer_list<float> depths)
 {
     LogBoring.ContactCount = 0;
@@ -46,6 +62,27 @@ void SetLines(std::initializer_list<const char*> lines)
     LogBoring.DesCount = 0;
     for (const char* line : lines)
         LogBoring.Des[++LogBoring.DesCount] = line;
+}
+
+LogParamSetup Setup(float start, float end, float increment)
+{
+    LogParamSetup setup;
+    setup.Start = start;
+    setup.End = end;
+    setup.Increment = increment;
+    return setup;
+}
+
+void AddSample(float top, float bottom)
+{
+    LogSample& sample = LogBoring.Samples[++LogBoring.SampleCount];
+    sample.Top = top;
+    sample.Bottom = bottom;
+    sample.Blows = "-1";
+    LogGeometry.SampleFirst = 1;
+    LogGeometry.SampleLast = static_cast<int16_t>(LogBoring.SampleCount);
+    LogGeometry.SampleTopHeld = LogBoring.Samples[1].Top;
+    LogGeometry.SampleBottomHeld = bottom;
 }
 
 static Text Place(int32_t x, int32_t y)
@@ -63,9 +100,11 @@ static Text Words(const PageObject& object)
 {
     static const char* const aligned[] = {"", " centred", " right"};
     const int32_t nudge = RoundInt32(-0.11 * object.FontHeight);
+    const double angle = object.TextAngle;
     const int points = static_cast<int>(std::lround(-object.FontHeight * 72 / 600));
-    return "text " + Place(object.X1, object.Y1 - nudge) + " " + std::to_string(points) + "pt " + object.String +
-           (object.Bold ? " bold" : "") + aligned[object.HAlign];
+    const Text place = Place(object.X1 - (angle == 90 ? nudge : 0), object.Y1 - (angle == 0 ? nudge : 0));
+    return "text " + place + " " + std::to_string(points) + "pt " + object.String + (object.Bold ? " bold" : "") +
+           aligned[object.HAlign] + (angle == 0 ? "" : angle == 90 ? " upward" : " at " + PlainNumber(angle));
 }
 
 static Text Vertices(const PageObject& object)
@@ -74,9 +113,16 @@ static Text Vertices(const PageObject& object)
     for (const PagePoint& point : object.Vertices)
         words += " " + Place(point.X, point.Y);
     if (object.Brush == BrushStyle::Solid)
-        return words + (object.BrushColor == 0 ? " black" : " solid");
-    const Text name = object.BrushPicture.substr(object.BrushPicture.find_last_of("\\/") + 1);
-    return words + " " + name.substr(0, name.find('_'));
+        return words + (object.BrushColor == 0 ? " black" : object.BrushColor == White ? " white" : " solid");
+    const Text name = BaseName(object.TintOf.empty() ? object.BrushPicture : object.TintOf);
+    return words + " " + name.substr(0, name.find('_')) + (object.Tint.empty() ? "" : " in " + object.Tint);
+}
+
+static Text Circle(const PageObject& object)
+{
+    return (object.Brush == BrushStyle::Solid && object.BrushColor == 0 ? "dot " : "circle ") +
+           Place((object.X1 + object.X2) / 2, (object.Y1 + object.Y2) / 2) + " " +
+           std::to_string((object.X2 - object.X1) / 2) + Pen(object);
 }
 
 Drawing Drawn(size_t skip)
@@ -92,11 +138,21 @@ Drawing Drawn(size_t skip)
         case ObjectKind::Rectangle:
             drawing.push_back("rectangle " + corners + Pen(object));
             break;
+        case ObjectKind::Ellipse:
+            drawing.push_back(Circle(object));
+            break;
         case ObjectKind::Polygon:
             drawing.push_back(Vertices(object));
             break;
         case ObjectKind::Text:
             drawing.push_back(Words(object));
+            break;
+        case ObjectKind::Arc:
+            drawing.push_back("arc " + corners + " from " + Place(object.Vertices[0].X, object.Vertices[0].Y) + " to " +
+                              Place(object.Vertices[1].X, object.Vertices[1].Y));
+            break;
+        case ObjectKind::Picture:
+            drawing.push_back("picture " + corners + " " + BaseName(object.String));
             break;
         default:
             drawing.push_back("another kind");
@@ -123,6 +179,11 @@ bool EndsAtBaseline(float x)
 {
     return std::fabs(PageCanvas.penX - (ColumnX + 600 * x)) < 0.01 && std::fabs(PageCanvas.penY - ColumnY) < 0.01 &&
            PageCanvas.scaleX == 1 && PageCanvas.scaleY == 1 && PageList.Default.PenStyle == 0;
+}
+
+Text PageCanvasScales()
+{
+    return PlainNumber(double(PageCanvas.scaleX)) + " " + PlainNumber(double(PageCanvas.scaleY));
 }
 
 Text BreakFile()

@@ -6,7 +6,7 @@
 
 #include "testing.h"
 
-#include "session/text.h"
+#include "logrender/logdata.h"
 
 #include <vector>
 
@@ -18,14 +18,24 @@ using Drawing = std::vector<Text>;
 // column. The column is 2 inches wide and shows depths 0 to 67, 10 to the inch.
 void StartColumn();
 
+// Patterns in the fills folder, by file number; any other is blank.
+void SetPatterns(std::initializer_list<int> files);
+
 // The contacts of the boring, all of them on the page, the last one its end.
 void SetContacts(std::initializer_list<float> depths);
 void SetLines(std::initializer_list<const char*> lines);
+// A set-up with the linear axis start, end, increment; and the samples of the boring, all of them on the page.
+LogParamSetup Setup(float start, float end, float increment);
+void AddSample(float top, float bottom);
 
 // The objects behind the first skip ones, one text each:
 //     line 0,0 1200,0 dotted          rectangle 0,0 600,300
 //     text 30,48 8pt Clay bold        (the place is the pen's, before the nudge that sits text on its line)
-//     polygon 0,0 150,0 F21 150,-60   (vertices; then "black", or the pattern's name without "_sc.BMP")
+//     text 30,48 8pt Clay upward      (turned by 90 degrees, "at 45" for any other angle)
+//     circle 300,600 18               dot 300,600 18     (the middle and the radius; a dot is filled black)
+//     polygon 0,0 150,0 150,-60 F21   (vertices; then "black", "white" or the pattern, and " in 255 0 0" for a tint)
+//     arc 38,22 0,0 from 75,0 to 0,0
+//     picture 0,0 600,300 SITE.BMP
 Drawing Drawn(size_t skip = 0);
 Drawing DrawnTexts(); // the words only
 
@@ -33,7 +43,8 @@ Drawing DrawnTexts(); // the words only
 Text PenPlace();
 // The pen on the baseline at x inches, both scales 1, line style 1: what the next column relies on.
 bool EndsAtBaseline(float x);
-Text BreakFile(); // the line in break.mas
+Text PageCanvasScales(); // "1 1"
+Text BreakFile();        // the line in break.mas
 
 // A drawing that differs is shown line by line.
 template <>

@@ -369,6 +369,26 @@ TEST_CASE("on a coarse picture a pattern is averaged and keeps its pitch")
     }
 }
 
+TEST_CASE("a region that is blanked leaves no seam, and one that is blacked out is black to its edge")
+{
+    StartTestPage(400, 400);
+    WriteScratch("fills/F0.bmp", EncodeBitmap({25, 25, std::vector<uint32_t>(625, 0xFFFFFF)}));
+    PageCanvas.scaleX = PageCanvas.scaleY = 1;
+    PageCanvas.penX = 51.4f;
+    PageCanvas.penY = 251.4f;
+    rectfillflag(0.3f, 0.3f, 0);
+    QImage image = Painted(0.37);
+    int ink = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            ink += image.pixel(x, y) != qRgb(255, 255, 255);
+    CHECK(ink == 0);
+    rectfillflag(0.3f, 0.3f, 1);
+    image = Painted(0.37);
+    CHECK(Dark(image, 20, 60));
+    CHECK(Dark(image, 50, 60));
+}
+
 TEST_CASE("black objects are drawn in groups, but never past one that covers")
 {
     StartTestPage(400, 400);

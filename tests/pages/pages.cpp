@@ -15,9 +15,11 @@
 #include <fstream>
 #include <sstream>
 
-// Links to the stock files and folders of the build, then the files of the case over them.
-static void LayOutFolder(const std::string& folder)
+void LayOutFolder(const std::string& folder)
 {
+    WorkingFolder = RunFolder = ProjectPath = ScratchFolder();
+    DeviceConfig = DeviceRecord();
+    DefaultSystemFiles();
     namespace fs = std::filesystem;
     const fs::path stock = BUILD_DIR;
     for (const char* name : {"us.hdg", "logo.txt", "LOGO.BMP", "fills"})

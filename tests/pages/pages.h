@@ -5,9 +5,13 @@
 
 #include <vector>
 
-// Draws the borings as one run, in a working folder made of the stock data with the files of the folder over it, and
-// gives the listing of all its pages. The date is fixed and the paths are bare names, so that a listing is the same on
-// every machine.
+// Makes the scratch folder a working folder: links to the stock data of the build, and the files of the folder over
+// them.
+void LayOutFolder(const std::string& folder);
+
+// Draws the borings in a working folder made of the stock data with the files of the folder over it, and gives the
+// listing of all its pages. The date is fixed and the paths are bare names, so that a listing is the same on every
+// machine.
 std::string DrawLogs(const std::string& folder, const std::vector<Text>& borings);
 
 // Compares with the kept listing tests/pages/NAME.jsonl, line by line; says the first lines that differ. With

@@ -1,8 +1,12 @@
 // headless.cpp -- fonts, pictures and the PDF writer, with no screen and no theme.
 #include "platform/qt/headless.h"
 
+#include "session/files.h"
+#include "session/session.h"
+
 #include <QDate>
 #include <QGuiApplication>
+#include <QHashFunctions>
 #include <QLocale>
 
 #include <cstdio>
@@ -26,6 +30,11 @@ void StartWithoutScreen()
     qunsetenv("QT_QPA_PLATFORMTHEME");
     qunsetenv("QT_STYLE_OVERRIDE");
     qunsetenv("QT_SCALE_FACTOR");
+    // The writer's order of fonts hangs on it, and the same pages shall give the same file.
+    QHashSeed::setDeterministicGlobalSeed();
+    // Without a session of the desktop it would leave a folder of its own behind.
+    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
+        qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(NativePath(RunFolder)));
     static char name[] = "stratavue-batch", option[] = "-platform", platform[] = "offscreen";
     static char* words[] = {name, option, platform, nullptr};
     static int count = 3;

@@ -213,6 +213,7 @@ public:
     PagePlotter(QPainter& onto, double unitScale, PatternForm patternForm);
     ~PagePlotter();
     void Plot(const PageObject& object);
+    void Alone(const PageObject& object);
     void Flush();
 
 private:
@@ -220,7 +221,6 @@ private:
     QPen PenOf(int16_t style, int32_t width, int32_t color) const;
     QBrush BrushOf(const Text& name) const;
     Text PatternOf(const PageObject& object) const;
-    void Alone(const PageObject& object);
     void Draw(const PageObject& object);
     void DrawTextObject(const PageObject& object);
     void DrawPicture(const PageObject& object);
@@ -516,14 +516,29 @@ void PagePlotter::DrawPicture(const PageObject& object)
     painter.setRenderHint(QPainter::LosslessImageRendering);
 }
 
+// A ground and, next to it, the same shape outlined in another colour: the outline of the ground would show through
+// as a grey seam where the edge of a line covers half a pixel.
+static bool OutlinedAnew(const PageObject& ground, const PageObject& next)
+{
+    return ground.Kind == ObjectKind::Polygon && next.Kind == ObjectKind::Polygon && ground.PenStyle == 0 &&
+           next.PenStyle == 0 && ground.PenWidth == next.PenWidth && ground.PenColor != next.PenColor &&
+           ground.Vertices == next.Vertices;
+}
+
 void PaintPage(QPainter& painter, double scale, PatternForm form)
 {
     int failure = 0;
     {
+        const std::vector<PageObject>& objects = PageList.Objects;
         PagePlotter plotter(painter, scale, form);
-        for (const PageObject& object : PageList.Objects)
+        for (size_t i = 0; i < objects.size(); ++i)
             try {
-                plotter.Plot(object);
+                if (i + 1 < objects.size() && OutlinedAnew(objects[i], objects[i + 1])) {
+                    PageObject ground = objects[i];
+                    ground.PenColor = objects[i + 1].PenColor;
+                    plotter.Alone(ground);
+                } else
+                    plotter.Plot(objects[i]);
             } catch (const RunTimeError& error) {
                 if (failure == 0)
                     failure = error.Number;

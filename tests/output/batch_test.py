@@ -1,0 +1,209 @@
+"""batch_test.py -- stratavue-batch from its command line to its files.
+
+    python3 batch_test.py PROGRAM WORKING_FOLDER
+"""
+import json
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+PROGRAM, HOME = os.path.abspath(sys.argv[1]), os.path.abspath(sys.argv[2])
+SAMPLES = os.path.join(HOME, "samples")
+
+
+def sample(name):
+    return os.path.join(SAMPLES, name)
+
+
+def listing(path):
+    """The pages of a listing, each as its page line and its objects."""
+    pages = []
+    with open(path, encoding="utf-8") as lines:
+        for line in lines:
+            item = json.loads(line)
+            if "page" in item:
+                pages.append((item, []))
+            else:
+                pages[-1][1].append(item)
+    return pages
+
+
+def texts(page):
+    return [item["text"] for item in page[1] if item["kind"] == "text"]
+
+
+class Batch(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.mkdtemp()
+        self.addCleanup(shutil.rmtree, self.folder)
+        self.scratch = os.path.join(self.folder, "tmp")
+        os.mkdir(self.scratch)
+
+    def path(self, name):
+        return os.path.join(self.folder, name)
+
+    def run_batch(self, *words, status=0, cwd=None):
+        environment = dict(os.environ, TMPDIR=self.scratch)
+        for name in ("DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"):
+            environment.pop(name, None)
+        done = subprocess.run([PROGRAM, *words], capture_output=True, text=True, env=environment,
+                              cwd=cwd or self.folder, timeout=60)
+        self.assertEqual(done.returncode, status, done.stderr)
+        self.assertEqual(os.listdir(self.scratch), [], "the private folder of the run is gone")
+        return done
+
+    def home(self):
+        """A working folder of its own, on the stock files."""
+        home = self.path("home")
+        os.mkdir(home)
+        for name in os.listdir(HOME):
+            if name.lower().endswith((".hdg", ".txt", ".lay", ".bmp")) and name != "CMakeCache.txt":
+                shutil.copy(os.path.join(HOME, name), home)
+        os.symlink(os.path.join(HOME, "fills"), os.path.join(home, "fills"))
+        return home
+
+    def test_help_is_no_mistake(self):
+        done = self.run_batch("--help")
+        self.assertIn("stratavue-batch log [--home DIR]", done.stdout)
+        self.assertEqual(done.stderr, "")
+
+    def test_a_wrong_command_line_ends_with_2_and_one_line(self):
+        for words in ([], ["draw"], ["log"], ["log", "--colour", "x.BOR"], ["guide", "--page", "1"]):
+            done = self.run_batch(*words, status=2)
+            self.assertEqual(done.stdout, "")
+            self.assertEqual(done.stderr.count("\n"), 1)
+
+    def test_a_log_goes_to_all_outputs_at_once(self):
+        done = self.run_batch("log", "--pdf", "a.pdf", "--png", "png", "--dxf", "dxf", "--list", "a.jsonl", "--date",
+                              "1 May 2001", sample("TC-101.BOR"))
+        self.assertEqual(done.stderr, "")
+        pages = listing(self.path("a.jsonl"))
+        self.assertGreater(len(pages), 1)
+        self.assertEqual([page[0]["page"] for page in pages], list(range(1, len(pages) + 1)))
+        for head, objects in pages:
+            self.assertEqual(head["source"], "TC-101.BOR")
+            self.assertEqual((head["mode"], head["width"], head["height"]), ("P", 4800, 6300))
+            self.assertGreater(len(objects), 100)
+        names = [f"TC-101-{number}" for number in range(1, len(pages) + 1)]
+        self.assertEqual(sorted(os.listdir(self.path("png"))), [name + ".png" for name in names])
+        self.assertEqual(sorted(os.listdir(self.path("dxf"))), [name + ".dxf" for name in names])
+        info = subprocess.run(["pdfinfo", self.path("a.pdf")], capture_output=True, text=True).stdout
+        self.assertIn(f"Pages:           {len(pages)}\n", info)
+        self.assertIn("Title:           TC-101.BOR\n", info)
+        words = subprocess.run(["pdftotext", "-layout", self.path("a.pdf"), "-"], capture_output=True, text=True).stdout
+        for page in pages:
+            for text in texts(page):
+                for word in text.split():
+                    self.assertIn(word, words)
+        self.assertEqual(sorted(os.listdir(self.folder)), ["a.jsonl", "a.pdf", "dxf", "png", "tmp"])
+
+    def test_the_date_and_the_full_path_stand_in_the_date_line(self):
+        os.mkdir(self.path("job"))
+        shutil.copy(sample("TC-104.BOR"), self.path("job"))
+        self.run_batch("log", "--list", "a.jsonl", "--date", "1 May 2001", "job/TC-104.BOR", "--project", SAMPLES)
+        line = [text for text in texts(listing(self.path("a.jsonl"))[0]) if "1 May 2001" in text]
+        self.assertEqual(len(line), 1)
+        self.assertIn(os.path.realpath(self.folder) + "/job/TC-104.BOR", line[0])
+
+    def test_one_page_of_each_boring(self):
+        self.run_batch("log", "--page", "2", "--list", "all.jsonl", sample("TC-101.BOR"), sample("TC-104.BOR"))
+        pages = listing(self.path("all.jsonl"))
+        self.assertEqual([page[0]["source"] for page in pages], ["TC-101.BOR", "TC-104.BOR"])
+        self.assertIn("(Page 2 of 3)", " ".join(texts(pages[0])))
+
+    def test_borings_of_several_folders_are_one_run_and_no_picture_replaces_another(self):
+        for folder in ("north", "south"):
+            os.mkdir(self.path(folder))
+            shutil.copy(sample("TC-104.BOR"), self.path(folder))
+        self.run_batch("log", "--png", "out", "--dpi", "20", "--list", "a.jsonl", "--project", SAMPLES,
+                       "north/TC-104.BOR", "south/TC-104.BOR")
+        self.assertEqual([page[0]["page"] for page in listing(self.path("a.jsonl"))], [1, 2])
+        self.assertEqual(sorted(os.listdir(self.path("out"))), ["TC-104-1.png", "TC-104-2.png"])
+
+    def test_a_file_that_is_not_there_is_told_in_one_line_and_ends_with_1(self):
+        done = self.run_batch("log", "--pdf", "a.pdf", "none.BOR", status=1)
+        self.assertEqual(done.stderr, "Error 53 in DrawPrintOk.  Please contact Norvane\n")
+        self.assertEqual(os.listdir(self.folder), ["tmp"])
+
+    def test_a_pdf_that_cannot_be_written_is_told_once_and_the_listing_is_whole(self):
+        done = self.run_batch("log", "--pdf", "none/a.pdf", "--list", "a.jsonl", sample("TC-104.BOR"), status=1)
+        self.assertEqual(done.stderr.count("\n"), 1)
+        self.assertIn("Error 76 in ", done.stderr)
+        self.assertEqual(len(listing(self.path("a.jsonl"))), 1)
+
+    def test_a_listing_that_cannot_be_written_ends_the_run(self):
+        done = self.run_batch("log", "--list", "none/a.jsonl", sample("TC-104.BOR"), status=1)
+        self.assertEqual(done.stderr, "Run-time error 76\n")
+
+    def test_an_older_pdf_is_replaced_by_name(self):
+        with open(self.path("a.pdf"), "w") as old:
+            old.write("older")
+        self.run_batch("log", "--pdf", "a.pdf", sample("TC-104.BOR"))
+        with open(self.path("a.pdf"), "rb") as new:
+            self.assertTrue(new.read().startswith(b"%PDF-"))
+
+    def test_nothing_is_written_into_the_working_folder_or_beside_the_files(self):
+        home = self.home()
+        before = sorted(os.listdir(home)), sorted(os.listdir(SAMPLES))
+        done = self.run_batch("log", "--home", home, "--pdf", "a.pdf", sample("TC-104.BOR"))
+        self.assertEqual(done.stderr, "")
+        self.assertEqual((sorted(os.listdir(home)), sorted(os.listdir(SAMPLES))), before)
+        self.assertEqual(sorted(os.listdir(self.folder)), ["a.pdf", "home", "tmp"])
+
+    def test_the_set_up_of_the_working_folder_counts_and_stays(self):
+        home = self.home()
+        os.rename(os.path.join(home, "us.hdg"), os.path.join(home, "metric.hdg"))
+        setup = "\r\n".join(["/nowhere", "0,0", "Arial", "0", "0", "0", "0", "0", "metric.hdg", ""]).encode()
+        with open(os.path.join(home, "device.cfg"), "wb") as file:
+            file.write(setup)
+        self.assertEqual(self.run_batch("log", "--home", home, sample("TC-104.BOR")).stderr, "")
+        with open(os.path.join(home, "device.cfg"), "rb") as file:
+            self.assertEqual(file.read(), setup)
+
+    def test_the_same_message_for_the_same_file_comes_once(self):
+        home = self.home()
+        os.remove(os.path.join(home, "us.hdg"))
+        done = self.run_batch("log", "--home", home, sample("TC-101.BOR"), status=1)
+        self.assertEqual(done.stderr.count("Heading File Not Found: us.hdg\n"), 1)
+
+    def test_a_damaged_boring_ends_the_run_after_its_message(self):
+        with open(sample("TC-101.BOR"), "rb") as file:
+            lines = file.read().split(b"\r\n")
+        with open(self.path("B-1.BOR"), "wb") as file:
+            file.write(b"\r\n".join(lines[:70]))
+        done = self.run_batch("log", "--pdf", "a.pdf", sample("TC-104.BOR"), "B-1.BOR", status=1)
+        self.assertGreaterEqual(done.stderr.count("\n"), 1)
+        info = subprocess.run(["pdfinfo", self.path("a.pdf")], capture_output=True, text=True).stdout
+        self.assertIn("Pages:           1\n", info)
+
+    def test_several_processes_may_run_in_one_folder_at_once(self):
+        words = ["log", "--date", "x", sample("TC-101.BOR"), sample("TC-102.BOR")]
+        self.run_batch(*words, "--list", "alone.jsonl", "--pdf", "alone.pdf")
+        processes = [subprocess.Popen([PROGRAM, *words, "--list", f"{i}.jsonl", "--pdf", f"{i}.pdf"], cwd=self.folder)
+                     for i in range(4)]
+        self.assertEqual([process.wait(60) for process in processes], [0] * 4)
+        for ending in ("jsonl", "pdf"):
+            with open(self.path("alone." + ending), "rb") as file:
+                alone = file.read()
+            for i in range(4):
+                with open(self.path(f"{i}.{ending}"), "rb") as file:
+                    self.assertEqual(file.read(), alone)
+
+    def test_the_guide_is_one_page_with_all_patterns(self):
+        done = self.run_batch("guide", "--pdf", "g.pdf", "--png", "png", "--list", "g.jsonl")
+        self.assertEqual(done.stderr, "")
+        pages = listing(self.path("g.jsonl"))
+        self.assertEqual(len(pages), 1)
+        fills = {item["brush"]["fill"] for item in pages[0][1] if item["kind"] == "polygon"}
+        self.assertEqual(len(fills), 65)
+        self.assertEqual(os.listdir(self.path("png")), ["fillpatt-1.png"])
+        with open(self.path("g.pdf"), "rb") as file:
+            # All but the blank one.
+            self.assertEqual(file.read().count(b"/PatternType 1"), 65)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
