@@ -78,8 +78,11 @@ DrawPrint::DrawPrint(QWidget* parent) : QDialog(parent)
         drive1->addItem(QDir::toNativeSeparators(QDir::homePath()));
     dir1 = new QListWidget(this);
     dir1->setObjectName("Dir1");
+    dir1->setIconSize(QSize(16, 16));
+    dir1->setUniformItemSizes(true);
     file1 = new QListWidget(this);
     file1->setObjectName("File1");
+    file1->setMinimumWidth(210);
     file1->setSelectionMode(QAbstractItemView::ExtendedSelection);
     file1->setUniformItemSizes(true);
     label1 = new QLabel(ToUi(Dialog.Label), this);
@@ -129,12 +132,14 @@ DrawPrint::DrawPrint(QWidget* parent) : QDialog(parent)
     (Dialog.AllPages ? optionAll : optionPage)->setChecked(true);
 
     auto* left = new QVBoxLayout;
+    left->setSpacing(5);
     left->addWidget(drives);
     left->addWidget(drive1);
     left->addSpacing(6);
     left->addWidget(directories);
     left->addWidget(dir1, 1);
     auto* middle = new QVBoxLayout;
+    middle->setSpacing(5);
     middle->addWidget(label1);
     middle->addWidget(file1, 1);
     middle->addWidget(option1);

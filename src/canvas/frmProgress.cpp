@@ -91,6 +91,11 @@ void ShowProgressWindow(bool shown)
     window.wanted = shown;
 }
 
+void RunPaused()
+{
+    Window().since.start();
+}
+
 void StepProgressWindow(const Text& words, float percent)
 {
     ProgressWindow& window = Window();

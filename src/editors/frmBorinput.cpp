@@ -300,7 +300,7 @@ QWidget* BorinputWindow::Tabs()
     tabs->addTab(Tab(Split(Qt::Horizontal,
                            {GridBox("SSLith", SSLith), MemoBox("MemoDes", "Descriptions", MemoDes),
                             GridBox("SSFormations", SSFormations)},
-                           {3, 4, 3})),
+                           {4, 6, 3})),
                  "Lithology");
     tabs->addTab(Tab(Split(Qt::Vertical, {GridBox("SSSamp", SSSamp), GridBox("SSP1Setup", SSP1Setup)}, {3, 2})),
                  "Samples");

@@ -55,7 +55,9 @@ int ShowMessageBox(const Text& words, Buttons buttons, Icon icon)
                 : icon == Exclamation ? QMessageBox::Warning
                                       : QMessageBox::NoIcon);
     box.setStandardButtons(Offered(buttons));
-    switch (box.exec()) {
+    const int chosen = box.exec();
+    RunPaused();
+    switch (chosen) {
     case QMessageBox::Ok:
         return Ok;
     case QMessageBox::Yes:

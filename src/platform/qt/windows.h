@@ -18,6 +18,7 @@ void ShowProgressWindow(bool shown); // frmProgress
 void StepProgressWindow(const Text& words, float percent);
 void Breathe();     // a turn for the window system
 bool RunUnderWay(); // a page is being made: the progress window is asked for
+void RunPaused();   // a box was up meanwhile: what the user took to read it does not count as a slow page
 
 void CentreOnScreen(QWidget& window);
 
