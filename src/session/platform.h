@@ -36,16 +36,16 @@ struct PlatformRecord {
     void (*StepProgress)(const Text& words, float percent);
     void (*ShowChooser)(); // by DialogMode; answers in DialogResult
     void (*ShowHelp)();
-    void (*ShowPrinterSetup)();    // which printer, blocking
-    void (*PrintToPdf)(bool on);   // while on, print runs go to a PDF whatever printer is chosen
+    void (*ShowPrinterSetup)();  // which printer, blocking
+    void (*PrintToPdf)(bool on); // while on, print runs go to a PDF whatever printer is chosen
     // The start and the end of the desktop program.
     Text (*ExecutableFolder)();
     void (*ShowAbout)(bool blocking); // the title box; blocking: until it is clicked
     void (*ShowLogWindow)();          // the log window, loaded and shown when this returns
     void (*ShowWelcome)();            // blocking
     void (*EndProcess)();             // the log window goes, and with it the program
-    void (*Breathe)();   // a turn for the window system, so that Escape is seen
-    Text (*ShortDate)(); // today, in the short form of the user's locale
+    void (*Breathe)();                // a turn for the window system, so that Escape is seen
+    Text (*ShortDate)();              // today, in the short form of the user's locale
     // True where nobody sits in front: a question takes the answer that loses nothing, and a run that cannot go
     // on ends instead of waiting for a key.
     bool Unattended;
