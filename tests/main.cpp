@@ -5,14 +5,18 @@
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
+#include "boring/opensave.h"
+#include "boring/projectlist.h"
 #include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
 #include "logrender/logdata.h"
+#include "report/fontprofile.h"
 #include "report/heading.h"
 #include "report/layout.h"
+#include "report/logo.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -76,6 +80,7 @@ static void EmptyBoxes()
                        &SSOuterLay, &SSInnerLay, &SSW, &SSCuttings, &SSFormations, &SSLegend, &frmHeading::SSLog,
                        &frmHeading::SSSections, &frmHeading::SSGraphics}) {
         grid->Clear();
+        grid->fontName.clear();
         grid->headings.assign(grid->headings.size(), "");
     }
     MemoDes = {"", 4205, 1550};
@@ -84,6 +89,8 @@ static void EmptyBoxes()
     MemoBottNotes = {"", 8010, 1750};
     frmSoil::MemoNotes = {"", 6800, 1550};
     txtClient = Text1 = Text2 = cmbLayFile = lblWidthtot = Title = "";
+    cmbLayFileList.clear();
+    Text1Font = txtClientFont = "";
     Check1 = NarrowNotes = false;
     Option = 0;
 }
@@ -108,6 +115,19 @@ struct Fresh : doctest::IReporter {
         LineBuffer = {};
         BoringData = BoringRecord();
         EmptyBoxes();
+        ProjectList = {};
+        ProjectCount = 0;
+        frmProjEdit::SS.Clear();
+        frmOpenSave::Dialog = frmOpenSave::Record();
+        frmOpenSave::SS.Clear();
+        frmOpenSave::HiddenFolder = "";
+        frmOpenSave::HiddenFiles.clear();
+        frmCross::Title = frmFence::Title = frmSoil::Title = "";
+        frmPrinterSetup::Dialog = frmPrinterSetup::Record();
+        frmPrinterSetup::SSMainFilePath.Clear();
+        SetupChange = SetupChangeRecord();
+        CopyDestination = "a:\\";
+        frmLogo::Dialog = frmLogo::Record();
         std::fill(std::begin(OlderForms), std::end(OlderForms), nullptr);
         HeadingTable = {};
         HeadingWords = {};

@@ -12,6 +12,8 @@ extern Memo MemoDes, MemoWcon, MemoRemarks, MemoBottNotes;
 extern Text txtClient;    // CR LF line ends
 extern Text Text1, Text2; // boring name, map file
 extern Text cmbLayFile;
+extern std::vector<Text> cmbLayFileList; // the layouts to choose from, by getfilelist
+extern Text Text1Font, txtClientFont;    // of boxes that are plain texts; "" as designed
 extern bool Check1;      // draft
 extern int Option;       // 1 to 4 as Option1 to Option4, 0 none
 extern Text lblWidthtot; // total width of the report parts, as "6.35/6.8"

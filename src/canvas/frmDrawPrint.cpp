@@ -183,7 +183,7 @@ DrawPrint::DrawPrint(QWidget* parent) : QDialog(parent)
     });
     connect(command4, &QPushButton::clicked, this, [] {
         if (!dialogBusy)
-            Platform.ShowPrinterSetup();
+            Platform.ShowGraphicsSetup();
     });
     connect(optionBor, &QRadioButton::toggled, this,
             [](bool on) { Dialog.ReportOption = on ? 0 : Dialog.ReportOption; });

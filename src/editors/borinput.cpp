@@ -4,8 +4,12 @@
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
+#include "boring/feet2meters.h"
+#include "boring/opensave.h"
+#include "boring/projectlist.h"
 #include "canvas/batch.h"
 #include "editors/fillform.h"
+#include "report/fontprofile.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/platform.h"
@@ -58,10 +62,14 @@ void frmBorinput::Load()
 {
     FileChanged = 0;
     LoadDevice();
+    if (DeviceConfig.FontName != "Arial")
+        AssignFont();
+    LoadProjectList();
     ActiveBox = 0;
     BoringFileName = "";
     LabelBoxes();
     Title = ProjectPath + " - " + ToolTitle;
+    getfilelist(1);
     // The start widths; a boring's report parts set them anew.
     MemoDes.widthTwips = 4205 + DeviceConfig.TextAdjust[1];
     MemoWcon.widthTwips = 3249 + DeviceConfig.TextAdjust[2];
@@ -84,6 +92,8 @@ void frmBorinput::mnuNew()
     if (!SaveFirst("Would you like to save the current file before starting a new file?"))
         return;
     ClearBoringForm();
+    if (DeviceConfig.FontName != "Arial")
+        AssignFont();
 }
 
 void frmBorinput::mnuOpen()
@@ -172,6 +182,24 @@ void frmBorinput::mnuPrint()
 void frmBorinput::mnuPrintSetup()
 {
     Platform.ShowPrinterSetup();
+}
+
+void frmBorinput::mnuConvertFeetMeters()
+{
+    if (MsgBox("This utility converts all depths from feet to meters.  Afterward, you may want to save the file under a "
+               "different name.  Do you wish to proceed?",
+               YesNo, Question) == Yes)
+        convertfeet2meters();
+}
+
+void frmBorinput::mnuGraphicSetup()
+{
+    Platform.ShowGraphicsSetup();
+}
+
+void frmBorinput::mnuCreateLogo()
+{
+    Platform.ShowLogo();
 }
 
 void frmBorinput::mnuFillPatt()

@@ -17,6 +17,9 @@ void mnuPrint();
 void mnuPrintSetup();
 bool mnuExit(); // also at the closing of the window; false: the user stays
 // Utilities and Help.
+void mnuConvertFeetMeters();
+void mnuGraphicSetup();
+void mnuCreateLogo();
 void mnuFillPatt();
 void mnuHelp();
 } // namespace frmBorinput
