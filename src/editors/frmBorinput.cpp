@@ -102,17 +102,56 @@ BorinputWindow::BorinputWindow()
         return menu;
     };
     QMenu* file = part(menuBar(), "mnuFile", "&File");
+    QAction* create = Entry(file, "mnuNew", "&New", QKeySequence::New, frmBorinput::mnuNew);
     QAction* open = Entry(file, "mnuOpen", "&Open...", QKeySequence::Open, frmBorinput::mnuOpen);
+    QAction* save = Entry(file, "mnuSave", "&Save", QKeySequence::Save, frmBorinput::mnuSave);
+    Entry(file, "mnuSaveAs", "Save &As...", QKeySequence("Ctrl+Shift+S"), frmBorinput::mnuSaveAs);
+    Entry(file, "mnuImport", "&Import Description Text...", {}, frmBorinput::mnuImport);
     file->addSeparator();
     preview = Entry(file, "mnuPreview", "Pre&view", QKeySequence("F5"), frmBorinput::mnuPreview);
     QAction* draw = Entry(file, "mnuBatchDraw", "Batch &Draw...", {}, frmBorinput::mnuBatchDraw);
     QAction* print = Entry(file, "mnuPrint", "Batch &Print...", QKeySequence::Print, frmBorinput::mnuPrint);
-    Entry(file, "mnuPrintSetup", "Print &Setup...", {}, frmBorinput::mnuPrintSetup);
+    Entry(file, "mnuPrintSetup", "Print Set&up...", {}, frmBorinput::mnuPrintSetup);
     file->addSeparator();
     // The closing of the window asks and ends, whatever it is that closes it.
     Entry(file, "mnuExit", "E&xit", QKeySequence("Ctrl+Q"), [this] { close(); });
+
+    using frmBorinput::Commands;
+    QMenu* edit = part(menuBar(), "mnuEdit", "&Edit");
+    Entry(edit, "mnuUndo", "&Undo", QKeySequence("Ctrl+Z"), frmBorinput::mnuUndo);
+    Entry(edit, "mnuRedo", "&Redo", QKeySequence("Ctrl+Y"), frmBorinput::mnuRedo);
+    edit->addSeparator();
+    Entry(edit, "mnuCut", "Cu&t", QKeySequence("Ctrl+X"), frmBorinput::mnuCut);
+    Entry(edit, "mnuCopy", "&Copy", QKeySequence("Ctrl+C"), frmBorinput::mnuCopy);
+    Entry(edit, "mnuPaste", "&Paste", QKeySequence("Ctrl+V"), frmBorinput::mnuPaste);
+    Entry(edit, "mnuFillDown", "&Fill Down", QKeySequence("Ctrl+D"), frmBorinput::mnuFillDown);
+    edit->addSeparator();
+    Entry(edit, "mnuInsertRow", "&Insert Row", QKeySequence("Ctrl++"), frmBorinput::mnuInsertRow);
+    Entry(edit, "mnuDeleteRow", "&Delete Row", QKeySequence("Ctrl+-"), frmBorinput::mnuDeleteRow);
+    edit->addSeparator();
+    Entry(edit, "mnuEditHeading", "Edit &Heading File...", {}, Commands.mnuEditHeading);
+    Entry(edit, "mnuEditLayout", "Edit &Layout File...", {}, Commands.mnuEditLayout);
+    Entry(edit, "mnuEditDesItems", "Edit De&scription Items...", {}, Commands.mnuEditDesItems);
+    Entry(edit, "mnuEditPromptFile", "Edit Pr&ompt File...", {}, Commands.mnuEditPromptFile);
+
     QMenu* utilities = part(menuBar(), "mnuUtilities", "&Utilities");
+    Entry(utilities, "mnuGraphicSetup", "Graphics/System &Set-Up...", {}, Commands.mnuGraphicSetup);
+    Entry(utilities, "mnuCreateLogo", "Create &Logo...", {}, Commands.mnuCreateLogo);
     Entry(utilities, "mnuFillPatt", "Fill Pattern &Guide", {}, frmBorinput::mnuFillPatt);
+    utilities->addSeparator();
+    Entry(utilities, "mnuConvertFeetMeters", "Convert &Feet to Meters...", {}, Commands.mnuConvertFeetMeters);
+    Entry(utilities, "mnuConvertGTGStxt", "Convert GTGS &Text...", {}, Commands.mnuConvertGTGStxt);
+    Entry(utilities, "mnuConvertGTGSgeneral", "Convert GTGS, G&eneral...", {}, Commands.mnuConvertGTGSgeneral);
+    Entry(utilities, "mnuGTGS", "Convert GTGS &Print File...", {}, Commands.mnuGTGS);
+    Entry(utilities, "mnuConvertWinLog", "Convert &WinLog...", {}, Commands.mnuConvertWinLog);
+    Entry(utilities, "mnuExp2IRPIMS", "Export to &IRPIMS...", {}, Commands.mnuExp2IRPIMS);
+
+    QMenu* tools = part(menuBar(), "mnuTools", "&Tools");
+    Entry(tools, "mnuvcross", "Vesk&Cross", {}, Commands.mnuvcross);
+    Entry(tools, "mnuvfence", "Vesk&Fence", {}, Commands.mnuvfence);
+    Entry(tools, "mnuvsoil", "Vesk&Soil", {}, Commands.mnuvsoil);
+    Entry(tools, "mnuvGIS", "Vesk&GIS", {}, Commands.mnuvGIS);
+
     QMenu* help = part(menuBar(), "mnuHelpMenu", "&Help");
     Entry(help, "mnuHelp", "&Help", QKeySequence::HelpContents, frmBorinput::mnuHelp);
 
@@ -120,7 +159,9 @@ BorinputWindow::BorinputWindow()
     bar->setObjectName("Commands");
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    bar->addAction(create);
     bar->addAction(open);
+    bar->addAction(save);
     bar->addSeparator();
     bar->addAction(preview);
     bar->addAction(draw);
@@ -157,6 +198,7 @@ QAction* BorinputWindow::Entry(QMenu* menu, const char* name, const char* captio
     auto* action = new QAction(caption, this);
     action->setObjectName(name);
     action->setShortcut(keys);
+    action->setEnabled(bool(command));
     menu->addAction(action);
     connect(action, &QAction::triggered, this, [this, command] {
         // However the command ends, what it has done is shown, and no progress window outlives it.
