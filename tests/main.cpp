@@ -89,7 +89,7 @@ static void EmptyBoxes()
     MemoBottNotes = {"", 8010, 1750};
     frmSoil::MemoNotes = {"", 6800, 1550};
     txtClient = Text1 = Text2 = cmbLayFile = lblWidthtot = Title = "";
-    cmbLayFileList.clear();
+    LayFiles.clear();
     Text1Font = txtClientFont = "";
     Check1 = NarrowNotes = false;
     Option = 0;

@@ -193,7 +193,7 @@ try {
     frmOpenSave::HiddenFiles = FilesIn(frmOpenSave::HiddenFolder, ".LAY");
     if (mode != 1)
         return;
-    frmBorinput::cmbLayFileList = frmOpenSave::HiddenFiles;
+    frmBorinput::LayFiles = frmOpenSave::HiddenFiles;
     frmOpenSave::HiddenFolder.clear();
     frmOpenSave::HiddenFiles.clear();
 } catch (...) {

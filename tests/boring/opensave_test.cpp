@@ -301,9 +301,9 @@ TEST_CASE("the layouts are listed by bare names from the layout folder, by name 
         WriteScratch(name, "");
     DeviceConfig.SystemFiles[LayoutFolder] = Scratch("layouts");
     frmBorinput::cmbLayFile = "typed.lay";
-    frmBorinput::cmbLayFileList = {"old.lay"};
+    frmBorinput::LayFiles = {"old.lay"};
     getfilelist(1);
-    CHECK(frmBorinput::cmbLayFileList == std::vector<Text>{"Basic.LAY", "well.lay"});
+    CHECK(frmBorinput::LayFiles == std::vector<Text>{"Basic.LAY", "well.lay"});
     CHECK(frmBorinput::cmbLayFile == "typed.lay");
     CHECK(FileChanged == 0);
     CHECK(frmOpenSave::HiddenFiles.empty());
@@ -314,22 +314,22 @@ TEST_CASE("a layout folder that cannot be written gives the layouts of the worki
     WriteScratch("here.lay", "");
     DeviceConfig.SystemFiles[LayoutFolder] = "/nowhere";
     getfilelist(1);
-    CHECK(frmBorinput::cmbLayFileList == std::vector<Text>{"here.lay"});
+    CHECK(frmBorinput::LayFiles == std::vector<Text>{"here.lay"});
 }
 
 TEST_CASE("without a project folder the list of layouts stays as it is")
 {
     WriteScratch("here.lay", "");
     ProjectPath = "";
-    frmBorinput::cmbLayFileList = {"old.lay"};
+    frmBorinput::LayFiles = {"old.lay"};
     getfilelist(1);
-    CHECK(frmBorinput::cmbLayFileList == std::vector<Text>{"old.lay"});
+    CHECK(frmBorinput::LayFiles == std::vector<Text>{"old.lay"});
 }
 
 TEST_CASE("any other mode of the layout list fills the chooser's hidden list alone")
 {
     WriteScratch("here.lay", "");
     getfilelist(0);
-    CHECK(frmBorinput::cmbLayFileList.empty());
+    CHECK(frmBorinput::LayFiles.empty());
     CHECK(frmOpenSave::HiddenFiles == std::vector<Text>{"here.lay"});
 }

@@ -177,12 +177,12 @@ TEST_CASE("another description item file and another layout folder are read at o
     frmPrinterSetup::SSMainFilePath.Cell(3, 1) = "other.txt";
     frmPrinterSetup::Command1();
     CHECK(itemLoads == 1);
-    CHECK(frmBorinput::cmbLayFileList.empty());
+    CHECK(frmBorinput::LayFiles.empty());
     OpenSetup();
     frmPrinterSetup::SSMainFilePath.Cell(4, 1) = Scratch("layouts");
     frmPrinterSetup::Command1();
     CHECK(itemLoads == 0);
-    CHECK(frmBorinput::cmbLayFileList == std::vector<Text>{"well.lay"});
+    CHECK(frmBorinput::LayFiles == std::vector<Text>{"well.lay"});
     CHECK(ProjectCount == 0); // the project list is the same as before, so it was not read
 }
 
