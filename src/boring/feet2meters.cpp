@@ -44,8 +44,8 @@ static void ConvertScale()
         SSScale.Cell(row, 1) = BoringData.Scale[row];
 }
 
-// The depth markers among stored lines; each closes its paragraph. Kept: any line that begins with "-" is one, so a text
-// such as "- gravel" is lost, also where a line happens to be wrapped before a "-".
+// The depth markers among stored lines; each closes its paragraph. Kept: any line that begins with "-" is one, so a
+// text such as "- gravel" is lost, also where a line happens to be wrapped before a "-".
 template <int Rows>
 static void ConvertMarkers(Slots<Text, Rows>& lines, int count, Memo& box)
 {

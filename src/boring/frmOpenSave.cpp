@@ -206,8 +206,7 @@ QWidget* OpenSave::Projects()
     projects = table;
     projects->setObjectName("SS");
     projects->setAccessibleName("Projects");
-    projects->setHorizontalHeaderLabels(
-        {ToUi(frmOpenSave::SS.headings[1]), ToUi(frmOpenSave::SS.headings[2])});
+    projects->setHorizontalHeaderLabels({ToUi(frmOpenSave::SS.headings[1]), ToUi(frmOpenSave::SS.headings[2])});
     projects->setSelectionBehavior(QAbstractItemView::SelectRows);
     projects->setSelectionMode(QAbstractItemView::SingleSelection);
     projects->setEditTriggers(QAbstractItemView::NoEditTriggers);

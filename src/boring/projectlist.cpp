@@ -7,6 +7,7 @@
 
 #include "session/deviceconfig.h"
 #include "session/files.h"
+#include "session/gridedit.h"
 #include "session/platform.h"
 
 #include <algorithm>
@@ -68,6 +69,9 @@ void frmProjEdit::Load()
     SS.title = "Project List";
     SS.headings = {"", "Project ID", "Project Path", "Heading File", "Logo File"};
     SS.Clear();
+    ForgetSteps(SS);
+    SS.row = SS.column = 1;
+    SS.selected = Block();
     for (int i = 1; i <= ProjectCount; ++i) {
         SS.Cell(i, 1) = ProjectList[i].ProjectId;
         SS.Cell(i, 2) = ProjectList[i].ProjectFolder;

@@ -239,9 +239,10 @@ void frmBorinput::mnuPrintSetup()
 
 void frmBorinput::mnuConvertFeetMeters()
 {
-    if (MsgBox("This utility converts all depths from feet to meters.  Afterward, you may want to save the file under a "
-               "different name.  Do you wish to proceed?",
-               YesNo, Question) != Yes)
+    if (MsgBox(
+            "This utility converts all depths from feet to meters.  Afterward, you may want to save the file under a "
+            "different name.  Do you wish to proceed?",
+            YesNo, Question) != Yes)
         return;
     convertfeet2meters();
     ForgetAll(); // a step taken back would put feet among the meters

@@ -7,6 +7,7 @@
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
+#include "session/gridedit.h"
 #include "session/platform.h"
 #include "session/session.h"
 
@@ -88,6 +89,9 @@ void frmPrinterSetup::Load()
                                   "Path to Logo Files",
                                   "Path to Profile Files",
                                   "Path to Fill Files"};
+    ForgetSteps(SSMainFilePath);
+    SSMainFilePath.row = SSMainFilePath.column = 1;
+    SSMainFilePath.selected = Block();
     for (int i = 1; i <= 7; ++i)
         SSMainFilePath.Cell(i, 1) = DeviceConfig.SystemFiles[i];
 }

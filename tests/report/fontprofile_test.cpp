@@ -292,7 +292,8 @@ TEST_CASE("a chooser that is cancelled opens and saves no profile")
 
 // ---- The copy
 
-TEST_CASE("the system files are copied: logo, lists, headings, layouts, logo pictures and profiles, by their bare names")
+TEST_CASE(
+    "the system files are copied: logo, lists, headings, layouts, logo pictures and profiles, by their bare names")
 {
     for (const char* folder : {"to", "lists", "layouts", "logos", "profiles"})
         std::filesystem::create_directories(Scratch(folder));

@@ -200,7 +200,7 @@ void OpenSample(const char* name)
             log = qobject_cast<QMainWindow*>(window);
     REQUIRE(log);
     Then("frmOpenSave", [name](QWidget* window) {
-        auto* box = window->findChild<QLineEdit*>("fileNameEdit");
+        auto* box = window->findChild<QLineEdit*>("fileText");
         REQUIRE(box);
         QTest::keyClicks(box, name);
         QTest::keyClick(box, Qt::Key_Return);
