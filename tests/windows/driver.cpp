@@ -146,6 +146,12 @@ void Key(QWidget* window, int key, Qt::KeyboardModifiers modifiers)
     QTest::keyClick(to, Qt::Key(key), modifiers);
 }
 
+void TypeWords(QWidget* window, const Text& words)
+{
+    for (const QChar letter : QString::fromStdString(ToUtf8(words)))
+        QTest::keyClicks(window->focusWidget() ? window->focusWidget() : window, QString(letter));
+}
+
 void UseDesktop()
 {
     // One application for the run of the tests; it is never taken down, since Qt's statics go in no order.

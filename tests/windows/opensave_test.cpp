@@ -224,7 +224,7 @@ TEST_CASE("a click on a project makes its folder the project folder, its heading
     ClickMenu(log, "mnuFile", "mnuOpen");
     CheckAllDone();
     CHECK(ProjectPath == Scratch("harbour"));
-    CHECK(log->windowTitle().toStdString() == Scratch("harbour") + " - VeskLog - Boring Log Diagram");
+    CHECK(log->windowTitle().toStdString().starts_with(Scratch("harbour") + " - VeskLog - Boring Log Diagram"));
     CHECK(DeviceConfig.SystemFiles[HeadingFile] == "harbour.hdg");
     LineReader logo("logo.txt");
     logo.Skip(4);

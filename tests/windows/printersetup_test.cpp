@@ -37,7 +37,7 @@ TEST_CASE("the set-up window shows the set-up, and OK writes what was typed")
         Retype(window, "Text3", "5,-7");
         auto* grid = Find<QTableView>(window, "SSMainFilePath");
         grid->setFocus();
-        QTest::keyClicks(window->focusWidget(), "my.hdg");
+        TypeWords(window, "my.hdg");
         ClickButton(window, "Command1");
     });
     ClickMenu(log, "mnuUtilities", "mnuGraphicSetup");

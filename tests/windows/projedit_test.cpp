@@ -11,7 +11,7 @@
 // Types into the cell in focus; Tab goes on to the next.
 static void Type(QWidget* window, const Text& words, int then)
 {
-    QTest::keyClicks(window->focusWidget(), QString::fromStdString(words));
+    TypeWords(window, words);
     Key(window, then);
     Settle();
 }
@@ -28,7 +28,7 @@ TEST_CASE("a project is typed into the grid, and OK writes the list, with the ce
         CHECK(window->focusWidget() == grid);
         Type(window, "Harbour", Qt::Key_Tab);
         Type(window, ScratchFolder(), Qt::Key_Tab);
-        QTest::keyClicks(window->focusWidget(), "my.hdg");
+        TypeWords(window, "my.hdg");
         CHECK(Find<QPushButton>(window, "Command1")->isDefault());
         ClickButton(window, "Command1");
     });
