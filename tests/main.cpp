@@ -12,6 +12,7 @@
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "editors/borinput.h"
 #include "logrender/logdata.h"
 #include "report/fontprofile.h"
 #include "report/heading.h"
@@ -82,6 +83,11 @@ static void EmptyBoxes()
         grid->Clear();
         grid->fontName.clear();
         grid->headings.assign(grid->headings.size(), "");
+        grid->row = grid->column = 1;
+        grid->selected = {};
+        grid->changed = nullptr;
+        grid->done.clear();
+        grid->undone.clear();
     }
     MemoDes = {"", 4205, 1550};
     MemoWcon = {"", 3249, 1750};
@@ -89,7 +95,9 @@ static void EmptyBoxes()
     MemoBottNotes = {"", 8010, 1750};
     frmSoil::MemoNotes = {"", 6800, 1550};
     txtClient = Text1 = Text2 = cmbLayFile = lblWidthtot = Title = "";
+    List = {};
     LayFiles.clear();
+    Commands = {};
     Text1Font = txtClientFont = "";
     Check1 = NarrowNotes = false;
     Option = 0;

@@ -277,6 +277,8 @@ bool GridView::focusNextPrevChild(bool next)
 
 void GridView::keyPressEvent(QKeyEvent* event)
 {
+    if (state() == EditingState) // a key that the box of the edit has let through
+        return QTableView::keyPressEvent(event);
     model->TakeTyped();
     const auto is = [event](QKeySequence::StandardKey key) { return event->matches(key); };
     const bool control = event->modifiers() == Qt::ControlModifier;
