@@ -197,7 +197,7 @@ try {
     for (int k = 1; k <= 4; ++k) {
         GraphCurve curve;
         curve.Axis = GraphAxis::linear(setup);
-        const GraphMark& mark = (k <= 2 ? openMarks : solidMarks)[(k - 1) % 2];
+        const GraphMark& mark = k <= 2 ? openMarks[k - 1] : solidMarks[k - 3];
         for (int i = LogGeometry.SampleFirst; i > 0 && i <= LogGeometry.SampleLast; ++i) {
             const Text& value = LogBoring.Samples[i].Param[n[k]];
             if (value.empty())
