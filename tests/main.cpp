@@ -10,6 +10,7 @@
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "editors/borinput.h"
 #include "logrender/logdata.h"
 #include "report/heading.h"
 #include "report/layout.h"
@@ -77,6 +78,11 @@ static void EmptyBoxes()
                        &frmHeading::SSSections, &frmHeading::SSGraphics}) {
         grid->Clear();
         grid->headings.assign(grid->headings.size(), "");
+        grid->row = grid->column = 1;
+        grid->selected = {};
+        grid->changed = nullptr;
+        grid->done.clear();
+        grid->undone.clear();
     }
     MemoDes = {"", 4205, 1550};
     MemoWcon = {"", 3249, 1750};
@@ -84,6 +90,9 @@ static void EmptyBoxes()
     MemoBottNotes = {"", 8010, 1750};
     frmSoil::MemoNotes = {"", 6800, 1550};
     txtClient = Text1 = Text2 = cmbLayFile = lblWidthtot = Title = "";
+    List = {};
+    LayFiles.clear();
+    Commands = {};
     Check1 = NarrowNotes = false;
     Option = 0;
 }

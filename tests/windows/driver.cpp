@@ -18,6 +18,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QRadioButton>
+#include <QSettings>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
@@ -156,6 +157,8 @@ void UseDesktop()
         qputenv("QT_QPA_PLATFORM", "offscreen");
         new Application(argc, argv);
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        // What the program remembers of its user goes with the scratch folder.
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QString::fromStdString(ScratchFolder()));
     }
     // The windows of the test before. Menus and the like go with their windows.
     const QWidgetList windows = QApplication::topLevelWidgets();
@@ -187,8 +190,11 @@ QMainWindow* LogWindow()
     Main();
     CheckAllDone();
     for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->objectName() == "frmBorinput")
+        if (window->objectName() == "frmBorinput") {
+            window->activateWindow(); // this screen's window manager does not do it when the title box goes
+            QApplication::processEvents();
             return qobject_cast<QMainWindow*>(window);
+        }
     return nullptr;
 }
 
