@@ -4,12 +4,16 @@
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
+#include "boring/textlines.h"
 #include "canvas/batch.h"
 #include "editors/fillform.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
+#include "session/gridedit.h"
 #include "session/platform.h"
 #include "session/session.h"
+
+frmBorinput::CommandTable frmBorinput::Commands;
 
 static const char* const ToolTitle = "VeskLog - Boring Log Diagram";
 
@@ -54,6 +58,16 @@ static void LabelBoxes()
         SSPar.headings[n + 1] = "Param." + NumberText(n);
 }
 
+// What a change by the user brings about: each sets the flag, and some size boxes or show names elsewhere.
+static void WatchBoxes()
+{
+    for (int box = 1; box <= 16; ++box)
+        if (Grid* grid = frmBorinput::BoxGrid(box))
+            grid->changed = [] { FileChanged = 1; };
+    frmBorinput::SSRepParts.changed = frmBorinput::SSGenWellInfo.changed = BorTextChange;
+    frmBorinput::SSP1Setup.changed = frmBorinput::SSP2Setup.changed = SetupGridChange;
+}
+
 void frmBorinput::Load()
 {
     FileChanged = 0;
@@ -61,6 +75,7 @@ void frmBorinput::Load()
     ActiveBox = 0;
     BoringFileName = "";
     LabelBoxes();
+    WatchBoxes();
     Title = ProjectPath + " - " + ToolTitle;
     // The start widths; a boring's report parts set them anew.
     MemoDes.widthTwips = 4205 + DeviceConfig.TextAdjust[1];
@@ -79,29 +94,57 @@ static bool SaveFirst(const char* question)
     return answer != Cancel;
 }
 
+// Another boring is in the boxes: nothing of the one before can be taken back.
+static void ForgetAll()
+{
+    for (int box = 1; box <= 16; ++box)
+        if (Grid* grid = frmBorinput::BoxGrid(box))
+            ForgetSteps(*grid);
+}
+
 void frmBorinput::mnuNew()
 {
     if (!SaveFirst("Would you like to save the current file before starting a new file?"))
         return;
     ClearBoringForm();
+    ForgetAll();
 }
 
-void frmBorinput::mnuOpen()
+// The way of every opening; choose leaves the name in DialogResult and the version of the form in DialogMode.
+template <class Choose>
+static void Open(Choose choose)
 {
+    using namespace frmBorinput;
     // Kept: after a No the flag stays 1, so New asks once more in its own words, and a Cancel there does not stop the
     // opening; it only skips the clearing.
     if (!SaveFirst("Would you like to save the current file before opening another file?"))
         return;
-    DialogMode = 1;
-    Platform.ShowChooser();
+    choose();
     if (!DialogResult.empty()) {
         mnuNew();
         BoringFileName = DialogResult;
         FileChanged = 0;
         OpenBoringFile2();
         FillBoringForm();
+        ForgetAll();
     }
     FileChanged = 0; // Kept: also when the chooser was cancelled
+}
+
+void frmBorinput::mnuOpen()
+{
+    Open([] {
+        DialogMode = 1;
+        Platform.ShowChooser();
+    });
+}
+
+void frmBorinput::OpenNamed(const Text& name)
+{
+    Open([&name] {
+        DialogResult = name;
+        DialogMode = 2; // the current form
+    });
 }
 
 void frmBorinput::mnuSave()
@@ -132,6 +175,16 @@ void frmBorinput::mnuSaveAs()
     SaveBoringFile();
     FileChanged = 0; // Kept: also when the save was refused
     Title = BoringFileName + " - " + ToolTitle;
+}
+
+void frmBorinput::mnuImport()
+{
+    DialogMode = 11;
+    Platform.ShowChooser();
+    if (DialogResult.empty())
+        return;
+    ImportDesc();
+    FileChanged = 1;
 }
 
 void frmBorinput::mnuPreview()

@@ -5,6 +5,19 @@
 
 #include <vector>
 
+// Cells of a grid, both corners included, rows and columns from 1.
+struct Block {
+    int top = 1, left = 1, bottom = 1, right = 1;
+    friend bool operator==(const Block&, const Block&) = default;
+};
+
+// A cell that the user has changed, for the way back and forth.
+struct CellChange {
+    int row, column;
+    Text before, after;
+};
+using GridStep = std::vector<CellChange>; // what one Undo takes back
+
 // A grid of text cells, rows and columns from 1. A cell outside is failure 380.
 struct Grid {
     Grid(int rowCount, int columnCount);
@@ -19,6 +32,11 @@ struct Grid {
     std::vector<Text> headings;    // of the columns, from index 1
     std::vector<Text> rowHeadings; // from index 1; short or empty: numbers
     Text title;
+    // What the user does in it (session/gridedit.h).
+    int row = 1, column = 1;     // the current cell
+    Block selected;              // the block that Cut, Copy, Paste and Delete act on; the current cell is in it
+    void (*changed)() = nullptr; // called after every change by the user; it may write cells of its own
+    std::vector<GridStep> done, undone;
 };
 
 // A multi-line text box with word wrap. Its text has CR LF line ends; widthTwips decides where lines break.

@@ -44,8 +44,12 @@ struct PlatformRecord {
     void (*ShowLogWindow)();          // the log window, loaded and shown when this returns
     void (*ShowWelcome)();            // blocking
     void (*EndProcess)();             // the log window goes, and with it the program
-    void (*Breathe)();                // a turn for the window system, so that Escape is seen
-    Text (*ShortDate)();              // today, in the short form of the user's locale
+    // The clipboard, lines ended by CR LF; and a word in passing: a beep, and the words where they hold up nobody.
+    Text (*ClipboardText)();
+    void (*SetClipboardText)(const Text& text);
+    void (*Notice)(const Text& words);
+    void (*Breathe)();   // a turn for the window system, so that Escape is seen
+    Text (*ShortDate)(); // today, in the short form of the user's locale
     // True where nobody sits in front: a question takes the answer that loses nothing, and a run that cannot go
     // on ends instead of waiting for a key.
     bool Unattended;

@@ -9,6 +9,8 @@ std::vector<PlainMessage> Messages;
 std::deque<int> Answers;
 std::deque<Text> InputAnswers;
 std::vector<std::string> Listings;
+Text PlainClipboard;
+std::vector<Text> Notices;
 void (*PlainShowPage)() = nullptr;
 int PlainPrinted = 0;
 int PlainRunsEnded = 0;
@@ -52,6 +54,8 @@ void UsePlainPlatform()
     Answers.clear();
     InputAnswers.clear();
     Listings.clear();
+    Notices.clear();
+    PlainClipboard.clear();
     PlainShowPage = nullptr;
     PlainPrinted = 0;
     PlainRunsEnded = 0;
@@ -75,6 +79,9 @@ void UsePlainPlatform()
     Platform.ShowLogWindow = [] {};
     Platform.ShowWelcome = [] {};
     Platform.EndProcess = [] {};
+    Platform.ClipboardText = [] { return PlainClipboard; };
+    Platform.SetClipboardText = [](const Text& text) { PlainClipboard = text; };
+    Platform.Notice = [](const Text& words) { Notices.push_back(words); };
     Platform.Breathe = [] {};
     Platform.ShortDate = [] { return Text("1/2/2026"); };
     Platform.Unattended = false;

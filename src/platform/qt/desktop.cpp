@@ -1,6 +1,7 @@
 // desktop.cpp -- the seam of the desktop program: each procedure of Platform, and the window or box behind it.
 #include "canvas/batch.h"
 #include "canvas/patterns.h"
+#include "editors/borinput.h"
 #include "logrender/vlog.h"
 #include "platform/qt/boxes.h"
 #include "platform/qt/filedialog.h"
@@ -11,9 +12,12 @@
 #include "session/platform.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDate>
 #include <QLocale>
+#include <QMainWindow>
 #include <QScreen>
+#include <QStatusBar>
 #include <QWidget>
 
 void CentreOnScreen(QWidget& window)
@@ -31,6 +35,30 @@ static Text ExecutableFolder()
 static Text Today()
 {
     return FromUi(QLocale().toString(QDate::currentDate(), QLocale::ShortFormat));
+}
+
+static Text ClipboardText()
+{
+    return FromUi(QApplication::clipboard()->text());
+}
+
+static void SetClipboardText(const Text& text)
+{
+    QApplication::clipboard()->setText(ToUi(text));
+}
+
+// A beep, and the words in the status bar of the window in front.
+static void Notice(const Text& words)
+{
+    QApplication::beep();
+    if (auto* window = qobject_cast<QMainWindow*>(QApplication::activeWindow()))
+        window->statusBar()->showMessage(ToUi(words), 10000);
+}
+
+// The commands of the log tool that belong to other windows.
+static void FillCommandTable()
+{
+    frmBorinput::Commands = {};
 }
 
 void UseDesktopPlatform()
@@ -55,9 +83,13 @@ void UseDesktopPlatform()
     Platform.ShowLogWindow = ShowLogWindow;
     Platform.ShowWelcome = ShowWelcomeWindow;
     Platform.EndProcess = EndProgram;
+    Platform.ClipboardText = ClipboardText;
+    Platform.SetClipboardText = SetClipboardText;
+    Platform.Notice = Notice;
     Platform.Breathe = Breathe;
     Platform.ShortDate = Today;
     Platform.Unattended = false;
+    FillCommandTable();
 }
 
 void FillJobTable()
