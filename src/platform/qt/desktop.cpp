@@ -9,6 +9,7 @@
 #include "platform/qt/printers.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
+#include "report/oldboring.h"
 #include "session/platform.h"
 
 #include <QApplication>
@@ -90,6 +91,7 @@ void UseDesktopPlatform()
     Platform.ShortDate = Today;
     Platform.Unattended = false;
     FillCommandTable();
+    FillOlderForms();
 }
 
 void FillJobTable()
