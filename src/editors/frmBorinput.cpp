@@ -439,8 +439,10 @@ QComboBox* BorinputWindow::LayoutBox()
             box->clear();
             box->addItems(names);
         }
-        if (box->currentText() != ToUi(cmbLayFile))
+        if (box->currentText() != ToUi(cmbLayFile)) {
             box->setEditText(ToUi(cmbLayFile));
+            box->lineEdit()->setCursorPosition(0);
+        }
     });
     return box;
 }

@@ -3,25 +3,33 @@
 
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
+#include "canvas/pageobjects.h"
+#include "editors/borinput.h"
 #include "platform/qt/gridview.h"
 #include "platform/qt/memoview.h"
 #include "platform/qt/uitext.h"
 #include "session/linebreaks.h"
 #include "session/session.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
+#include <QDragEnterEvent>
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMainWindow>
+#include <QMimeData>
 #include <QTabWidget>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextLayout>
 #include <algorithm>
 #include <cstdlib>
+#include <fstream>
 
 // The tab that a box stands on is brought to the front.
 static QWidget* Bring(QMainWindow* log, const char* name)
@@ -206,8 +214,10 @@ static void CheckLines(const QPlainTextEdit* view, const Memo& memo)
     std::vector<Text> shown;
     for (QTextBlock block = view->document()->begin(); block.isValid(); block = block.next()) {
         const QTextLayout* lines = block.layout();
-        const QString text =
-            block.text().replace(QChar(0x2409), '\t').replace(QChar(0x240A), '\n').replace(QChar(0x240D), '\r');
+        QString text = block.text();
+        for (QChar& letter : text)
+            if (letter.unicode() >= 0x2400 && letter.unicode() < 0x2420) // the signs of control characters
+                letter = QChar(ushort(letter.unicode() - 0x2400));
         for (int i = 0; i < lines->lineCount(); ++i)
             shown.push_back(FromUi(text.mid(lines->lineAt(i).textStart(), lines->lineAt(i).textLength())));
     }
@@ -327,6 +337,278 @@ TEST_CASE("a keystroke in a description of 1000 lines takes less than a frame")
     std::sort(times.begin(), times.end());
     MESSAGE("a keystroke: " << double(times[20]) / 1e6 << " ms");
     CHECK(times[20] < 16 * 1000 * 1000);
+}
+
+// Rows of cells, typed from the first cell on: Tab between cells, and a click to begin each row.
+static void TypeRows(QMainWindow* log, const char* name, const std::vector<std::vector<const char*>>& rows)
+{
+    for (size_t row = 0; row < rows.size(); ++row) {
+        ClickCell(log, name, int(row) + 1, 1);
+        for (size_t column = 0; column < rows[row].size(); ++column) {
+            TypeText(rows[row][column]);
+            Press(column + 1 < rows[row].size() ? Qt::Key_Tab : Qt::Key_Return);
+        }
+    }
+}
+
+static void TypeInto(QMainWindow* log, const char* name, const char* text)
+{
+    auto* box = static_cast<QPlainTextEdit*>(Bring(log, name));
+    Click(box->viewport());
+    TypeText(text);
+}
+
+static void TypeLine(QWidget* line, const char* text)
+{
+    Click(line);
+    TypeText(text);
+}
+
+static void SaveAs(QMainWindow* log, const char* name, const char* button = nullptr)
+{
+    Then("frmOpenSave", [name](QWidget* window) {
+        auto* box = window->findChild<QLineEdit*>("fileNameEdit");
+        REQUIRE(box);
+        box->clear();
+        QTest::keyClicks(box, name);
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    if (button)
+        ThenAnswer(
+            ("The file, " + Scratch("samples/") + name + " already exists.  Do you wish to overwrite it?").c_str(),
+            button);
+    ClickMenu(log, "mnuFile", "mnuSaveAs");
+    CheckAllDone();
+}
+
+TEST_CASE("a whole boring is typed, saved as the kept file, previewed, printed and closed")
+{
+    QMainWindow* log = LogWindow();
+    frmBorinput::List[1] = {"brown, moist"};
+    frmBorinput::LayFiles = {"PORTRAIT.LAY", "TABLOID.LAY"};
+    ClickMenu(log, "mnuFile", "mnuNew");
+    TypeLine(Find<QWidget>(log, "Text1"), "B-7 typed");
+    TypeLine(Find<QWidget>(log, "Text2"), "SITEMAP.BMP");
+    TypeLine(Find<QComboBox>(log, "cmbLayFile")->lineEdit(), "PORTRAIT");
+    Click(Find<QWidget>(log, "Check1"));
+    TypeInto(log, "txtClient", "Ellersby County\nMarl Ferry\nProject 7");
+    Click(Find<QWidget>(log, "Option3"));
+    TypeRows(log, "SSInfo", {{"Drilled By", "Brandt"}, {"Method", "HSA"}});
+    TypeRows(log, "SSScale", {{"20"}, {"5,5"}, {"10"}, {"Feet"}, {"100.5"}, {"80"}, {"2410,1180"}});
+    TypeRows(log, "SSRepParts",
+             {{"depth scale"}, {"blow count"}, {"P1"}, {"USCS"}, {"graphic"}, {"descriptions", "2.4"}, {"remarks"}});
+    TypeRows(log, "SSLith", {{"4.5", "fill", "D", "RED"}, {"12", "cl"}, {"20", "sm", "N"}});
+    TypeRows(log, "SSFormations", {{"12", "Till,Qt"}});
+    TypeInto(log, "MemoDes", "@1\nFILL, sandy gravel with crushed stone and a few brick fragments, ");
+    auto* list = Find<QListWidget>(log, "List1");
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+    TypeText(".\n@2\nLean CLAY\n\n@3\nSilty SAND, fine grained\n");
+    ClickButton(log, "cmdAdj2");
+    ClickButton(log, "cmdAdj2");
+    ClickButton(log, "cmdAdj1");
+    TypeRows(log, "SSSamp", {{"0", "1.5", "", "4-6-9", "S-1", "12"}, {"5", "6.5", "", "7-7-8", "S-2", "15"}});
+    TypeRows(log, "SSP1Setup", {{"Moist.", "Moisture %", "0,50,10"}});
+    TypeRows(log, "SSPar", {{"1", "2.5"}, {"2", "3.5"}});
+    TypeRows(log, "SSP2Setup", {{"PID", "PID ppm", "0,10,2"}});
+    TypeRows(log, "SSGenWellInfo", {{"MW-7"}, {""}, {""}, {""}, {"100.5"}, {"2"}});
+    TypeRows(log, "SSOuterLay", {{"0", "20", "grout", "", "F3"}});
+    TypeRows(log, "SSInnerLay", {{"0", "10", "riser", "", "2"}, {"10", "20", "screen"}});
+    TypeRows(log, "SSW", {{"Casing", "2 in. PVC"}});
+    TypeInto(log, "MemoWcon", "Well developed by surging.");
+    TypeInto(log, "MemoRemarks", "Water at 8 ft.\nBoring grouted at the end of the day by the driller.");
+    TypeInto(log, "MemoBottNotes", "NOTES: first\nsecond");
+    TypeRows(log, "SSCuttings", {{"5", "40", "40", "20"}});
+    TypeRows(log, "SSLegend", {{"CL", "lean clay"}, {"SM", "silty sand"}});
+    CHECK(log->isWindowModified());
+    CHECK(Find<QLabel>(log, "lblState")->text() == "2 pages");
+    CHECK(Find<QLabel>(log, "lblWidthtot")->text() == "Total Width: " + ToUi(frmBorinput::lblWidthtot));
+    SaveAs(log, "TYPED");
+    CHECK_FALSE(log->isWindowModified());
+    CHECK(log->windowTitle().toStdString() == Scratch("samples/TYPED.BOR") + " - VeskLog - Boring Log Diagram[*]");
+    if (std::getenv("STRATAVUE_ACCEPT"))
+        std::filesystem::copy_file(Scratch("samples/TYPED.BOR"), TestData("boring/typed.BOR"),
+                                   std::filesystem::copy_options::overwrite_existing);
+    std::ifstream kept(TestData("boring/typed.BOR"), std::ios::binary);
+    CHECK(ReadScratch("samples/TYPED.BOR") == std::string(std::istreambuf_iterator<char>(kept), {}));
+    for (const char* tab : {"SSInfo", "SSLith", "SSSamp", "SSPar", "SSW", "MemoRemarks", "SSLegend"}) {
+        Bring(log, tab);
+        Picture(log, (std::string("typed-") + tab).c_str());
+    }
+
+    Then("DrawArea", [](QWidget* window) {
+        CHECK(PageList.Objects.size() > 50);
+        ClickMenu(window, "mnuFile", "mnuExit");
+    });
+    ClickMenu(log, "mnuFile", "mnuPreview");
+    CheckAllDone();
+
+    // The same name again asks first, and No writes nothing.
+    TypeLine(Find<QWidget>(log, "Text2"), "x");
+    const std::string before = ReadScratch("samples/TYPED.BOR");
+    SaveAs(log, "TYPED.BOR", "No");
+    CHECK(ReadScratch("samples/TYPED.BOR") == before);
+    CHECK(FileChanged == 1);
+    SaveAs(log, "TYPED.BOR", "Yes");
+    CHECK(ReadScratch("samples/TYPED.BOR") != before);
+    TypeLine(Find<QWidget>(log, "Text2"), "y");
+    ThenAnswer("Would you like to save the current file before quitting?", "Cancel");
+    log->close();
+    CheckAllDone();
+    CHECK(log->isVisible());
+    ThenAnswer("Would you like to save the current file before quitting?", "Yes");
+    log->close();
+    CheckAllDone();
+    CHECK_FALSE(log->isVisible());
+    CHECK(frmBorinput::Text2.size() == 13);
+    CHECK(ReadScratch("samples/TYPED.BOR").find(frmBorinput::Text2 + "\r\n") != std::string::npos);
+}
+
+TEST_CASE("New asks in its words: Cancel keeps the boring, No empties every box and leaves no path in the title")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-101.BOR");
+    TypeLine(Find<QWidget>(log, "Text2"), "x");
+    ThenAnswer("Would you like to save the current file before starting a new file?", "Cancel");
+    Focus();
+    Press(Qt::Key_N, Qt::ControlModifier);
+    CheckAllDone();
+    CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-101");
+    ThenAnswer("Would you like to save the current file before starting a new file?", "No");
+    Press(Qt::Key_N, Qt::ControlModifier);
+    CheckAllDone();
+    CHECK(log->windowTitle() == "VeskLog - Boring Log Diagram[*]");
+    CHECK_FALSE(log->isWindowModified());
+    for (QLineEdit* line : log->findChildren<QLineEdit*>())
+        CHECK(line->text().isEmpty());
+    for (QPlainTextEdit* box : log->findChildren<QPlainTextEdit*>())
+        CHECK(box->toPlainText().isEmpty());
+    for (QTableView* grid : log->findChildren<QTableView*>())
+        for (int row = 0; row < grid->model()->rowCount(); ++row)
+            for (int column = 0; column < grid->model()->columnCount(); ++column)
+                CHECK(grid->model()->index(row, column).data().toString().isEmpty());
+    CHECK(Find<QLabel>(log, "lblWidthtot")->text() == "Total Width:        ");
+}
+
+TEST_CASE("a typed change after Open: No asks again in New's words, and a Cancel there skips the clearing only")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-101.BOR");
+    ClickCell(log, "SSLegend", 30, 2);
+    TypeText("stays\n");
+    ThenAnswer("Would you like to save the current file before opening another file?", "No");
+    Then("frmOpenSave", [](QWidget* window) {
+        auto* box = window->findChild<QLineEdit*>("fileNameEdit");
+        box->setText("TC-103.BOR");
+        Key(box, Qt::Key_Return);
+    });
+    ThenAnswer("Would you like to save the current file before starting a new file?", "Cancel");
+    ClickMenu(log, "mnuFile", "mnuOpen");
+    CheckAllDone();
+    CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-103");
+    CHECK(frmBorinput::SSLegend.Cell(30, 2) == "stays");
+    CHECK(FileChanged == 0);
+}
+
+TEST_CASE("borings opened lately stand in the File menu, the last one first, and open from there")
+{
+    QMainWindow* log = LogWindow();
+    CHECK_FALSE(Find<QAction>(log, "mnuRecent")->isEnabled());
+    OpenSample("TC-103.BOR");
+    OpenSample("TC-101.BOR");
+    CHECK(Find<QAction>(log, "mnuRecent1")->text() == "&1 " + ToUi(Scratch("samples/TC-101.BOR")));
+    Find<QAction>(log, "mnuRecent2")->trigger();
+    CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-103");
+    CHECK(Find<QAction>(log, "mnuRecent1")->text() == "&1 " + ToUi(Scratch("samples/TC-103.BOR")));
+    CHECK(log->findChild<QAction*>("mnuRecent3") == nullptr);
+}
+
+TEST_CASE("a boring dropped on the window opens, on a text box too; other files are not taken")
+{
+    QMainWindow* log = LogWindow();
+    const auto drop = [](QWidget* on, const Text& file) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(ToUi(file))});
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(on, &enter);
+        if (!enter.isAccepted())
+            return false;
+        QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(on, &event);
+        Settle(20);
+        return true;
+    };
+    CHECK_FALSE(drop(log, Scratch("us.hdg")));
+    CHECK(drop(log, Scratch("samples/TC-103.BOR")));
+    CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-103");
+    CHECK_FALSE(drop(static_cast<QPlainTextEdit*>(Bring(log, "MemoDes"))->viewport(), Scratch("samples/TC-101.BOR")));
+}
+
+TEST_CASE("every entry of the menu is there; those that need a tool which is not there are disabled")
+{
+    QMainWindow* log = LogWindow();
+    const auto& commands = frmBorinput::Commands;
+    const std::pair<const char*, bool> entries[] = {
+        {"mnuNew", true},
+        {"mnuOpen", true},
+        {"mnuSave", true},
+        {"mnuSaveAs", true},
+        {"mnuImport", true},
+        {"mnuPreview", true},
+        {"mnuBatchDraw", true},
+        {"mnuPrint", true},
+        {"mnuPrintSetup", true},
+        {"mnuExit", true},
+        {"mnuUndo", true},
+        {"mnuRedo", true},
+        {"mnuCut", true},
+        {"mnuCopy", true},
+        {"mnuPaste", true},
+        {"mnuFillDown", true},
+        {"mnuInsertRow", true},
+        {"mnuDeleteRow", true},
+        {"mnuFillPatt", true},
+        {"mnuHelp", true},
+        {"mnuEditDesItems", commands.mnuEditDesItems != nullptr},
+        {"mnuEditHeading", commands.mnuEditHeading != nullptr},
+        {"mnuEditLayout", commands.mnuEditLayout != nullptr},
+        {"mnuEditPromptFile", commands.mnuEditPromptFile != nullptr},
+        {"mnuGraphicSetup", commands.mnuGraphicSetup != nullptr},
+        {"mnuCreateLogo", commands.mnuCreateLogo != nullptr},
+        {"mnuConvertFeetMeters", commands.mnuConvertFeetMeters != nullptr},
+        {"mnuExp2IRPIMS", false},
+        {"mnuGTGS", false},
+        {"mnuConvertGTGStxt", false},
+        {"mnuConvertGTGSgeneral", false},
+        {"mnuConvertWinLog", false},
+        {"mnuvcross", false},
+        {"mnuvfence", false},
+        {"mnuvsoil", false},
+        {"mnuvGIS", false},
+    };
+    for (const auto& [name, enabled] : entries) {
+        CAPTURE(name);
+        CHECK(Find<QAction>(log, name)->isEnabled() == enabled);
+    }
+}
+
+TEST_CASE("Tab goes through the cells and out behind the last one, F6 out at once")
+{
+    QMainWindow* log = LogWindow();
+    ClickCell(log, "SSFormations", 1, 1);
+    Press(Qt::Key_Tab);
+    CHECK(frmBorinput::SSFormations.column == 2);
+    Press(Qt::Key_Tab);
+    CHECK(frmBorinput::SSFormations.row == 2);
+    CHECK(frmBorinput::SSFormations.column == 1);
+    Press(Qt::Key_Backtab, Qt::ShiftModifier);
+    CHECK(frmBorinput::SSFormations.row == 1);
+    ClickCell(log, "SSFormations", 80, 2);
+    CHECK(QApplication::focusWidget()->objectName() == "SSFormations");
+    Press(Qt::Key_Tab);
+    CHECK(QApplication::focusWidget()->objectName() != "SSFormations");
+    ClickCell(log, "SSLith", 1, 1);
+    Press(Qt::Key_F6);
+    CHECK(QApplication::focusWidget()->objectName() == "MemoDes");
 }
 
 TEST_CASE("pictures of the tabs")

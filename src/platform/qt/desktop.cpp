@@ -11,6 +11,7 @@
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
 #include "report/fontprofile.h"
+#include "report/oldboring.h"
 #include "session/platform.h"
 
 #include <QApplication>
@@ -102,6 +103,7 @@ void UseDesktopPlatform()
     Platform.ShortDate = Today;
     Platform.Unattended = false;
     FillCommandTable();
+    FillOlderForms();
 }
 
 void FillJobTable()

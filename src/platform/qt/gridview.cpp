@@ -116,6 +116,10 @@ protected:
         const auto* view = qobject_cast<const QAbstractItemView*>(option->widget);
         if (view && view->currentIndex().row() == index.row())
             option->backgroundBrush = QColor(0xe4, 0xee, 0xf8);
+        if (view && !view->hasFocus()) { // the block of a grid that is not typed in stands back
+            option->palette.setColor(QPalette::Highlight, QColor(0xcf, 0xdc, 0xe8));
+            option->palette.setColor(QPalette::HighlightedText, option->palette.color(QPalette::Text));
+        }
     }
     bool eventFilter(QObject* editor, QEvent* event) override
     {
