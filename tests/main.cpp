@@ -11,8 +11,12 @@
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
 #include "logrender/logdata.h"
+#include "report/desitems.h"
 #include "report/heading.h"
+#include "report/headingedit.h"
 #include "report/layout.h"
+#include "report/layoutedit.h"
+#include "report/prompts.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -115,6 +119,14 @@ struct Fresh : doctest::IReporter {
         LegendBoxFill = {};
         LogoData = LogoRecord();
         LayoutData = LayoutRecord();
+        frmDescLegend::Dialog = frmDescLegend::Record();
+        frmBorinput::List = {};
+        frmDesItems::Box = {};
+        PromptTable = {};
+        PromptSlot = {};
+        PromptForce = 0;
+        frmPrompt::SS1 = Grid(MaxPrompts, 2);
+        frmPrompt::Changed = false;
         PageCanvas = CanvasRecord();
         PageList = PageListRecord();
         RunPages = RunPagesRecord();
