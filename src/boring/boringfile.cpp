@@ -265,17 +265,18 @@ static void CheckMarkerBounds()
     }
 }
 
-static void TakeBottNotes()
+static void TakeBottNotes(bool checked)
 {
     Text2Wrap32(5);
-    if (LineCount > MaxBottNotes)
+    if (checked && LineCount > MaxBottNotes)
         MsgBox("Your general notes exceed 10 lines.  Only the first 10 lines will be saved.", OkOnly, Exclamation);
     for (int i = 1; i <= MaxBottNotes; ++i)
         BoringData.BottNotes[i] = i <= LineCount ? LineBuffer[i] : "";
 }
 
-// The boxes into the record. False: refused, and a box has told why.
-static bool TakeBoxes()
+// The boxes into the record. False: refused, and a box has told why. Unchecked, nothing is told and nothing refused; a
+// text of more lines than the record holds is failure 9 then.
+static bool TakeBoxes(bool checked)
 {
     BoringData.Name = frmBorinput::Text1;
     BoringData.MapFile = frmBorinput::Text2;
@@ -297,10 +298,12 @@ static bool TakeBoxes()
             BoringData.Lith[row][column] = UpperCase(BoringData.Lith[row][column]);
     Text2Wrap32(1);
     // Text2Wrap32 hands over no more than there is room for; a breaker that did would be caught here.
-    if (TooManyLines("descriptions", MaxDes))
+    if (checked && TooManyLines("descriptions", MaxDes))
         return false;
-    CheckMarkerOrder();
-    CheckMarkerBounds();
+    if (checked) {
+        CheckMarkerOrder();
+        CheckMarkerBounds();
+    }
     TakeLineBuffer(BoringData.Des, BoringData.DesCount);
     TakeList(BoringData.Params, BoringData.ParamCount, frmBorinput::SSPar);
     TakeColumn(BoringData.GenWell, frmBorinput::SSGenWellInfo);
@@ -308,14 +311,14 @@ static bool TakeBoxes()
     TakeList(BoringData.InnerLayers, BoringData.InnerLayerCount, frmBorinput::SSInnerLay);
     TakeList(BoringData.WellInfo, BoringData.WellInfoCount, frmBorinput::SSW);
     Text2Wrap32(2);
-    if (TooManyLines("notes", MaxWellNotes))
+    if (checked && TooManyLines("notes", MaxWellNotes))
         return false;
     TakeLineBuffer(BoringData.WellNotes, BoringData.WellNoteCount);
     Text2Wrap32(3);
-    if (TooManyLines("remarks", MaxRemarks))
+    if (checked && TooManyLines("remarks", MaxRemarks))
         return false;
     TakeLineBuffer(BoringData.Remarks, BoringData.RemarkCount);
-    TakeBottNotes();
+    TakeBottNotes(checked);
     TakeList(BoringData.Cuttings, BoringData.CuttingCount, frmBorinput::SSCuttings);
     TakeList(BoringData.Formations, BoringData.FormationCount, frmBorinput::SSFormations);
     TakeList(BoringData.Legend, BoringData.LegendCount, frmBorinput::SSLegend);
@@ -328,9 +331,14 @@ static bool TakeBoxes()
     return true;
 }
 
+void TakeBoringBoxes()
+{
+    TakeBoxes(false);
+}
+
 void SaveBoringFile()
 try {
-    if (!TakeBoxes())
+    if (!TakeBoxes(true))
         return;
     while (BoringData.RepPartCount > 0 && IsBlank(BoringData.RepParts[BoringData.RepPartCount].Item))
         --BoringData.RepPartCount;

@@ -439,8 +439,10 @@ QComboBox* BorinputWindow::LayoutBox()
             box->clear();
             box->addItems(names);
         }
-        if (box->currentText() != ToUi(cmbLayFile))
+        if (box->currentText() != ToUi(cmbLayFile)) {
             box->setEditText(ToUi(cmbLayFile));
+            box->lineEdit()->setCursorPosition(0);
+        }
     });
     return box;
 }
@@ -655,6 +657,16 @@ void BorinputWindow::Refresh()
             grid->Fit();
     }
     ShowRecent();
+    const auto dress = [this](const char* name, const Text& family) {
+        auto* box = findChild<QWidget*>(name);
+        if (family.empty() || box->font().family() == ToUi(family))
+            return;
+        QFont font = box->font();
+        font.setFamily(ToUi(family));
+        box->setFont(font);
+    };
+    dress("Text1", frmBorinput::Text1Font);
+    dress("txtClient", frmBorinput::txtClientFont);
     project->setText("Project folder: " + ToUi(ProjectPath));
 }
 

@@ -21,8 +21,9 @@ public:
     // Tells the view of what differs from what it was last told.
     void Refresh()
     {
-        if (cells != grid.cells) {
+        if (cells != grid.cells || fontName != grid.fontName) {
             cells = grid.cells;
+            fontName = grid.fontName;
             emit dataChanged(index(0, 0), index(grid.rows - 1, grid.columns - 1));
         }
         if (headings != grid.headings) {
@@ -59,6 +60,11 @@ public:
     }
     QVariant data(const QModelIndex& index, int role) const override
     {
+        if (index.isValid() && role == Qt::FontRole && !grid.fontName.empty()) {
+            QFont font = static_cast<QWidget*>(QObject::parent())->font();
+            font.setFamily(ToUi(grid.fontName));
+            return font;
+        }
         if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole && role != Qt::EditRole))
             return {};
         if (index == typed)
@@ -89,6 +95,7 @@ public:
 private:
     Grid& grid;
     std::vector<Text> cells, headings, rowHeadings; // as the view knows them
+    Text fontName;
     QModelIndex typed;
     QString typedText;
 };
@@ -110,6 +117,10 @@ protected:
         const auto* view = qobject_cast<const QAbstractItemView*>(option->widget);
         if (view && view->currentIndex().row() == index.row())
             option->backgroundBrush = QColor(0xe4, 0xee, 0xf8);
+        if (view && !view->hasFocus()) { // the block of a grid that is not typed in stands back
+            option->palette.setColor(QPalette::Highlight, QColor(0xcf, 0xdc, 0xe8));
+            option->palette.setColor(QPalette::HighlightedText, option->palette.color(QPalette::Text));
+        }
     }
     bool eventFilter(QObject* editor, QEvent* event) override
     {
@@ -271,6 +282,8 @@ bool GridView::focusNextPrevChild(bool next)
 
 void GridView::keyPressEvent(QKeyEvent* event)
 {
+    if (state() == EditingState) // a key that the box of the edit has let through
+        return QTableView::keyPressEvent(event);
     model->TakeTyped();
     const auto is = [event](QKeySequence::StandardKey key) { return event->matches(key); };
     const bool control = event->modifiers() == Qt::ControlModifier;

@@ -11,22 +11,26 @@
 #include <QTextLayout>
 #include <algorithm>
 
-// Letters that Qt's document takes for the end of a paragraph although they stand inside a line of the file, and the
-// signs that stand for them on the screen.
-static constexpr char16_t carriageReturnSign = 0x240D, lineFeedSign = 0x240A, tabSign = 0x2409;
+// A control character inside a line: Qt's document would take some for the end of a paragraph, and some for blanks that
+// a line may end in. On the screen their signs stand for them.
+static constexpr ushort firstSign = 0x2400, controlCharacters = 32;
 
 // The record's text as the document holds it: paragraphs ended by "\n", one character for each letter.
 static QString ToDocument(const Text& text)
 {
     QString shown = ToUi(text);
     shown.replace("\r\n", QString(QChar(QChar::ParagraphSeparator)));
-    shown.replace('\r', QChar(carriageReturnSign)).replace('\n', QChar(lineFeedSign)).replace('\t', QChar(tabSign));
+    for (QChar& letter : shown)
+        if (letter.unicode() < controlCharacters)
+            letter = QChar(ushort(firstSign + letter.unicode()));
     return shown.replace(QChar(QChar::ParagraphSeparator), '\n');
 }
 
 static Text FromDocument(QString shown)
 {
-    shown.replace(QChar(carriageReturnSign), '\r').replace(QChar(lineFeedSign), '\n').replace(QChar(tabSign), '\t');
+    for (QChar& letter : shown)
+        if (letter.unicode() >= firstSign && letter.unicode() < firstSign + controlCharacters)
+            letter = QChar(ushort(letter.unicode() - firstSign));
     return FromUi(shown);
 }
 
@@ -153,6 +157,13 @@ MemoView::MemoView(const char* name, Memo& shown, QWidget* parent) : QPlainTextE
 
 void MemoView::Refresh()
 {
+    if (font().family() != ToUi(memo.fontName)) {
+        QFont other = font();
+        other.setFamily(ToUi(memo.fontName));
+        setFont(other);
+        document()->setDefaultFont(other);
+        layout->LayOutAll();
+    }
     Text now;
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
         now += (block == document()->begin() ? "" : "\r\n") + FromDocument(block.text());
