@@ -55,7 +55,8 @@ public:
     }
     Qt::ItemFlags flags(const QModelIndex& index) const override
     {
-        return QAbstractTableModel::flags(index) | Qt::ItemIsEditable;
+        const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+        return index.column() < grid.locked ? flags : flags | Qt::ItemIsEditable;
     }
     QVariant data(const QModelIndex& index, int role) const override
     {
