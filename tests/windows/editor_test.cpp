@@ -6,6 +6,7 @@
 #include "canvas/pageobjects.h"
 #include "editors/borinput.h"
 #include "platform/qt/gridview.h"
+#include "platform/qt/livepane.h"
 #include "platform/qt/memoview.h"
 #include "platform/qt/uitext.h"
 #include "session/linebreaks.h"
@@ -540,7 +541,8 @@ TEST_CASE("a boring dropped on the window opens, on a text box too; other files 
     CHECK_FALSE(drop(log, Scratch("us.hdg")));
     CHECK(drop(log, Scratch("samples/TC-103.BOR")));
     CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-103");
-    CHECK_FALSE(drop(static_cast<QPlainTextEdit*>(Bring(log, "MemoDes"))->viewport(), Scratch("samples/TC-101.BOR")));
+    CHECK(drop(static_cast<QPlainTextEdit*>(Bring(log, "MemoDes"))->viewport(), Scratch("samples/TC-101.BOR")));
+    CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-101");
 }
 
 TEST_CASE("every entry of the menu is there; those that need a tool which is not there are disabled")
@@ -609,6 +611,52 @@ TEST_CASE("Tab goes through the cells and out behind the last one, F6 out at onc
     ClickCell(log, "SSLith", 1, 1);
     Press(Qt::Key_F6);
     CHECK(QApplication::focusWidget()->objectName() == "MemoDes");
+}
+
+TEST_CASE("the page beside the boxes follows what is typed, and a click on a layer leads to its row")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-101.BOR");
+    ClickMenu(log, "mnuView", "mnuLivePreview");
+    auto* pane = static_cast<LivePane*>(Find<QWidget>(log, "LivePage"));
+    Settle(300);
+    REQUIRE(pane->Shown().List.Objects.size() > 100);
+    CHECK(Find<QLabel>(log, "lblLivePage")->text() == "Page 1 of 3");
+    CHECK(PageList.Objects.empty());
+    CHECK(FileChanged == 0);
+    const std::string onDisk = ReadScratch("samples/TC-101.BOR");
+    const auto holds = [pane](const char* words) {
+        for (const PageObject& object : pane->Shown().List.Objects)
+            if (object.String.find(words) != Text::npos)
+                return true;
+        return false;
+    };
+    CHECK_FALSE(holds("purple"));
+    auto* view = static_cast<QPlainTextEdit*>(Bring(log, "MemoDes"));
+    Click(view->viewport());
+    Press(Qt::Key_Home, Qt::ControlModifier);
+    Press(Qt::Key_Down);
+    TypeText("purple ");
+    Settle(300);
+    CHECK(holds("purple"));
+    CHECK(ReadScratch("samples/TC-101.BOR") == onDisk);
+    CHECK(BoringFileName == Scratch("samples/TC-101.BOR"));
+    CHECK(FileChanged == 1);
+    Picture(log, "live");
+    // Layer 3 ends at 11.5 feet, layer 2 at 7: a point between them.
+    const LivePage& page = pane->Shown();
+    const double y = page.Top + 9 * page.UnitsPerDepth;
+    Bring(log, "SSLegend");
+    QTest::mouseClick(
+        pane, Qt::LeftButton, {},
+        QPointF(pane->Sheet().center().x(), pane->Sheet().top() + y * pane->Sheet().height() / page.List.ExtentHeight)
+            .toPoint());
+    CHECK(frmBorinput::SSLith.row == 3);
+    CHECK(Find<QTabWidget>(log, "SSTab1")->currentIndex() == 1);
+    ClickButton(log, "cmdLiveNext");
+    CHECK(Find<QLabel>(log, "lblLivePage")->text() == "Page 2 of 3");
+    ClickMenu(log, "mnuView", "mnuLivePreview");
+    CHECK_FALSE(pane->isVisible());
 }
 
 TEST_CASE("pictures of the tabs")
