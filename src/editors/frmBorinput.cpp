@@ -32,6 +32,7 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QSettings>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -76,6 +77,7 @@ private:
     QWidget* Head();
     QWidget* Tabs();
     void AddPreview();
+    void OrderTabs();
 
     QMenu* recent = nullptr;
     QTabWidget* tabs = nullptr;
@@ -140,6 +142,12 @@ BorinputWindow::BorinputWindow()
     layout->addWidget(Tabs(), 1);
     setCentralWidget(boring);
     AddPreview();
+    OrderTabs();
+    for (const int step : {1, -1}) {
+        auto* keys = new QShortcut(QKeySequence(step > 0 ? "Ctrl+PgDown" : "Ctrl+PgUp"), this);
+        connect(keys, &QShortcut::activated, this,
+                [this, step] { tabs->setCurrentIndex((tabs->currentIndex() + step + tabs->count()) % tabs->count()); });
+    }
 
     project = new QLabel(this);
     project->setObjectName("lblProject");
@@ -613,7 +621,9 @@ QWidget* BorinputWindow::Tabs()
     QWidget* des = MemoBox("MemoDes", "Descriptions", MemoDes, 1);
     QWidget* items = Items();
     QWidget* formations = GridBox("SSFormations", 15);
-    tabs->addTab(Tab(Split(Qt::Horizontal, {lith, Split(Qt::Vertical, {des, items}, {4, 1}), formations}, {4, 6, 3})),
+    tabs->addTab(Tab(Split(Qt::Horizontal,
+                           {Split(Qt::Vertical, {lith, formations}, {3, 2}), Split(Qt::Vertical, {des, items}, {4, 1})},
+                           {2, 3})),
                  "Lithology");
 
     QWidget* samples = GridBox("SSSamp", 7);
@@ -688,6 +698,28 @@ void BorinputWindow::AddPreview()
     toggle->setText("&Page beside the Boxes");
     toggle->setShortcut(QKeySequence("Ctrl+F5"));
     findChild<QAction*>("mnuView")->menu()->addAction(toggle);
+}
+
+// The way of the Tab key: from field to field as a boring is typed in.
+void BorinputWindow::OrderTabs()
+{
+    const char* const order[] = {
+        "Text1",        "Text2",         "cmbLayFile", "Check1",  "SSTab1",     "txtClient",     "Option1",
+        "Option2",      "Option3",       "Option4",    "SSInfo",  "SSScale",    "SSRepParts",    "SSLith",
+        "MemoDes",      "cmdAdj1",       "cmdAdj2",    "List1",   "List2",      "List3",         "List4",
+        "SSFormations", "SSSamp",        "SSP1Setup",  "SSPar",   "SSP2Setup",  "SSGenWellInfo", "SSOuterLay",
+        "SSInnerLay",   "SSW",           "MemoWcon",   "cmdAdj3", "cmdAdj4",    "MemoRemarks",   "cmdAdj5",
+        "cmdAdj6",      "MemoBottNotes", "cmdAdj7",    "cmdAdj8", "SSCuttings", "SSLegend",      "cmdLivePrevious",
+        "cmdLiveNext"};
+    QWidget* before = nullptr;
+    for (const char* name : order) {
+        auto* next = findChild<QWidget*>(name);
+        if (next == tabs)
+            next = tabs->tabBar(); // with the tabs themselves all that stands on them would move
+        if (before)
+            setTabOrder(before, next);
+        before = next;
+    }
 }
 
 // ---- What is shown
