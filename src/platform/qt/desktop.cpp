@@ -1,6 +1,7 @@
 // desktop.cpp -- the seam of the desktop program: each procedure of Platform, and the window or box behind it.
 #include "canvas/batch.h"
 #include "canvas/patterns.h"
+#include "logrender/intropage.h"
 #include "logrender/vlog.h"
 #include "platform/qt/boxes.h"
 #include "platform/qt/filedialog.h"
@@ -64,4 +65,5 @@ void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
     JobTable[9] = patternstart;
+    IntroPages = VLOG::vlogintrostart;
 }
