@@ -5,14 +5,19 @@
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
+#include "boring/opensave.h"
+#include "boring/projectlist.h"
 #include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "editors/borinput.h"
 #include "logrender/logdata.h"
+#include "report/fontprofile.h"
 #include "report/heading.h"
 #include "report/layout.h"
+#include "report/logo.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -76,7 +81,13 @@ static void EmptyBoxes()
                        &SSOuterLay, &SSInnerLay, &SSW, &SSCuttings, &SSFormations, &SSLegend, &frmHeading::SSLog,
                        &frmHeading::SSSections, &frmHeading::SSGraphics}) {
         grid->Clear();
+        grid->fontName.clear();
         grid->headings.assign(grid->headings.size(), "");
+        grid->row = grid->column = 1;
+        grid->selected = {};
+        grid->changed = nullptr;
+        grid->done.clear();
+        grid->undone.clear();
     }
     MemoDes = {"", 4205, 1550};
     MemoWcon = {"", 3249, 1750};
@@ -84,6 +95,10 @@ static void EmptyBoxes()
     MemoBottNotes = {"", 8010, 1750};
     frmSoil::MemoNotes = {"", 6800, 1550};
     txtClient = Text1 = Text2 = cmbLayFile = lblWidthtot = Title = "";
+    List = {};
+    LayFiles.clear();
+    Commands = {};
+    Text1Font = txtClientFont = "";
     Check1 = NarrowNotes = false;
     Option = 0;
 }
@@ -108,6 +123,19 @@ struct Fresh : doctest::IReporter {
         LineBuffer = {};
         BoringData = BoringRecord();
         EmptyBoxes();
+        ProjectList = {};
+        ProjectCount = 0;
+        frmProjEdit::SS.Clear();
+        frmOpenSave::Dialog = frmOpenSave::Record();
+        frmOpenSave::SS.Clear();
+        frmOpenSave::HiddenFolder = "";
+        frmOpenSave::HiddenFiles.clear();
+        frmCross::Title = frmFence::Title = frmSoil::Title = "";
+        frmPrinterSetup::Dialog = frmPrinterSetup::Record();
+        frmPrinterSetup::SSMainFilePath.Clear();
+        SetupChange = SetupChangeRecord();
+        CopyDestination = "a:\\";
+        frmLogo::Dialog = frmLogo::Record();
         std::fill(std::begin(OlderForms), std::end(OlderForms), nullptr);
         HeadingTable = {};
         HeadingWords = {};

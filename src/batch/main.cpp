@@ -192,6 +192,9 @@ static void FillPlatform()
     Platform.StepProgress = [](const Text&, float) {};
     Platform.ShowChooser = [] { DialogResult = ""; };
     Platform.ShowHelp = [] {};
+    Platform.ClipboardText = [] { return Text(); };
+    Platform.SetClipboardText = [](const Text&) {};
+    Platform.Notice = Say;
     Platform.Breathe = [] {};
     Platform.ShortDate = [] { return Asked.DateGiven ? Asked.Date : ShortDateOfLocale(); };
     Platform.Unattended = true;

@@ -3,6 +3,8 @@
 
 #include "boring/boringdata.h"
 
+#include <iterator>
+
 namespace frmBorinput
 {
 Grid SSInfo(MaxInfo, 2), SSScale(MaxScale, 1), SSRepParts(MaxRepParts, 2), SSP1Setup(SampleParams, 9),
@@ -13,11 +15,22 @@ Memo MemoDes{"", 4205, 1550}, MemoWcon{"", 3249, 1750}, MemoRemarks{"", 2223, 17
 Text txtClient;
 Text Text1, Text2;
 Text cmbLayFile;
+Text Text1Font, txtClientFont;
 bool Check1 = false;
 int Option = 0;
 Text lblWidthtot;
 bool NarrowNotes = false;
 Text Title;
+Slots<std::vector<Text>, 4> List;
+std::vector<Text> LayFiles;
+
+Grid* BoxGrid(int activeBox)
+{
+    Grid* const grids[] = {nullptr,     &SSInfo, &SSScale,    &SSRepParts,   &SSP1Setup,     &SSP2Setup,
+                           &SSPar,      &SSSamp, &SSLith,     nullptr,       &SSGenWellInfo, &SSOuterLay,
+                           &SSInnerLay, &SSW,    &SSCuttings, &SSFormations, &SSLegend};
+    return activeBox >= 0 && activeBox < int(std::size(grids)) ? grids[activeBox] : nullptr;
+}
 } // namespace frmBorinput
 
 Memo frmSoil::MemoNotes{"", 6800, 1550};

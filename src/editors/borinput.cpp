@@ -4,12 +4,20 @@
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
+#include "boring/feet2meters.h"
+#include "boring/opensave.h"
+#include "boring/projectlist.h"
+#include "boring/textlines.h"
 #include "canvas/batch.h"
 #include "editors/fillform.h"
+#include "report/fontprofile.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
+#include "session/gridedit.h"
 #include "session/platform.h"
 #include "session/session.h"
+
+frmBorinput::CommandTable frmBorinput::Commands;
 
 static const char* const ToolTitle = "VeskLog - Boring Log Diagram";
 
@@ -54,14 +62,29 @@ static void LabelBoxes()
         SSPar.headings[n + 1] = "Param." + NumberText(n);
 }
 
+// What a change by the user brings about: each sets the flag, and some size boxes or show names elsewhere.
+static void WatchBoxes()
+{
+    for (int box = 1; box <= 16; ++box)
+        if (Grid* grid = frmBorinput::BoxGrid(box))
+            grid->changed = [] { FileChanged = 1; };
+    frmBorinput::SSRepParts.changed = frmBorinput::SSGenWellInfo.changed = BorTextChange;
+    frmBorinput::SSP1Setup.changed = frmBorinput::SSP2Setup.changed = SetupGridChange;
+}
+
 void frmBorinput::Load()
 {
     FileChanged = 0;
     LoadDevice();
+    if (DeviceConfig.FontName != "Arial")
+        AssignFont();
+    LoadProjectList();
     ActiveBox = 0;
     BoringFileName = "";
     LabelBoxes();
+    WatchBoxes();
     Title = ProjectPath + " - " + ToolTitle;
+    getfilelist(1);
     // The start widths; a boring's report parts set them anew.
     MemoDes.widthTwips = 4205 + DeviceConfig.TextAdjust[1];
     MemoWcon.widthTwips = 3249 + DeviceConfig.TextAdjust[2];
@@ -79,29 +102,59 @@ static bool SaveFirst(const char* question)
     return answer != Cancel;
 }
 
+// Another boring is in the boxes: nothing of the one before can be taken back.
+static void ForgetAll()
+{
+    for (int box = 1; box <= 16; ++box)
+        if (Grid* grid = frmBorinput::BoxGrid(box))
+            ForgetSteps(*grid);
+}
+
 void frmBorinput::mnuNew()
 {
     if (!SaveFirst("Would you like to save the current file before starting a new file?"))
         return;
     ClearBoringForm();
+    if (DeviceConfig.FontName != "Arial")
+        AssignFont();
+    ForgetAll();
 }
 
-void frmBorinput::mnuOpen()
+// The way of every opening; choose leaves the name in DialogResult and the version of the form in DialogMode.
+template <class Choose>
+static void Open(Choose choose)
 {
+    using namespace frmBorinput;
     // Kept: after a No the flag stays 1, so New asks once more in its own words, and a Cancel there does not stop the
     // opening; it only skips the clearing.
     if (!SaveFirst("Would you like to save the current file before opening another file?"))
         return;
-    DialogMode = 1;
-    Platform.ShowChooser();
+    choose();
     if (!DialogResult.empty()) {
         mnuNew();
         BoringFileName = DialogResult;
         FileChanged = 0;
         OpenBoringFile2();
         FillBoringForm();
+        ForgetAll();
     }
     FileChanged = 0; // Kept: also when the chooser was cancelled
+}
+
+void frmBorinput::mnuOpen()
+{
+    Open([] {
+        DialogMode = 1;
+        Platform.ShowChooser();
+    });
+}
+
+void frmBorinput::OpenNamed(const Text& name)
+{
+    Open([&name] {
+        DialogResult = name;
+        DialogMode = 2; // the current form
+    });
 }
 
 void frmBorinput::mnuSave()
@@ -132,6 +185,16 @@ void frmBorinput::mnuSaveAs()
     SaveBoringFile();
     FileChanged = 0; // Kept: also when the save was refused
     Title = BoringFileName + " - " + ToolTitle;
+}
+
+void frmBorinput::mnuImport()
+{
+    DialogMode = 11;
+    Platform.ShowChooser();
+    if (DialogResult.empty())
+        return;
+    ImportDesc();
+    FileChanged = 1;
 }
 
 void frmBorinput::mnuPreview()
@@ -172,6 +235,27 @@ void frmBorinput::mnuPrint()
 void frmBorinput::mnuPrintSetup()
 {
     Platform.ShowPrinterSetup();
+}
+
+void frmBorinput::mnuConvertFeetMeters()
+{
+    if (MsgBox(
+            "This utility converts all depths from feet to meters.  Afterward, you may want to save the file under a "
+            "different name.  Do you wish to proceed?",
+            YesNo, Question) != Yes)
+        return;
+    convertfeet2meters();
+    ForgetAll(); // a step taken back would put feet among the meters
+}
+
+void frmBorinput::mnuGraphicSetup()
+{
+    Platform.ShowGraphicsSetup();
+}
+
+void frmBorinput::mnuCreateLogo()
+{
+    Platform.ShowLogo();
 }
 
 void frmBorinput::mnuFillPatt()

@@ -2,8 +2,35 @@
 // boring/boringboxes.h, and the window shows them after each command.
 #pragma once
 
+#include "session/text.h"
+
 namespace frmBorinput
 {
+// Commands that open another window or tool. The start of a program fills in those that it has; the entry of one that
+// is not there is shown disabled.
+struct CommandTable {
+    // Edit.
+    void (*mnuEditHeading)() = nullptr;
+    void (*mnuEditLayout)() = nullptr;
+    void (*mnuEditDesItems)() = nullptr;
+    void (*mnuEditPromptFile)() = nullptr;
+    // Utilities.
+    void (*mnuGraphicSetup)() = nullptr;
+    void (*mnuCreateLogo)() = nullptr;
+    void (*mnuConvertFeetMeters)() = nullptr;
+    void (*mnuExp2IRPIMS)() = nullptr;
+    void (*mnuGTGS)() = nullptr;
+    void (*mnuConvertGTGStxt)() = nullptr;
+    void (*mnuConvertGTGSgeneral)() = nullptr;
+    void (*mnuConvertWinLog)() = nullptr;
+    // Tools.
+    void (*mnuvcross)() = nullptr;
+    void (*mnuvfence)() = nullptr;
+    void (*mnuvsoil)() = nullptr;
+    void (*mnuvGIS)() = nullptr;
+};
+extern CommandTable Commands;
+
 void Load(); // the loading of the window at the start: the set-up, the title, the widths of the boxes
 
 // File.
@@ -11,12 +38,26 @@ void mnuNew();
 void mnuOpen();
 void mnuSave();
 void mnuSaveAs();
+void mnuImport();
+void OpenNamed(const Text& name); // Open with a file that is known: a recent one, or one dropped on the window
 void mnuPreview();
 void mnuBatchDraw();
 void mnuPrint();
 void mnuPrintSetup();
 bool mnuExit(); // also at the closing of the window; false: the user stays
+// Edit, by ActiveBox: the box last entered.
+void mnuUndo();
+void mnuRedo();
+void mnuCut();
+void mnuCopy();
+void mnuPaste();
+void mnuFillDown();
+void mnuInsertRow();
+void mnuDeleteRow();
 // Utilities and Help.
+void mnuConvertFeetMeters();
+void mnuGraphicSetup();
+void mnuCreateLogo();
 void mnuFillPatt();
 void mnuHelp();
 } // namespace frmBorinput

@@ -3,6 +3,7 @@
 
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
+#include "boring/textlines.h"
 #include "report/layout.h"
 #include "report/reportparts.h"
 #include "session/deviceconfig.h"
@@ -11,6 +12,7 @@
 #include "session/session.h"
 
 #include <algorithm>
+#include <cmath>
 
 using namespace frmBorinput;
 
@@ -29,21 +31,6 @@ static void FillColumn(Grid& grid, const Slots<Text, Rows>& lines)
 {
     for (int row = 1; row <= Rows; ++row)
         grid.Cell(row, 1) = lines[row];
-}
-
-// The flowing text of stored lines. An empty line without a mark cannot hold text and is dropped.
-template <int Rows>
-static Text FlowingText(const Slots<Text, Rows>& lines, int count)
-{
-    Text text;
-    for (int row = 1; row <= count; ++row) {
-        const Text& line = lines[row];
-        if (line.ends_with(ParagraphMark))
-            text.append(line, 0, line.size() - 1).append(CrLf);
-        else
-            text += line;
-    }
-    return text;
 }
 
 static void ShowParameterNames()
@@ -266,4 +253,34 @@ try {
     frmSoil::MemoNotes.widthTwips = std::min(6800 + DeviceConfig.TextAdjust[5], 10000);
 } catch (...) {
     ReportFailure(__func__);
+}
+
+void AdjustTextBox(int button)
+{
+    Memo* const boxes[] = {&MemoDes, &MemoWcon, &MemoRemarks, &MemoBottNotes};
+    const int box = (button + 1) / 2;
+    int16_t& adjustment = DeviceConfig.TextAdjust[box];
+    if (button == 2 && adjustment >= 900) {
+        MsgBox("Maximum text adjustment reached.  Note: clicking these arrows does not change the width of the "
+               "description box on the printed diagram.  These arrows adjust the amount of text placed on each line "
+               "in the description box.  After printing a test diagram, examine the text in the description box.  If "
+               "the text falls short of the right side of the box, increase this text box size.  Decrease this text "
+               "box if the text runs over the right side of the box.  To change the width of the actual description "
+               "box, edit the width of the 'descriptions' item under report parts.");
+        return;
+    }
+    const int change = button % 2 == 0 ? 50 : -50;
+    adjustment = RoundInt16(adjustment + change);
+    boxes[box - 1]->widthTwips += change;
+    DeviceChanged = 1;
+    FileChanged = 1;
+}
+
+int PagesOfLog()
+{
+    const float endDepth = static_cast<float>(TextNumber(SSScale.Cell(1, 1)));
+    const float pageBreak = static_cast<float>(TextNumber(SSScale.Cell(3, 1)));
+    if (!(pageBreak > 0))
+        return 1;
+    return int(std::clamp(std::nearbyint(double(endDepth / pageBreak)), 0.0, 32767.0));
 }

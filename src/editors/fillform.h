@@ -20,3 +20,10 @@ void LayoutFileChange(); // the layout box: sizes the general notes box. Sets Fi
 void findbottnotewidth();
 void changebottnotewidth(); // sizes the general notes box by what was found
 void ResetTextBoxes();      // all text boxes, after a change of the font or of the text adjustments
+
+// The text adjustment buttons: 1 and 2 make the description box narrower and wider by 50 twips, 3 and 4 the well notes,
+// 5 and 6 the remarks, 7 and 8 the general notes. Only button 2 has a limit, and says so.
+void AdjustTextBox(int button);
+
+// The pages of the log by the scale that is typed in, as a run would cut them.
+int PagesOfLog();

@@ -1,10 +1,12 @@
-// frmBorinput.cpp -- the log tool's window: its boxes, and which command each entry calls. It shows the boring that is
-// open; the boxes are records (boring/boringboxes.h), and it shows them anew after each command.
+// frmBorinput.cpp -- the log tool's window: its boxes, and which command each entry calls. The boxes are records
+// (boring/boringboxes.h): what is typed goes into them at once, and they are shown anew after each command.
 #include "editors/borinput.h"
 
 #include "boring/boringboxes.h"
+#include "editors/fillform.h"
 #include "platform/qt/application.h"
 #include "platform/qt/gridview.h"
+#include "platform/qt/memoview.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
 #include "session/files.h"
@@ -14,24 +16,26 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
-#include <QDesktopServices>
+#include <QComboBox>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPointer>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QSettings>
 #include <QSplitter>
-#include <QStackedWidget>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <functional>
 
@@ -46,23 +50,37 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* box, QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     QAction* Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
                    std::function<void()> command);
+    void FillMenus();
+    void Run(const std::function<void()>& command);
+    void UndoOrRedo(bool undo);
+    void Typed(); // a box has changed: what stands elsewhere is shown anew
+    void ShowState();
+    void ShowRecent();
+    void Activates(QWidget* box, int number);
     QWidget* Titled(const Text& title, QWidget* box);
-    QWidget* GridBox(const char* name, Grid& grid);
-    QWidget* MemoBox(const char* name, const char* title, const Memo& memo);
-    QLineEdit* Line(const char* name, const Text& text);
+    QWidget* GridBox(const char* name, int number);
+    QWidget* MemoBox(const char* name, const char* title, Memo& memo, int lessButton);
+    QLineEdit* Line(const char* name, Text& text);
+    QComboBox* LayoutBox();
+    QWidget* ClientBox();
+    QWidget* Items();
     QWidget* Head();
     QWidget* Tabs();
-    QWidget* NothingOpen();
 
-    QStackedWidget* pages;
-    QAction* preview;
+    QMenu* recent = nullptr;
     QLabel* state;
     QLabel* project;
+    std::vector<GridView*> grids;
+    std::vector<std::pair<QObject*, int>> numbers; // the ActiveBox of each box
     std::vector<std::function<void()>> refreshers; // one for each box
+    Text shownFile;                                // the boring that the boxes were last fitted to
 };
 
 // Boxes beside or above one another, with movable borders between them.
@@ -96,47 +114,26 @@ QWidget* Tab(QWidget* content)
 BorinputWindow::BorinputWindow()
 {
     setObjectName("frmBorinput");
-    const auto part = [](QMenuBar* bar, const char* name, const char* caption) {
-        QMenu* menu = bar->addMenu(caption);
-        menu->menuAction()->setObjectName(name);
-        return menu;
-    };
-    QMenu* file = part(menuBar(), "mnuFile", "&File");
-    QAction* open = Entry(file, "mnuOpen", "&Open...", QKeySequence::Open, frmBorinput::mnuOpen);
-    file->addSeparator();
-    preview = Entry(file, "mnuPreview", "Pre&view", QKeySequence("F5"), frmBorinput::mnuPreview);
-    QAction* draw = Entry(file, "mnuBatchDraw", "Batch &Draw...", {}, frmBorinput::mnuBatchDraw);
-    QAction* print = Entry(file, "mnuPrint", "Batch &Print...", QKeySequence::Print, frmBorinput::mnuPrint);
-    Entry(file, "mnuPrintSetup", "Print &Setup...", {}, frmBorinput::mnuPrintSetup);
-    file->addSeparator();
-    // The closing of the window asks and ends, whatever it is that closes it.
-    Entry(file, "mnuExit", "E&xit", QKeySequence("Ctrl+Q"), [this] { close(); });
-    QMenu* utilities = part(menuBar(), "mnuUtilities", "&Utilities");
-    Entry(utilities, "mnuFillPatt", "Fill Pattern &Guide", {}, frmBorinput::mnuFillPatt);
-    QMenu* help = part(menuBar(), "mnuHelpMenu", "&Help");
-    Entry(help, "mnuHelp", "&Help", QKeySequence::HelpContents, frmBorinput::mnuHelp);
-
+    setAcceptDrops(true);
+    FillMenus();
     QToolBar* bar = addToolBar("Commands");
     bar->setObjectName("Commands");
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    bar->addAction(open);
-    bar->addSeparator();
-    bar->addAction(preview);
-    bar->addAction(draw);
-    bar->addAction(print);
+    for (const char* name : {"mnuNew", "mnuOpen", "mnuSave", "", "mnuPreview", "mnuBatchDraw", "mnuPrint"})
+        if (*name)
+            bar->addAction(findChild<QAction*>(name));
+        else
+            bar->addSeparator();
     setContextMenuPolicy(Qt::NoContextMenu); // the bar is not to be hidden by accident
 
-    pages = new QStackedWidget(this);
-    pages->addWidget(NothingOpen());
-    auto* boring = new QWidget;
+    auto* boring = new QWidget(this);
     auto* layout = new QVBoxLayout(boring);
-    layout->setContentsMargins(12, 12, 12, 6);
-    layout->setSpacing(12);
+    layout->setContentsMargins(12, 10, 12, 4);
+    layout->setSpacing(10);
     layout->addWidget(Head());
     layout->addWidget(Tabs(), 1);
-    pages->addWidget(boring);
-    setCentralWidget(pages);
+    setCentralWidget(boring);
 
     project = new QLabel(this);
     project->setObjectName("lblProject");
@@ -146,9 +143,76 @@ BorinputWindow::BorinputWindow()
     state->setContentsMargins(8, 0, 8, 0);
     statusBar()->addWidget(project, 1);
     statusBar()->addPermanentWidget(state);
-    resize(QSize(1120, 760).boundedTo(screen()->availableGeometry().size() * 0.9));
+    resize(QSize(1180, 780).boundedTo(screen()->availableGeometry().size() * 0.95));
     CentreOnScreen(*this);
     Refresh();
+}
+
+// ---- Commands
+
+void BorinputWindow::FillMenus()
+{
+    const auto part = [](auto* bar, const char* name, const char* caption) {
+        QMenu* menu = bar->addMenu(caption);
+        menu->menuAction()->setObjectName(name);
+        return menu;
+    };
+    QMenu* file = part(menuBar(), "mnuFile", "&File");
+    Entry(file, "mnuNew", "&New", QKeySequence::New, frmBorinput::mnuNew);
+    Entry(file, "mnuOpen", "&Open...", QKeySequence::Open, frmBorinput::mnuOpen);
+    recent = part(file, "mnuRecent", "Open &Recent");
+    Entry(file, "mnuSave", "&Save", QKeySequence::Save, frmBorinput::mnuSave);
+    Entry(file, "mnuSaveAs", "Save &As...", QKeySequence("Ctrl+Shift+S"), frmBorinput::mnuSaveAs);
+    Entry(file, "mnuImport", "&Import Description Text...", {}, frmBorinput::mnuImport);
+    file->addSeparator();
+    Entry(file, "mnuPreview", "Pre&view", QKeySequence("F5"), frmBorinput::mnuPreview);
+    Entry(file, "mnuBatchDraw", "Batch &Draw...", {}, frmBorinput::mnuBatchDraw);
+    Entry(file, "mnuPrint", "Batch &Print...", QKeySequence::Print, frmBorinput::mnuPrint);
+    Entry(file, "mnuPrintSetup", "Print Set&up...", {}, frmBorinput::mnuPrintSetup);
+    file->addSeparator();
+    // The closing of the window asks and ends, whatever it is that closes it.
+    Entry(file, "mnuExit", "E&xit", QKeySequence("Ctrl+Q"), [this] { close(); });
+
+    using frmBorinput::Commands;
+    QMenu* edit = part(menuBar(), "mnuEdit", "&Edit");
+    Entry(edit, "mnuUndo", "&Undo", QKeySequence("Ctrl+Z"), [this] { UndoOrRedo(true); });
+    Entry(edit, "mnuRedo", "&Redo", {}, [this] {
+        UndoOrRedo(false);
+    })->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});
+    edit->addSeparator();
+    Entry(edit, "mnuCut", "Cu&t", QKeySequence("Ctrl+X"), frmBorinput::mnuCut);
+    Entry(edit, "mnuCopy", "&Copy", QKeySequence("Ctrl+C"), frmBorinput::mnuCopy);
+    Entry(edit, "mnuPaste", "&Paste", QKeySequence("Ctrl+V"), frmBorinput::mnuPaste);
+    Entry(edit, "mnuFillDown", "&Fill Down", QKeySequence("Ctrl+D"), frmBorinput::mnuFillDown);
+    edit->addSeparator();
+    Entry(edit, "mnuInsertRow", "&Insert Row", QKeySequence("Ctrl++"), frmBorinput::mnuInsertRow);
+    Entry(edit, "mnuDeleteRow", "&Delete Row", QKeySequence("Ctrl+-"), frmBorinput::mnuDeleteRow);
+    edit->addSeparator();
+    Entry(edit, "mnuEditHeading", "Edit &Heading File...", {}, Commands.mnuEditHeading);
+    Entry(edit, "mnuEditLayout", "Edit &Layout File...", {}, Commands.mnuEditLayout);
+    Entry(edit, "mnuEditDesItems", "Edit De&scription Items...", {}, Commands.mnuEditDesItems);
+    Entry(edit, "mnuEditPromptFile", "Edit Pr&ompt File...", {}, Commands.mnuEditPromptFile);
+
+    QMenu* utilities = part(menuBar(), "mnuUtilities", "&Utilities");
+    Entry(utilities, "mnuGraphicSetup", "Graphics/System &Set-Up...", {}, Commands.mnuGraphicSetup);
+    Entry(utilities, "mnuCreateLogo", "Create &Logo...", {}, Commands.mnuCreateLogo);
+    Entry(utilities, "mnuFillPatt", "Fill Pattern &Guide", {}, frmBorinput::mnuFillPatt);
+    utilities->addSeparator();
+    Entry(utilities, "mnuConvertFeetMeters", "Convert &Feet to Meters...", {}, Commands.mnuConvertFeetMeters);
+    Entry(utilities, "mnuConvertGTGStxt", "Convert GTGS &Text...", {}, Commands.mnuConvertGTGStxt);
+    Entry(utilities, "mnuConvertGTGSgeneral", "Convert GTGS, G&eneral...", {}, Commands.mnuConvertGTGSgeneral);
+    Entry(utilities, "mnuGTGS", "Convert GTGS &Print File...", {}, Commands.mnuGTGS);
+    Entry(utilities, "mnuConvertWinLog", "Convert &WinLog...", {}, Commands.mnuConvertWinLog);
+    Entry(utilities, "mnuExp2IRPIMS", "Export to &IRPIMS...", {}, Commands.mnuExp2IRPIMS);
+
+    QMenu* tools = part(menuBar(), "mnuTools", "&Tools");
+    Entry(tools, "mnuvcross", "Vesk&Cross", {}, Commands.mnuvcross);
+    Entry(tools, "mnuvfence", "Vesk&Fence", {}, Commands.mnuvfence);
+    Entry(tools, "mnuvsoil", "Vesk&Soil", {}, Commands.mnuvsoil);
+    Entry(tools, "mnuvGIS", "Vesk&GIS", {}, Commands.mnuvGIS);
+
+    QMenu* help = part(menuBar(), "mnuHelpMenu", "&Help");
+    Entry(help, "mnuHelp", "&Help", QKeySequence::HelpContents, frmBorinput::mnuHelp);
 }
 
 QAction* BorinputWindow::Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
@@ -157,21 +221,111 @@ QAction* BorinputWindow::Entry(QMenu* menu, const char* name, const char* captio
     auto* action = new QAction(caption, this);
     action->setObjectName(name);
     action->setShortcut(keys);
+    action->setEnabled(bool(command));
     menu->addAction(action);
-    connect(action, &QAction::triggered, this, [this, command] {
-        // However the command ends, what it has done is shown, and no progress window outlives it.
-        struct Afterwards {
-            BorinputWindow& window;
-            ~Afterwards()
-            {
-                ShowProgressWindow(false);
-                if (!window.ending)
-                    window.Refresh();
-            }
-        } afterwards{*this};
-        command();
-    });
+    connect(action, &QAction::triggered, this, [this, command] { Run(command); });
     return action;
+}
+
+// What is being typed is taken in first. However the command ends, what it has done is shown, and no progress window
+// outlives it.
+void BorinputWindow::Run(const std::function<void()>& command)
+{
+    for (GridView* grid : grids)
+        grid->FinishEdit();
+    struct Afterwards {
+        BorinputWindow& window;
+        ~Afterwards()
+        {
+            ShowProgressWindow(false);
+            if (!window.ending)
+                window.Refresh();
+        }
+    } afterwards{*this};
+    command();
+}
+
+// In the box that has the focus; else in the grid last entered.
+void BorinputWindow::UndoOrRedo(bool undo)
+{
+    if (auto* text = qobject_cast<QPlainTextEdit*>(focusWidget()))
+        undo ? text->undo() : text->redo();
+    else if (auto* line = qobject_cast<QLineEdit*>(focusWidget()))
+        undo ? line->undo() : line->redo();
+    else
+        undo ? frmBorinput::mnuUndo() : frmBorinput::mnuRedo();
+}
+
+// Files on the window: the first one is opened.
+void BorinputWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    const QList<QUrl> files = event->mimeData()->urls();
+    if (!files.isEmpty() && files[0].toLocalFile().endsWith(".bor", Qt::CaseInsensitive))
+        event->acceptProposedAction();
+}
+
+void BorinputWindow::dropEvent(QDropEvent* event)
+{
+    const Text name = FromUi(event->mimeData()->urls().value(0).toLocalFile());
+    event->acceptProposedAction();
+    // The program that the file comes from waits for the end of the drop, and not for the user's answers.
+    QTimer::singleShot(0, this, [this, name] { Run([&name] { frmBorinput::OpenNamed(name); }); });
+}
+
+static constexpr int maxRecent = 9;
+
+static QStringList RecentFiles()
+{
+    return QSettings("Stratavue", "Stratavue").value("recent").toStringList();
+}
+
+// The boring that has a name now is the most recent one.
+void BorinputWindow::ShowRecent()
+{
+    QStringList files = RecentFiles();
+    if (!BoringFileName.empty()) {
+        const QString name = ToUi(BoringFileName);
+        if (files.value(0) != name) {
+            files.removeAll(name);
+            files.prepend(name);
+            files = files.mid(0, maxRecent);
+            QSettings("Stratavue", "Stratavue").setValue("recent", files);
+        }
+    }
+    recent->clear();
+    recent->setEnabled(!files.isEmpty());
+    int i = 0;
+    for (const QString& file : files) {
+        auto* action = recent->addAction(QString("&%1 %2").arg(++i).arg(QString(file).replace("&", "&&")));
+        action->setObjectName(QString("mnuRecent%1").arg(i));
+        connect(action, &QAction::triggered, this,
+                [this, name = FromUi(file)] { Run([&name] { frmBorinput::OpenNamed(name); }); });
+    }
+}
+
+// ---- Boxes
+
+// A box that makes its number the active one when it is entered.
+void BorinputWindow::Activates(QWidget* box, int number)
+{
+    numbers.push_back({box, number});
+    box->installEventFilter(this);
+}
+
+bool BorinputWindow::eventFilter(QObject* box, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn)
+        for (const auto& [known, number] : numbers)
+            if (known == box)
+                ActiveBox = int16_t(number);
+    return QMainWindow::eventFilter(box, event);
+}
+
+void BorinputWindow::Typed()
+{
+    for (const std::function<void()>& refresh : refreshers)
+        refresh();
+    ShowState();
 }
 
 QWidget* BorinputWindow::Titled(const Text& title, QWidget* box)
@@ -190,42 +344,107 @@ QWidget* BorinputWindow::Titled(const Text& title, QWidget* box)
     return whole;
 }
 
-QWidget* BorinputWindow::GridBox(const char* name, Grid& grid)
+QWidget* BorinputWindow::GridBox(const char* name, int number)
 {
+    Grid& grid = *frmBorinput::BoxGrid(number);
     auto* view = new GridView(name, grid, this);
+    view->OnChange = [this] { Typed(); };
+    grids.push_back(view);
     refreshers.push_back([view] { view->Refresh(); });
+    Activates(view, number);
     return Titled(grid.title, view);
 }
 
-// A text box with the very lines that are stored and printed; they are not broken anew on the screen.
-QWidget* BorinputWindow::MemoBox(const char* name, const char* title, const Memo& memo)
+// A text box; beneath it the two buttons that adjust how much text a line takes.
+QWidget* BorinputWindow::MemoBox(const char* name, const char* title, Memo& memo, int lessButton)
 {
-    auto* box = new QPlainTextEdit(this);
-    box->setObjectName(name);
-    box->setAccessibleName(title);
-    box->setReadOnly(true);
-    box->setTabChangesFocus(true);
-    box->setLineWrapMode(QPlainTextEdit::NoWrap);
-    box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    refreshers.push_back([box, &memo] {
-        QStringList lines;
-        for (const Text& line : memo.DisplayLines())
-            lines << ToUi(line);
-        box->setPlainText(lines.join('\n'));
-    });
-    return Titled(title, box);
+    auto* view = new MemoView(name, memo, this);
+    view->setAccessibleName(title);
+    view->OnChange = [this] {
+        FileChanged = 1;
+        ShowState();
+    };
+    refreshers.push_back([view] { view->Refresh(); });
+    Activates(view, 9);
+    QWidget* whole = Titled(title, view);
+    auto* buttons = new QHBoxLayout;
+    buttons->setContentsMargins(0, 0, 0, 0);
+    buttons->addWidget(new QLabel("Text on a line:", whole));
+    for (const int n : {lessButton, lessButton + 1}) {
+        auto* button = new QToolButton(whole);
+        button->setObjectName(QString("cmdAdj%1").arg(n));
+        button->setText(n == lessButton ? "\u25C2 less" : "more \u25B8");
+        button->setAccessibleName(QString(title) +
+                                  (n == lessButton ? ": less text on a line" : ": more text on a line"));
+        button->setFocusPolicy(Qt::StrongFocus);
+        connect(button, &QToolButton::clicked, this, [this, n] { Run([n] { AdjustTextBox(n); }); });
+        buttons->addWidget(button);
+    }
+    buttons->addStretch();
+    static_cast<QVBoxLayout*>(whole->layout())->addLayout(buttons);
+    return whole;
 }
 
-QLineEdit* BorinputWindow::Line(const char* name, const Text& text)
+QLineEdit* BorinputWindow::Line(const char* name, Text& text)
 {
     auto* line = new QLineEdit(this);
     line->setObjectName(name);
-    line->setReadOnly(true);
+    connect(line, &QLineEdit::textEdited, this, [this, line, &text](const QString& typed) {
+        text = FromUi(typed);
+        if (ToUi(text) != typed) {
+            const int at = line->cursorPosition();
+            line->setText(ToUi(text));
+            line->setCursorPosition(at);
+        }
+        FileChanged = 1;
+        ShowState();
+    });
     refreshers.push_back([line, &text] {
+        if (line->text() == ToUi(text))
+            return;
         line->setText(ToUi(text));
         line->setCursorPosition(0);
     });
     return line;
+}
+
+// The layout file: a list with free typing.
+QComboBox* BorinputWindow::LayoutBox()
+{
+    using namespace frmBorinput;
+    auto* box = new QComboBox(this);
+    box->setObjectName("cmbLayFile");
+    box->setEditable(true);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->setCompleter(nullptr);
+    connect(box->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& typed) {
+        cmbLayFile = FromUi(typed);
+        LayoutFileChange();
+        Typed();
+    });
+    connect(box, &QComboBox::textActivated, this, [this](const QString& chosen) {
+        cmbLayFile = FromUi(chosen);
+        LayoutFileChange();
+        BorTextChange();
+        Typed();
+    });
+    refreshers.push_back([box] {
+        QStringList names;
+        for (const Text& name : LayFiles)
+            names << ToUi(name);
+        QStringList shown;
+        for (int i = 0; i < box->count(); ++i)
+            shown << box->itemText(i);
+        if (shown != names) {
+            box->clear();
+            box->addItems(names);
+        }
+        if (box->currentText() != ToUi(cmbLayFile)) {
+            box->setEditText(ToUi(cmbLayFile));
+            box->lineEdit()->setCursorPosition(0);
+        }
+    });
+    return box;
 }
 
 // What stands above the tabs: the single fields.
@@ -235,7 +454,7 @@ QWidget* BorinputWindow::Head()
     auto* layout = new QGridLayout(head);
     layout->setContentsMargins(2, 0, 2, 0);
     layout->setHorizontalSpacing(10);
-    const auto field = [&](int column, const char* caption, QLineEdit* line, int share) {
+    const auto field = [&](int column, const char* caption, QWidget* line, int share) {
         auto* label = new QLabel(QString(caption) + ":", head);
         label->setBuddy(line);
         line->setAccessibleName(caption);
@@ -245,14 +464,120 @@ QWidget* BorinputWindow::Head()
     };
     field(0, "Boring Name", Line("Text1", frmBorinput::Text1), 3);
     field(1, "Map File", Line("Text2", frmBorinput::Text2), 3);
-    field(2, "Layout File", Line("cmbLayFile", frmBorinput::cmbLayFile), 2);
+    field(2, "Layout File", LayoutBox(), 2);
     auto* draft = new QCheckBox("Draft", head);
     draft->setObjectName("Check1");
-    draft->setAttribute(Qt::WA_TransparentForMouseEvents);
-    draft->setFocusPolicy(Qt::NoFocus);
+    connect(draft, &QCheckBox::clicked, this, [this](bool checked) {
+        frmBorinput::Check1 = checked;
+        FileChanged = 1;
+        ShowState();
+    });
     refreshers.push_back([draft] { draft->setChecked(frmBorinput::Check1); });
     layout->addWidget(draft, 0, 6);
     return head;
+}
+
+// The client text and the four forms in which it is printed.
+QWidget* BorinputWindow::ClientBox()
+{
+    using frmBorinput::Option;
+    using frmBorinput::txtClient;
+    auto* client = new QPlainTextEdit(this);
+    client->setObjectName("txtClient");
+    client->setAccessibleName("Client/Project Information");
+    client->setTabChangesFocus(true);
+    Activates(client, 9);
+    const auto shown = [] { return ToUi(txtClient).remove('\r'); };
+    connect(client, &QPlainTextEdit::textChanged, this, [this, client, shown] {
+        if (client->toPlainText() == shown())
+            return;
+        txtClient = FromUi(client->toPlainText().replace("\n", "\r\n"));
+        FileChanged = 1;
+        ShowState();
+    });
+    refreshers.push_back([client, shown] {
+        if (client->toPlainText() != shown())
+            client->setPlainText(shown());
+    });
+    QWidget* whole = Titled("Client/Project Information", client);
+    auto* styles = new QHBoxLayout;
+    styles->addWidget(new QLabel("Style:", whole));
+    const char* const names[] = {"Open", "1 Line A", "2 Line", "1 Line B"};
+    for (int i = 1; i <= 4; ++i) {
+        auto* option = new QRadioButton(names[i - 1], whole);
+        option->setObjectName(QString("Option%1").arg(i));
+        option->setAutoExclusive(false); // none may be chosen
+        connect(option, &QRadioButton::clicked, this, [this, i] {
+            Option = i;
+            FileChanged = 1;
+            Typed();
+        });
+        refreshers.push_back([option, i] { option->setChecked(Option == i); });
+        styles->addWidget(option);
+    }
+    styles->addStretch();
+    static_cast<QVBoxLayout*>(whole->layout())->addLayout(styles);
+    return whole;
+}
+
+namespace
+{
+// A list of phrases: a click on one, or Enter, chooses it.
+class ItemList : public QListWidget
+{
+public:
+    using QListWidget::QListWidget;
+    std::function<void(const Text&)> OnChoice;
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        QListWidget::mouseReleaseEvent(event);
+        if (event->button() == Qt::LeftButton && itemAt(event->pos()))
+            OnChoice(FromUi(itemAt(event->pos())->text()));
+    }
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && currentItem())
+            OnChoice(FromUi(currentItem()->text()));
+        else
+            QListWidget::keyPressEvent(event);
+    }
+};
+} // namespace
+
+// The four lists of description items.
+QWidget* BorinputWindow::Items()
+{
+    auto* whole = new QWidget;
+    auto* layout = new QHBoxLayout(whole);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(4);
+    for (int i = 1; i <= 4; ++i) {
+        auto* list = new ItemList(whole);
+        list->setObjectName(QString("List%1").arg(i));
+        list->setAccessibleName(QString("Description items %1").arg(i));
+        list->setMinimumWidth(60);
+        list->OnChoice = [this](const Text& words) {
+            auto* box = static_cast<MemoView*>(findChild<QPlainTextEdit*>("MemoDes"));
+            box->Insert(words);
+            box->setFocus();
+        };
+        refreshers.push_back([list, i] {
+            QStringList words;
+            for (const Text& item : frmBorinput::List[i])
+                words << ToUi(item);
+            QStringList shown;
+            for (int row = 0; row < list->count(); ++row)
+                shown << list->item(row)->text();
+            if (shown != words) {
+                list->clear();
+                list->addItems(words);
+            }
+        });
+        layout->addWidget(list);
+    }
+    return whole;
 }
 
 QWidget* BorinputWindow::Tabs()
@@ -262,106 +587,94 @@ QWidget* BorinputWindow::Tabs()
     tabs->setObjectName("SSTab1");
     tabs->setDocumentMode(false);
 
-    auto* client = new QPlainTextEdit(this);
-    client->setObjectName("txtClient");
-    client->setAccessibleName("Client/Project Information");
-    client->setReadOnly(true);
-    client->setTabChangesFocus(true);
-    refreshers.push_back([client] { client->setPlainText(ToUi(txtClient).remove('\r')); });
-    auto* style = new QWidget;
-    auto* styles = new QHBoxLayout(style);
-    styles->setContentsMargins(0, 4, 0, 0);
-    styles->addWidget(new QLabel("Style:", style));
-    const char* const names[] = {"Open", "1 Line A", "2 Line", "1 Line B"};
-    for (int i = 1; i <= 4; ++i) {
-        auto* option = new QRadioButton(names[i - 1], style);
-        option->setObjectName(QString("Option%1").arg(i));
-        option->setAutoExclusive(false);
-        option->setAttribute(Qt::WA_TransparentForMouseEvents);
-        option->setFocusPolicy(Qt::NoFocus);
-        refreshers.push_back([option, i] { option->setChecked(Option == i); });
-        styles->addWidget(option);
-    }
-    styles->addStretch();
-    auto* clientBox = Titled("Client/Project Information", client);
-    clientBox->layout()->addWidget(style);
-
-    auto* parts = GridBox("SSRepParts", SSRepParts);
+    // The boxes are made in the order in which Tab goes through them.
+    QWidget* client = ClientBox();
+    QWidget* info = GridBox("SSInfo", 1);
+    QWidget* scale = GridBox("SSScale", 2);
+    QWidget* parts = GridBox("SSRepParts", 3);
     auto* total = new QLabel(parts);
     total->setObjectName("lblWidthtot");
     refreshers.push_back([total] { total->setText("Total Width: " + ToUi(lblWidthtot)); });
     parts->layout()->addWidget(total);
-
-    tabs->addTab(Tab(Split(Qt::Horizontal,
-                           {Split(Qt::Vertical, {clientBox, GridBox("SSInfo", SSInfo)}, {2, 3}),
-                            Split(Qt::Vertical, {GridBox("SSScale", SSScale), parts}, {2, 3})},
-                           {3, 2})),
-                 "General");
-    tabs->addTab(Tab(Split(Qt::Horizontal,
-                           {GridBox("SSLith", SSLith), MemoBox("MemoDes", "Descriptions", MemoDes),
-                            GridBox("SSFormations", SSFormations)},
-                           {4, 6, 3})),
-                 "Lithology");
-    tabs->addTab(Tab(Split(Qt::Vertical, {GridBox("SSSamp", SSSamp), GridBox("SSP1Setup", SSP1Setup)}, {3, 2})),
-                 "Samples");
-    tabs->addTab(Tab(Split(Qt::Vertical, {GridBox("SSPar", SSPar), GridBox("SSP2Setup", SSP2Setup)}, {3, 2})),
-                 "Parameters");
     tabs->addTab(
         Tab(Split(Qt::Horizontal,
-                  {GridBox("SSGenWellInfo", SSGenWellInfo),
-                   Split(Qt::Vertical, {GridBox("SSOuterLay", SSOuterLay), GridBox("SSInnerLay", SSInnerLay)}, {1, 1}),
-                   Split(Qt::Vertical, {GridBox("SSW", SSW), MemoBox("MemoWcon", "Well Construction Notes", MemoWcon)},
-                         {1, 1})},
-                  {3, 5, 4})),
-        "Well");
+                  {Split(Qt::Vertical, {client, info}, {2, 3}), Split(Qt::Vertical, {scale, parts}, {2, 3})}, {3, 2})),
+        "General");
+
+    QWidget* lith = GridBox("SSLith", 8);
+    QWidget* des = MemoBox("MemoDes", "Descriptions", MemoDes, 1);
+    QWidget* items = Items();
+    QWidget* formations = GridBox("SSFormations", 15);
+    tabs->addTab(Tab(Split(Qt::Horizontal, {lith, Split(Qt::Vertical, {des, items}, {4, 1}), formations}, {4, 6, 3})),
+                 "Lithology");
+
+    QWidget* samples = GridBox("SSSamp", 7);
+    QWidget* sampleSetup = GridBox("SSP1Setup", 4);
+    tabs->addTab(Tab(Split(Qt::Vertical, {samples, sampleSetup}, {3, 2})), "Samples");
+
+    QWidget* params = GridBox("SSPar", 6);
+    QWidget* paramSetup = GridBox("SSP2Setup", 5);
+    tabs->addTab(Tab(Split(Qt::Vertical, {params, paramSetup}, {3, 2})), "Parameters");
+
+    QWidget* well = GridBox("SSGenWellInfo", 10);
+    QWidget* outer = GridBox("SSOuterLay", 11);
+    QWidget* inner = GridBox("SSInnerLay", 12);
+    QWidget* construction = GridBox("SSW", 13);
+    QWidget* wellNotes = MemoBox("MemoWcon", "Well Construction Notes", MemoWcon, 3);
     tabs->addTab(Tab(Split(Qt::Horizontal,
-                           {MemoBox("MemoRemarks", "Remarks", MemoRemarks),
-                            MemoBox("MemoBottNotes", "General Notes:", MemoBottNotes)},
-                           {2, 3})),
-                 "Remarks and Notes");
-    tabs->addTab(Tab(Split(Qt::Horizontal, {GridBox("SSCuttings", SSCuttings), GridBox("SSLegend", SSLegend)}, {1, 1})),
-                 "Cuttings and Legend");
+                           {well, Split(Qt::Vertical, {outer, inner}, {1, 1}),
+                            Split(Qt::Vertical, {construction, wellNotes}, {1, 1})},
+                           {3, 5, 4})),
+                 "Well");
+
+    QWidget* remarks = MemoBox("MemoRemarks", "Remarks", MemoRemarks, 5);
+    QWidget* notes = MemoBox("MemoBottNotes", "General Notes:", MemoBottNotes, 7);
+    tabs->addTab(Tab(Split(Qt::Horizontal, {remarks, notes}, {2, 3})), "Remarks and Notes");
+
+    QWidget* cuttings = GridBox("SSCuttings", 14);
+    QWidget* legend = GridBox("SSLegend", 16);
+    tabs->addTab(Tab(Split(Qt::Horizontal, {cuttings, legend}, {1, 1})), "Cuttings and Legend");
     return tabs;
 }
 
-// Before a boring is open: what to do first.
-QWidget* BorinputWindow::NothingOpen()
+// ---- What is shown
+
+// The title's mark of unsaved changes is the platform's; the rest stands still while the user types.
+void BorinputWindow::ShowState()
 {
-    auto* page = new QWidget;
-    auto* words = new QLabel("No boring is open", page);
-    QFont large = words->font();
-    large.setPointSizeF(large.pointSizeF() * 1.6);
-    words->setFont(large);
-    auto* more = new QLabel("Open a boring file to see its data, and Preview to see its log.\n"
-                            "Batch Draw and Batch Print take many borings at once.",
-                            page);
-    more->setAlignment(Qt::AlignCenter);
-    auto* open = new QPushButton("Open a Boring...", page);
-    open->setObjectName("cmdOpen");
-    open->setMinimumSize(180, 36);
-    connect(open, &QPushButton::clicked, this, [this] { findChild<QAction*>("mnuOpen")->trigger(); });
-    auto* layout = new QVBoxLayout(page);
-    layout->setSpacing(16);
-    layout->addStretch(2);
-    layout->addWidget(words, 0, Qt::AlignHCenter);
-    layout->addWidget(more, 0, Qt::AlignHCenter);
-    layout->addWidget(open, 0, Qt::AlignHCenter);
-    layout->addStretch(3);
-    return page;
+    setWindowModified(FileChanged == 1);
+    const int pages = PagesOfLog();
+    state->setText(QString::number(pages) + (pages == 1 ? " page" : " pages"));
 }
 
 void BorinputWindow::Refresh()
 {
-    setWindowTitle(ToUi(frmBorinput::Title));
-    for (const std::function<void()>& refresh : refreshers)
-        refresh();
-    pages->setCurrentIndex(BoringFileName.empty() ? 0 : 1);
+    setWindowTitle(ToUi(frmBorinput::Title) + "[*]");
+    Typed();
+    if (shownFile != BoringFileName) {
+        shownFile = BoringFileName;
+        for (GridView* grid : grids)
+            grid->Fit();
+    }
+    ShowRecent();
+    const auto dress = [this](const char* name, const Text& family) {
+        auto* box = findChild<QWidget*>(name);
+        if (family.empty() || box->font().family() == ToUi(family))
+            return;
+        QFont font = box->font();
+        font.setFamily(ToUi(family));
+        box->setFont(font);
+    };
+    dress("Text1", frmBorinput::Text1Font);
+    dress("txtClient", frmBorinput::txtClientFont);
     project->setText("Project folder: " + ToUi(ProjectPath));
-    state->setText(BoringFileName.empty() ? QString() : "Read-only view of " + ToUi(BaseName(BoringFileName)));
 }
 
 void BorinputWindow::closeEvent(QCloseEvent* event)
 {
+    if (!ending)
+        for (GridView* grid : grids)
+            grid->FinishEdit();
     if (ending || frmBorinput::mnuExit())
         event->accept();
     else

@@ -5,6 +5,19 @@
 
 #include <vector>
 
+// Cells of a grid, both corners included, rows and columns from 1.
+struct Block {
+    int top = 1, left = 1, bottom = 1, right = 1;
+    friend bool operator==(const Block&, const Block&) = default;
+};
+
+// A cell that the user has changed, for the way back and forth.
+struct CellChange {
+    int row, column;
+    Text before, after;
+};
+using GridStep = std::vector<CellChange>; // what one Undo takes back
+
 // A grid of text cells, rows and columns from 1. A cell outside is failure 380.
 struct Grid {
     Grid(int rowCount, int columnCount);
@@ -19,6 +32,12 @@ struct Grid {
     std::vector<Text> headings;    // of the columns, from index 1
     std::vector<Text> rowHeadings; // from index 1; short or empty: numbers
     Text title;
+    Text fontName; // of the cells; "": the window's own
+    // What the user does in it (session/gridedit.h).
+    int row = 1, column = 1;     // the current cell
+    Block selected;              // the block that Cut, Copy, Paste and Delete act on; the current cell is in it
+    void (*changed)() = nullptr; // called after every change by the user; it may write cells of its own
+    std::vector<GridStep> done, undone;
 };
 
 // A multi-line text box with word wrap. Its text has CR LF line ends; widthTwips decides where lines break.
@@ -26,6 +45,7 @@ struct Memo {
     Text text;
     int widthTwips = 0;
     int factor = 1550;                      // twips of room to an inch of text: 1550 for 8 point, 1750 for 7 point
+    Text fontName = "Arial";                // what it is drawn with; where lines break does not depend on it
     int Points() const;                     // the size that factor stands for
     int64_t Room() const;                   // of a line, in the line breaker's units
     std::vector<Text> DisplayLines() const; // every character but the line ends stands in one of them

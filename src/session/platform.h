@@ -36,16 +36,25 @@ struct PlatformRecord {
     void (*StepProgress)(const Text& words, float percent);
     void (*ShowChooser)(); // by DialogMode; answers in DialogResult
     void (*ShowHelp)();
-    void (*ShowPrinterSetup)();  // which printer, blocking
-    void (*PrintToPdf)(bool on); // while on, print runs go to a PDF whatever printer is chosen
+    void (*ShowProjEdit)();                   // the editor of the project list, blocking
+    void (*ShowGraphicsSetup)();              // the set-up window, blocking
+    void (*ShowLogo)();                       // the logo window, blocking
+    void (*ShowPrinterSetup)();               // which printer, blocking
+    bool (*PrinterHasFont)(const Text& name); // exactly so
+    Text (*ChooseFont)(const Text& font);     // the system's font dialog; "" when cancelled
+    void (*PrintToPdf)(bool on);              // while on, print runs go to a PDF whatever printer is chosen
     // The start and the end of the desktop program.
     Text (*ExecutableFolder)();
     void (*ShowAbout)(bool blocking); // the title box; blocking: until it is clicked
     void (*ShowLogWindow)();          // the log window, loaded and shown when this returns
     void (*ShowWelcome)();            // blocking
     void (*EndProcess)();             // the log window goes, and with it the program
-    void (*Breathe)();                // a turn for the window system, so that Escape is seen
-    Text (*ShortDate)();              // today, in the short form of the user's locale
+    // The clipboard, lines ended by CR LF; and a word in passing: a beep, and the words where they hold up nobody.
+    Text (*ClipboardText)();
+    void (*SetClipboardText)(const Text& text);
+    void (*Notice)(const Text& words);
+    void (*Breathe)();   // a turn for the window system, so that Escape is seen
+    Text (*ShortDate)(); // today, in the short form of the user's locale
     // True where nobody sits in front: a question takes the answer that loses nothing, and a run that cannot go
     // on ends instead of waiting for a key.
     bool Unattended;

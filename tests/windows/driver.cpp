@@ -18,6 +18,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QRadioButton>
+#include <QSettings>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
@@ -146,6 +147,12 @@ void Key(QWidget* window, int key, Qt::KeyboardModifiers modifiers)
     QTest::keyClick(to, Qt::Key(key), modifiers);
 }
 
+void TypeWords(QWidget* window, const Text& words)
+{
+    for (const QChar letter : QString::fromStdString(ToUtf8(words)))
+        QTest::keyClicks(window->focusWidget() ? window->focusWidget() : window, QString(letter));
+}
+
 void UseDesktop()
 {
     // One application for the run of the tests; it is never taken down, since Qt's statics go in no order.
@@ -156,6 +163,8 @@ void UseDesktop()
         qputenv("QT_QPA_PLATFORM", "offscreen");
         new Application(argc, argv);
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        // What the program remembers of its user goes with the scratch folder.
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QString::fromStdString(ScratchFolder()));
     }
     // The windows of the test before. Menus and the like go with their windows.
     const QWidgetList windows = QApplication::topLevelWidgets();
@@ -187,8 +196,11 @@ QMainWindow* LogWindow()
     Main();
     CheckAllDone();
     for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->objectName() == "frmBorinput")
+        if (window->objectName() == "frmBorinput") {
+            window->activateWindow(); // this screen's window manager does not do it when the title box goes
+            QApplication::processEvents();
             return qobject_cast<QMainWindow*>(window);
+        }
     return nullptr;
 }
 
@@ -200,7 +212,7 @@ void OpenSample(const char* name)
             log = qobject_cast<QMainWindow*>(window);
     REQUIRE(log);
     Then("frmOpenSave", [name](QWidget* window) {
-        auto* box = window->findChild<QLineEdit*>("fileNameEdit");
+        auto* box = window->findChild<QLineEdit*>("fileText");
         REQUIRE(box);
         QTest::keyClicks(box, name);
         QTest::keyClick(box, Qt::Key_Return);

@@ -40,7 +40,7 @@ TEST_CASE("a second start asks for nothing but the click on the title box")
     QMainWindow* log = LogWindow();
     REQUIRE(log);
     CHECK(log->isVisible());
-    CHECK(log->windowTitle().toStdString() == Scratch("samples") + " - VeskLog - Boring Log Diagram");
+    CHECK(log->windowTitle().toStdString() == Scratch("samples") + " - VeskLog - Boring Log Diagram[*]");
 }
 
 TEST_CASE("a key closes the title box too")
@@ -85,25 +85,20 @@ TEST_CASE("a failure in a command of the window is told once, and the program go
     CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-103");
 }
 
-TEST_CASE("the open boring is shown in all its boxes, and none of them can be typed in")
+TEST_CASE("the open boring is shown in its boxes, and nothing counts as changed")
 {
     QMainWindow* log = LogWindow();
     OpenSample("TC-101.BOR");
-    CHECK(log->windowTitle().toStdString() == Scratch("samples/TC-101.BOR") + " - VeskLog - Boring Log Diagram");
+    CHECK(log->windowTitle().toStdString() == Scratch("samples/TC-101.BOR") + " - VeskLog - Boring Log Diagram[*]");
     const QAbstractItemModel* lith = Find<QTableView>(log, "SSLith")->model();
     CHECK(lith->rowCount() == 100);
     CHECK(lith->columnCount() == 4);
     CHECK(lith->headerData(1, Qt::Horizontal).toString() == "USCS");
     CHECK_FALSE(lith->data(lith->index(0, 1)).toString().isEmpty());
-    CHECK_FALSE(lith->flags(lith->index(0, 1)).testFlag(Qt::ItemIsEditable));
     CHECK(Find<QTableView>(log, "SSScale")->model()->headerData(0, Qt::Vertical).toString() == "End Depth");
-    CHECK(Find<QPlainTextEdit>(log, "MemoDes")->isReadOnly());
     CHECK_FALSE(Find<QPlainTextEdit>(log, "MemoDes")->toPlainText().isEmpty());
-    for (const char* box : {"SSInfo", "SSRepParts", "SSP1Setup", "SSP2Setup", "SSPar", "SSSamp", "SSGenWellInfo",
-                            "SSOuterLay", "SSInnerLay", "SSW", "SSCuttings", "SSFormations", "SSLegend"})
-        CHECK(Find<QTableView>(log, box)->editTriggers() == QAbstractItemView::NoEditTriggers);
-    for (QLineEdit* line : log->findChildren<QLineEdit*>())
-        CHECK(line->isReadOnly());
+    CHECK(FileChanged == 0);
+    CHECK_FALSE(log->isWindowModified());
 }
 
 TEST_CASE("an open of an older form or of a damaged file tells so and leaves a window that works")
@@ -111,7 +106,7 @@ TEST_CASE("an open of an older form or of a damaged file tells so and leaves a w
     QMainWindow* log = LogWindow();
     WriteScratch("samples/CUT.BOR", ReadScratch("samples/TC-101.BOR").substr(0, 900));
     Then("frmOpenSave", [](QWidget* window) {
-        auto* box = window->findChild<QLineEdit*>("fileNameEdit");
+        auto* box = window->findChild<QLineEdit*>("fileText");
         box->setText("CUT.BOR");
         Key(box, Qt::Key_Return);
     });

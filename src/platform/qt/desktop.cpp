@@ -1,20 +1,27 @@
 // desktop.cpp -- the seam of the desktop program: each procedure of Platform, and the window or box behind it.
 #include "canvas/batch.h"
 #include "canvas/patterns.h"
+#include "editors/borinput.h"
+#include "editors/fillform.h"
 #include "logrender/intropage.h"
 #include "logrender/vlog.h"
 #include "platform/qt/boxes.h"
-#include "platform/qt/filedialog.h"
+#include "platform/qt/fonts.h"
 #include "platform/qt/helpwindow.h"
 #include "platform/qt/printers.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
+#include "report/fontprofile.h"
+#include "report/oldboring.h"
 #include "session/platform.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDate>
 #include <QLocale>
+#include <QMainWindow>
 #include <QScreen>
+#include <QStatusBar>
 #include <QWidget>
 
 void CentreOnScreen(QWidget& window)
@@ -34,6 +41,35 @@ static Text Today()
     return FromUi(QLocale().toString(QDate::currentDate(), QLocale::ShortFormat));
 }
 
+static Text ClipboardText()
+{
+    return FromUi(QApplication::clipboard()->text());
+}
+
+static void SetClipboardText(const Text& text)
+{
+    QApplication::clipboard()->setText(ToUi(text));
+}
+
+// A beep, and the words in the status bar of the window in front.
+static void Notice(const Text& words)
+{
+    QApplication::beep();
+    if (auto* window = qobject_cast<QMainWindow*>(QApplication::activeWindow()))
+        window->statusBar()->showMessage(ToUi(words), 10000);
+}
+
+// The commands of the log tool that belong to other windows.
+static void FillCommandTable()
+{
+    frmBorinput::CommandTable& commands = frmBorinput::Commands;
+    commands = {};
+    commands.mnuConvertFeetMeters = frmBorinput::mnuConvertFeetMeters;
+    commands.mnuGraphicSetup = frmBorinput::mnuGraphicSetup;
+    commands.mnuCreateLogo = frmBorinput::mnuCreateLogo;
+    SetupChange.ResetTextBoxes = ResetTextBoxes;
+}
+
 void UseDesktopPlatform()
 {
     Platform.MsgBox = ShowMessageBox;
@@ -47,18 +83,28 @@ void UseDesktopPlatform()
     Platform.ShowPrinting = ShowPrintingNotice;
     Platform.ShowProgress = ShowProgressWindow;
     Platform.StepProgress = StepProgressWindow;
-    Platform.ShowChooser = ShowFileDialog;
+    Platform.ShowChooser = ShowOpenSave;
+    Platform.ShowProjEdit = ShowProjEdit;
+    Platform.ShowGraphicsSetup = ShowGraphicsSetup;
+    Platform.ShowLogo = ShowLogoWindow;
     Platform.ShowHelp = ShowHelpWindow;
     Platform.ShowPrinterSetup = ShowPrinterSetupBox;
+    Platform.PrinterHasFont = PrinterHasFont;
+    Platform.ChooseFont = ShowFontDialog;
     Platform.PrintToPdf = ForcePdf;
     Platform.ExecutableFolder = ExecutableFolder;
     Platform.ShowAbout = ShowAboutBox;
     Platform.ShowLogWindow = ShowLogWindow;
     Platform.ShowWelcome = ShowWelcomeWindow;
     Platform.EndProcess = EndProgram;
+    Platform.ClipboardText = ClipboardText;
+    Platform.SetClipboardText = SetClipboardText;
+    Platform.Notice = Notice;
     Platform.Breathe = Breathe;
     Platform.ShortDate = Today;
     Platform.Unattended = false;
+    FillCommandTable();
+    FillOlderForms();
 }
 
 void FillJobTable()

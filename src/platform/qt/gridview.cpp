@@ -2,9 +2,13 @@
 #include "platform/qt/gridview.h"
 
 #include "platform/qt/uitext.h"
+#include "session/gridedit.h"
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QStyledItemDelegate>
+#include <QTimer>
 #include <algorithm>
 
 // The record as Qt's tables ask for it. Rows and columns of the record count from 1.
@@ -14,10 +18,32 @@ public:
     GridModel(Grid& shown, QObject* parent) : QAbstractTableModel(parent), grid(shown)
     {
     }
-    void Reset()
+    // Tells the view of what differs from what it was last told.
+    void Refresh()
     {
-        beginResetModel();
-        endResetModel();
+        if (cells != grid.cells || fontName != grid.fontName) {
+            cells = grid.cells;
+            fontName = grid.fontName;
+            emit dataChanged(index(0, 0), index(grid.rows - 1, grid.columns - 1));
+        }
+        if (headings != grid.headings) {
+            headings = grid.headings;
+            emit headerDataChanged(Qt::Horizontal, 0, grid.columns - 1);
+        }
+        if (rowHeadings != grid.rowHeadings) {
+            rowHeadings = grid.rowHeadings;
+            emit headerDataChanged(Qt::Vertical, 0, grid.rows - 1);
+        }
+    }
+    // What was typed goes into the record. It waits until the box that it was typed in is closed: a change may bring a
+    // message, and the message would take the focus from a box that is still being closed.
+    void TakeTyped()
+    {
+        if (!typed.isValid())
+            return;
+        const QModelIndex at = typed;
+        typed = QModelIndex();
+        TypeCell(grid, at.row() + 1, at.column() + 1, FromUi(typedText));
     }
     int rowCount(const QModelIndex& parent) const override
     {
@@ -27,11 +53,30 @@ public:
     {
         return parent.isValid() ? 0 : grid.columns;
     }
+    Qt::ItemFlags flags(const QModelIndex& index) const override
+    {
+        return QAbstractTableModel::flags(index) | Qt::ItemIsEditable;
+    }
     QVariant data(const QModelIndex& index, int role) const override
     {
-        if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
+        if (index.isValid() && role == Qt::FontRole && !grid.fontName.empty()) {
+            QFont font = static_cast<QWidget*>(QObject::parent())->font();
+            font.setFamily(ToUi(grid.fontName));
+            return font;
+        }
+        if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole && role != Qt::EditRole))
             return {};
+        if (index == typed)
+            return typedText;
         return ToUi(grid.Cell(index.row() + 1, index.column() + 1));
+    }
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override
+    {
+        if (!index.isValid() || role != Qt::EditRole)
+            return false;
+        typed = index;
+        typedText = value.toString();
+        return true;
     }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
     {
@@ -40,50 +85,256 @@ public:
                        (orientation == Qt::Vertical && grid.rowHeadings.size() <= 1 ? Qt::AlignRight : Qt::AlignLeft));
         if (role != Qt::DisplayRole)
             return {};
-        const std::vector<Text>& headings = orientation == Qt::Horizontal ? grid.headings : grid.rowHeadings;
-        if (size_t(section) + 1 < headings.size())
-            return ToUi(headings[size_t(section) + 1]);
+        const std::vector<Text>& names = orientation == Qt::Horizontal ? grid.headings : grid.rowHeadings;
+        if (size_t(section) + 1 < names.size())
+            return ToUi(names[size_t(section) + 1]);
         return orientation == Qt::Horizontal ? QVariant(QString()) : QVariant(section + 1);
     }
 
 private:
     Grid& grid;
+    std::vector<Text> cells, headings, rowHeadings; // as the view knows them
+    Text fontName;
+    QModelIndex typed;
+    QString typedText;
 };
 
-GridView::GridView(const char* name, Grid& shown, QWidget* parent) : QTableView(parent)
+namespace
+{
+// The current row is tinted, and its number is bold. An edit ends at the arrows up and down too.
+class CellDelegate : public QStyledItemDelegate
+{
+public:
+    CellDelegate(bool& goUp, QObject* parent) : QStyledItemDelegate(parent), up(goUp)
+    {
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const auto* view = qobject_cast<const QAbstractItemView*>(option->widget);
+        if (view && view->currentIndex().row() == index.row())
+            option->backgroundBrush = QColor(0xe4, 0xee, 0xf8);
+        if (view && !view->hasFocus()) { // the block of a grid that is not typed in stands back
+            option->palette.setColor(QPalette::Highlight, QColor(0xcf, 0xdc, 0xe8));
+            option->palette.setColor(QPalette::HighlightedText, option->palette.color(QPalette::Text));
+        }
+    }
+    bool eventFilter(QObject* editor, QEvent* event) override
+    {
+        if (event->type() == QEvent::KeyPress) {
+            const int key = static_cast<QKeyEvent*>(event)->key();
+            if (key == Qt::Key_Up || key == Qt::Key_Down) {
+                auto* box = static_cast<QWidget*>(editor);
+                up = key == Qt::Key_Up;
+                emit commitData(box);
+                emit closeEditor(box, SubmitModelCache);
+                return true;
+            }
+        }
+        return QStyledItemDelegate::eventFilter(editor, event);
+    }
+
+private:
+    bool& up; // the edit ended by the arrow up
+};
+} // namespace
+
+GridView::GridView(const char* name, Grid& shown, QWidget* parent) : QTableView(parent), grid(shown)
 {
     setObjectName(name);
     setAccessibleName(ToUi(shown.title));
     model = new GridModel(shown, this);
     setModel(model);
+    setItemDelegate(new CellDelegate(up, this));
     setAlternatingRowColors(true);
-    setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setTabKeyNavigation(false); // Tab goes to the next box
+    setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
+    setSelectionMode(ContiguousSelection);
     setWordWrap(false);
     setShowGrid(true);
     setGridStyle(Qt::SolidLine);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 7);
     verticalHeader()->setMinimumSectionSize(10);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setHighlightSections(true);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setMinimumSectionSize(48);
+    horizontalHeader()->setMinimumSectionSize(30);
     if (shown.columns == 1)
         horizontalHeader()->hide();
+    widthSet.assign(size_t(shown.columns), false);
+    horizontalHeader()->setStretchLastSection(shown.columns <= 5);
     Refresh();
+    Fit();
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int, int) {
+        const bool stretched = grid.columns <= 5 && column == grid.columns - 1;
+        if (!fitting && !stretched)
+            widthSet[size_t(column)] = true;
+    });
+}
+
+void GridView::Refresh()
+{
+    model->Refresh();
+    showing = true;
+    const QModelIndex current = model->index(grid.row - 1, grid.column - 1);
+    if (current != currentIndex())
+        selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    const QItemSelection block(model->index(grid.selected.top - 1, grid.selected.left - 1),
+                               model->index(grid.selected.bottom - 1, grid.selected.right - 1));
+    if (selectionModel()->selection() != block)
+        selectionModel()->select(block, QItemSelectionModel::ClearAndSelect);
+    showing = false;
 }
 
 // Each column as wide as its heading and its cells need, within bounds; the last one takes what is left.
-void GridView::Refresh()
+void GridView::Fit()
 {
-    model->Reset();
-    for (int column = 0; column < model->columnCount({}); ++column) {
+    fitting = true;
+    for (int column = 0; column < grid.columns; ++column) {
         const int wanted = std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column)) + 8;
-        setColumnWidth(column, std::clamp(wanted, 62, 260));
+        if (!widthSet[size_t(column)])
+            setColumnWidth(column, std::clamp(wanted, 62, 260));
     }
-    horizontalHeader()->setStretchLastSection(model->columnCount({}) <= 5);
+    fitting = false;
 }
 
 QSize GridView::sizeHint() const
 {
     return QSize(verticalHeader()->sizeHint().width() + std::min(horizontalHeader()->length(), 420) + 24, 180);
+}
+
+// ---- The user
+
+void GridView::Done()
+{
+    Refresh();
+    scrollTo(currentIndex());
+    if (OnChange)
+        OnChange();
+}
+
+void GridView::FinishEdit()
+{
+    if (QWidget* box = indexWidget(currentIndex())) {
+        commitData(box);
+        closeEditor(box, QAbstractItemDelegate::NoHint);
+    }
+    model->TakeTyped();
+    Done();
+}
+
+// Enter, Tab and the arrows take what was typed and go on.
+void GridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    switch (hint) {
+    case QAbstractItemDelegate::EditNextItem:
+        Step(0, 1);
+        break;
+    case QAbstractItemDelegate::EditPreviousItem:
+        Step(0, -1);
+        break;
+    case QAbstractItemDelegate::SubmitModelCache:
+        Step(up ? -1 : 1, 0);
+        up = false;
+        break;
+    case QAbstractItemDelegate::RevertModelCache: // Escape: nothing was typed
+        break;
+    case QAbstractItemDelegate::NoHint:
+        // The focus has gone elsewhere; who asked for it comes first.
+        QTimer::singleShot(0, this, [this] {
+            model->TakeTyped();
+            Done();
+        });
+        return;
+    }
+    model->TakeTyped();
+    Done();
+}
+
+// To the neighbouring cell; at the end of a row to the next row, and at the edges nowhere.
+void GridView::Step(int rows, int columns)
+{
+    int row = currentIndex().row() + rows, column = currentIndex().column() + columns;
+    if (column >= grid.columns && row + 1 < grid.rows) {
+        column = 0;
+        ++row;
+    } else if (column < 0 && row > 0) {
+        column = grid.columns - 1;
+        --row;
+    }
+    setCurrentIndex(model->index(std::clamp(row, 0, grid.rows - 1), std::clamp(column, 0, grid.columns - 1)));
+}
+
+// Tab goes on to the next cell, and out of the grid behind the last one.
+bool GridView::focusNextPrevChild(bool next)
+{
+    const QModelIndex at = currentIndex();
+    const bool edge =
+        next ? at.row() == grid.rows - 1 && at.column() == grid.columns - 1 : at.row() == 0 && at.column() == 0;
+    if (edge || !at.isValid())
+        return QAbstractScrollArea::focusNextPrevChild(next);
+    Step(0, next ? 1 : -1);
+    return true;
+}
+
+void GridView::keyPressEvent(QKeyEvent* event)
+{
+    if (state() == EditingState) // a key that the box of the edit has let through
+        return QTableView::keyPressEvent(event);
+    model->TakeTyped();
+    const auto is = [event](QKeySequence::StandardKey key) { return event->matches(key); };
+    const bool control = event->modifiers() == Qt::ControlModifier;
+    if (is(QKeySequence::Copy))
+        CopySelected(grid);
+    else if (is(QKeySequence::Cut))
+        CutSelected(grid);
+    else if (is(QKeySequence::Paste))
+        PasteSelected(grid);
+    else if (is(QKeySequence::Undo))
+        UndoGrid(grid);
+    else if (is(QKeySequence::Redo) || (control && event->key() == Qt::Key_Y))
+        RedoGrid(grid);
+    else if (control && event->key() == Qt::Key_D)
+        FillDown(grid);
+    else if (event->modifiers() == Qt::NoModifier &&
+             (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace))
+        ClearSelected(grid);
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        Step(event->modifiers() & Qt::ShiftModifier ? -1 : 1, 0);
+    else if (event->key() == Qt::Key_F6) // out of the grid, to the next box or the one before
+        QAbstractScrollArea::focusNextPrevChild(!(event->modifiers() & Qt::ShiftModifier));
+    else
+        return QTableView::keyPressEvent(event);
+    event->accept();
+    Done();
+}
+
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTableView::currentChanged(current, previous);
+    viewport()->update(); // the tint of the row
+    TakeSelection();
+}
+
+void GridView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    QTableView::selectionChanged(selected, deselected);
+    TakeSelection();
+}
+
+// The record learns where the user is.
+void GridView::TakeSelection()
+{
+    if (showing || !currentIndex().isValid())
+        return;
+    grid.row = currentIndex().row() + 1;
+    grid.column = currentIndex().column() + 1;
+    grid.selected = {grid.row, grid.column, grid.row, grid.column};
+    const QItemSelection selection = selectionModel()->selection();
+    if (selection.size() != 1 || !selection.contains(currentIndex()))
+        return;
+    const QItemSelectionRange& range = selection.first();
+    grid.selected = {range.top() + 1, range.left() + 1, range.bottom() + 1, range.right() + 1};
 }

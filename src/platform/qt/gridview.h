@@ -1,9 +1,11 @@
-// gridview.h -- a grid record on the screen, to look at.
+// gridview.h -- a grid record on the screen, to type in as in a spreadsheet. What is done to the record is told in
+// session/gridedit.h; here is which key and which click asks for it.
 #pragma once
 
 #include "session/controls.h"
 
 #include <QTableView>
+#include <functional>
 
 class GridModel;
 
@@ -11,11 +13,28 @@ class GridView : public QTableView
 {
 public:
     GridView(const char* name, Grid& shown, QWidget* parent);
-    void Refresh(); // the record has changed: cells, headings
+    void Refresh();                 // the record has changed: cells, headings, current cell, selected block
+    void Fit();                     // columns as wide as what they hold, but for those that the user has set
+    void FinishEdit();              // takes in what is being typed
+    std::function<void()> OnChange; // after every change by the user
 
 protected:
     QSize sizeHint() const override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
+    void Done(); // a procedure has worked on the record
+    void Step(int rows, int columns);
+    void TakeSelection();
+
+    Grid& grid;
     GridModel* model;
+    bool showing = false; // the view follows the record, not the user
+    bool fitting = false;
+    bool up = false;            // an edit has ended by the arrow up
+    std::vector<bool> widthSet; // columns whose width is the user's own
 };
