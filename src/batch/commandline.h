@@ -19,7 +19,7 @@ struct CommandLine {
     bool Help = false;
     std::string Wrong;                       // what is wrong with it; empty when nothing is
     Text Home, Project, Pdf, Png, Dxf, List; // full paths; empty when not given
-    int16_t ReportOption = 0; // the job's own, or what --type says
+    int16_t ReportOption = 0;                // the job's own, or what --type says
     Text Page, Date;
     bool DateGiven = false;
     int Dpi = 150;

@@ -75,6 +75,7 @@ try {
     lineright(2.5);
     moveto(4.5, -0.45);
     WellLines();
+    // Kept: the title of the notes stands on the line itself, which runs through it.
     moveto(4.5, -3.9);
     WellNotes();
 } catch (...) {

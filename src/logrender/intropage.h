@@ -4,11 +4,11 @@
 
 namespace VLOG
 {
-void vlogintrostart();  // the loop over the borings of log.mas, a page for each; introType is the arrangement
-void drawframeintro();  // starts the page: frame, date line, logo and client block
-void drawintromain();   // all that stands in the frame
-void drawintrowcon();   // the well construction block of arrangement 1, and of arrangement 2
+void vlogintrostart(); // the loop over the borings of log.mas, a page for each; introType is the arrangement
+void drawframeintro(); // starts the page: frame, date line, logo and client block
+void drawintromain();  // all that stands in the frame
+void drawintrowcon();  // the well construction block of arrangement 1, and of arrangement 2
 void drawintrowcon2();
-void drawintromap();    // the project map of arrangement 1, and of arrangement 2
+void drawintromap(); // the project map of arrangement 1, and of arrangement 2
 void drawintromap2();
 } // namespace VLOG
