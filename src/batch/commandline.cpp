@@ -5,12 +5,15 @@
 
 #include <algorithm>
 
-static constexpr char DrawingOptions[] = "--home DIR|--project DIR|--page N|--date TEXT|--pdf FILE|--png DIR|--dpi N|"
-                                         "--dxf DIR|--list FILE";
-static constexpr char SheetOptions[] = "--home DIR|--pdf FILE|--png DIR|--dpi N|--list FILE";
+static constexpr char LogOptions[] = "--home DIR;--project DIR;--page N;--date TEXT;--pdf FILE;--png DIR;--dpi N;"
+                                     "--dxf DIR;--list FILE";
+static constexpr char IntroOptions[] = "--type 1|2;--home DIR;--project DIR;--page N;--date TEXT;--pdf FILE;--png DIR;"
+                                       "--dpi N;--dxf DIR;--list FILE";
+static constexpr char SheetOptions[] = "--home DIR;--pdf FILE;--png DIR;--dpi N;--list FILE";
 
 static constexpr BatchJob Jobs[] = {
-    {"log", 2, 0, DrawingOptions, "FILE.BOR...", "the boring logs of saved borings"},
+    {"log", 2, 0, LogOptions, "FILE.BOR...", "the boring logs of saved borings"},
+    {"intro", 2, 1, IntroOptions, "FILE.BOR...", "the intro pages of saved borings, one each"},
     {"guide", 9, 0, SheetOptions, "", "the Fill Pattern Guide"},
 };
 
@@ -20,12 +23,13 @@ namespace
 {
 struct Option {
     const char* name;
-    Text CommandLine::*text; // where its word goes; --dpi and --date have places of their own
+    Text CommandLine::*text; // where its word goes; --dpi and --type are numbers
     bool path;
 };
 } // namespace
 
 static constexpr Option Options[] = {
+    {"--type", nullptr, false},
     {"--home", &CommandLine::Home, true},
     {"--project", &CommandLine::Project, true},
     {"--page", &CommandLine::Page, false},
@@ -41,7 +45,7 @@ static bool Knows(const BatchJob& job, std::string_view option)
 {
     const std::string_view options = job.Options;
     const size_t at = options.find(std::string(option) + " ");
-    return at != std::string_view::npos && (at == 0 || options[at - 1] == '|');
+    return at != std::string_view::npos && (at == 0 || options[at - 1] == ';');
 }
 
 static bool IsNumber(const std::string& word)
@@ -63,6 +67,12 @@ static std::string TakeOption(CommandLine& line, const std::string& name, const 
         line.Dpi = IsNumber(*word) ? std::stoi(*word) : 0;
         if (line.Dpi < SmallestDpi || line.Dpi > LargestDpi)
             return "--dpi takes a number from 10 to 1200, not " + *word;
+        return "";
+    }
+    if (name == "--type") {
+        if (*word != "1" && *word != "2")
+            return "--type takes 1 or 2, not " + *word;
+        line.ReportOption = *word == "1" ? 1 : 2;
         return "";
     }
     if (name == "--page" && !IsNumber(*word))
@@ -89,6 +99,7 @@ CommandLine ReadCommandLine(const std::vector<std::string>& words)
         return line;
     }
     line.Job = job;
+    line.ReportOption = job->ReportOption;
     bool optionsEnd = false, dpiGiven = false;
     for (size_t i = 1; i < words.size() && line.Wrong.empty(); ++i) {
         const std::string& word = words[i];
@@ -123,7 +134,7 @@ std::string UsageText()
         text += std::string("  stratavue-batch ") + job.Name;
         std::string options = job.Options;
         for (size_t at = 0; at < options.size();) {
-            const size_t end = std::min(options.find('|', at), options.size());
+            const size_t end = std::min(options.find(';', at), options.size());
             const std::string option = options.substr(at, end - at);
             at = end + 1;
             if (option == "--png DIR")
@@ -140,9 +151,10 @@ std::string UsageText()
         text += std::string("  ") + job.Name + std::string(15 - std::string_view(job.Name).size(), ' ') + "draws " +
                 job.ThatDraws + "\n";
     text += "Options:\n"
+            "  --type 1|2     the arrangement of the intro pages (1)\n"
             "  --home DIR     the working folder, with the set-up and the stock files (the program's own folder)\n"
             "  --project DIR  the project folder (the folder of the first file)\n"
-            "  --page N       only page N of each boring\n"
+            "  --page N       only page N of each boring; an intro page is a single page\n"
             "  --date TEXT    the text of the date line (today)\n"
             "  --pdf FILE     all pages as one PDF\n"
             "  --png DIR      each page as a picture, --dpi N dots to the inch (150)\n"

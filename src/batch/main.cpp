@@ -6,6 +6,7 @@
 #include "canvas/pagelisting.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "logrender/intropage.h"
 #include "logrender/vlog.h"
 #include "platform/qt/headless.h"
 #include "platform/qt/pagepainter.h"
@@ -203,6 +204,7 @@ static void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
     JobTable[9] = patternstart;
+    IntroPages = VLOG::vlogintrostart;
 }
 
 // ---- The run
@@ -264,7 +266,7 @@ static void FillDialog()
         dialog.File1[i] = Asked.Files[size_t(i - 1)];
         dialog.Selected[i] = true;
     }
-    dialog.ReportOption = Asked.Job->ReportOption;
+    dialog.ReportOption = Asked.ReportOption;
     dialog.AllPages = Asked.Page.empty();
     dialog.Text1 = Asked.Page;
 }

@@ -89,6 +89,24 @@ static void TitleBlock(int code, int position, double e)
     }
 }
 
+void VLOG::framefont()
+{
+    setfontname(DeviceConfig.FontName.empty() ? "Arial" : DeviceConfig.FontName);
+    setfontsize(6);
+    textleft();
+    textmiddle();
+}
+
+// It runs up the outside of the left edge; on a landscape page it stands below the frame.
+void VLOG::dateline()
+{
+    const bool turned = LogGeometry.FrameKind != 'L';
+    moveto(turned ? -0.07 : 0.1, turned ? -9.5 : -7.17);
+    settextangle(turned ? 90 : 0);
+    printtextraw(Platform.ShortDate() + "   " + LogPage.BoringFileName);
+    settextangle(0);
+}
+
 // Reads LogGeometry and LogBoring; leaves the origin at the frame's upper left corner, both scales 1, and the pen on
 // the baseline at the left edge, (0, -2.7).
 void VLOG::drawframe()
@@ -99,10 +117,7 @@ try {
     const double e = kind == 'T' ? 0.1 : 0;
     setfillfile(1);
     setcolor(0);
-    setfontname(DeviceConfig.FontName.empty() ? "Arial" : DeviceConfig.FontName);
-    setfontsize(6);
-    textleft();
-    textmiddle();
+    framefont();
     float x = 0.7 + DeviceConfig.MarginX;
     float y = (kind == 'L' ? 7.8 : 10.3) + DeviceConfig.MarginY;
     setorigin(x, y);
@@ -111,12 +126,7 @@ try {
     setlinewidth(2);
     rectby(width, -height);
     setlinewidth(1);
-    // The date line runs up the outside of the left edge; on a landscape page it stands below the frame.
-    const bool turned = kind != 'L';
-    moveto(turned ? -0.07 : 0.1, turned ? -9.5 : -7.17);
-    settextangle(turned ? 90 : 0);
-    printtextraw(Platform.ShortDate() + "   " + LogPage.BoringFileName);
-    settextangle(0);
+    dateline();
     moveto(0, -1.5);
     lineright(width);
     if (LogGeometry.HasBottomRow == 1) {

@@ -251,6 +251,12 @@ static void ReadTail(LineReader& in)
         LogBoring.Draft = RoundInt16(TextNumber(in.Line()));
 }
 
+// Values in a row of general parameters.
+static int ParamCells()
+{
+    return LogBoring.Version == "5.0" ? 9 : 21;
+}
+
 // The lines behind the version word, in file order.
 static void ReadBoring(LineReader& in)
 {
@@ -272,7 +278,7 @@ static void ReadBoring(LineReader& in)
     ReadStoredLines(in, b.Des, b.DesCount);
     if (UpperCase(b.Des[1]) != "MANUAL")
         VLOG::ArrangeDescs();
-    const int cells = b.Version == "5.0" ? 9 : 21;
+    const int cells = ParamCells();
     b.ParamCount = in.Count();
     for (int row = 1; row <= b.ParamCount; ++row)
         for (int column = 1; column <= cells; ++column)
@@ -310,18 +316,25 @@ static void ReadLayout()
     g.HasBottomRow = g.FrameKind == 'P' && bottom ? 1 : 0;
 }
 
+// The version word. A file of an earlier form is told, and the run goes on behind it.
+static bool Accepted(LineReader& in)
+{
+    LogBoring.Version = in.Line();
+    if (LogBoring.Version.starts_with("5."))
+        return true;
+    MsgBox("This boring file has the format of a previous version and will be skipped: " + LogPage.BoringFileName,
+           OkOnly, Exclamation);
+    ++RunPages.pageIndex;
+    LogBoring.RepPartCount = -1;
+    return false;
+}
+
 void VLOG::getvlogdata()
 try {
     LogBoring = LogBoringRecord();
     LineReader in(LogPage.BoringFileName);
-    LogBoring.Version = in.Line();
-    if (!LogBoring.Version.starts_with("5.")) {
-        MsgBox("This boring file has the format of a previous version and will be skipped: " + LogPage.BoringFileName,
-               OkOnly, Exclamation);
-        ++RunPages.pageIndex;
-        LogBoring.RepPartCount = -1;
+    if (!Accepted(in))
         return;
-    }
     ReadBoring(in);
     ReadLayout();
     SetProgress(LogBoring.ContactCount + LogBoring.RepPartCount + LogBoring.InnerLayerCount +
@@ -329,6 +342,45 @@ try {
 } catch (...) {
     ReportFailure(__func__);
     LogBoring.RepPartCount = -1;
+}
+
+// ---- The boring of an intro page
+
+static void SkipRows(LineReader& in, int cells)
+{
+    for (int32_t count = in.Count(); count > 0; --count)
+        in.Skip(cells);
+}
+
+void VLOG::getintrodata()
+try {
+    LogBoringRecord& b = LogBoring;
+    b = LogBoringRecord();
+    LineReader in(LogPage.BoringFileName);
+    if (!Accepted(in))
+        return;
+    b.Name = in.Line();
+    in.Skip(1 + 2 * MaxInfo + MaxScale); // the map of the title blocks, their rows, the scale
+    SkipRows(in, 2);                     // report parts
+    in.Skip(1);                          // layout file
+    SkipRows(in, 5 + SampleParams);
+    SkipRows(in, 4); // lithology
+    SkipRows(in, 1); // descriptions
+    SkipRows(in, ParamCells());
+    in.Skip(9 * SampleParams + 8 * GenParams);
+    ReadRows(in, b.WellInfo, b.WellInfoCount);
+    ReadStoredLines(in, b.WellNotes, b.WellNoteCount);
+    in.Skip(MaxGenWell);
+    SkipRows(in, 5); // outer layers
+    SkipRows(in, 5); // inner layers
+    SkipRows(in, 1); // remarks
+    SkipRows(in, 4); // cuttings
+    ReadRows(in, b.Legend, b.LegendCount);
+    SkipRows(in, 2); // formations
+    ReadTail(in);
+    SetProgress(b.LegendCount + 2);
+} catch (...) {
+    ReportFailure(__func__);
 }
 
 // ---- The page

@@ -123,5 +123,6 @@ namespace VLOG
 void getvlogfilecounter(); // log.mas: the count and the first entry; pageIndex to 0
 void getvlogfiles();       // log.mas: the entry at pageIndex into LogPage
 void getvlogdata();        // the boring and its layout file into LogBoring and LogGeometry; RepPartCount -1 on failure
+void getintrodata();       // what an intro page needs of the boring into LogBoring; RepPartCount -1 when refused
 void process_sam_con_form(); // first and last indices, and the cuts at the page's ends
 } // namespace VLOG

@@ -44,7 +44,7 @@ try {
 }
 
 // One line of the well construction list: a heading, or a label and its value in two columns.
-static void wellrow(const Text& label, const Text& value, float width)
+static void wellrow(const Text& label, const Text& value, double offset)
 {
     if (UpperCase(value) == "HEADING") {
         movedown(0.05);
@@ -53,10 +53,16 @@ static void wellrow(const Text& label, const Text& value, float width)
         return;
     }
     printtext(label);
-    moveright(0.45 * width);
+    moveright(offset);
     printtext(": " + value);
     movedown(0.1);
-    moveleft(0.45 * width);
+    moveleft(offset);
+}
+
+void VLOG::wellrows(double offset)
+{
+    for (int i = 1; i <= LogBoring.WellInfoCount; ++i)
+        wellrow(LogBoring.WellInfo[i][1], LogBoring.WellInfo[i][2], offset);
 }
 
 // The well construction column: its list, a line, the notes. Its box is as tall as the page and not as the boring.
@@ -83,8 +89,7 @@ try {
     moveto(0.05, -0.05);
     setfontsize(7);
     textleft();
-    for (int i = 1; i <= LogBoring.WellInfoCount; ++i)
-        wellrow(LogBoring.WellInfo[i][1], LogBoring.WellInfo[i][2], width);
+    wellrows(0.45 * width);
     // The notes under a line of their own.
     movedown(0.2);
     moveleft(0.05);

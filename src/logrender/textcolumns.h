@@ -25,6 +25,9 @@ bool contactonpage(double n);
 // Pen to the column's left edge at a depth; leaves y scale 1. The origin is on the depth line.
 void movetodepth(float depth);
 
+// The well construction lines of the boring at the pen, 0.1 apart, a value so far right of its label.
+void wellrows(double offset);
+
 // A "-" line: whether its depth is on the page. If so the pen goes there, indented; leaves y scale 1.
 bool depthplaced(const Text& line);
 } // namespace VLOG

@@ -16,6 +16,8 @@ void vlogstart(); // the loop over the pages of log.mas
 void processrepparts(); // the report part at ColumnNumber, by the table of all columns
 // frame.cpp, scale.cpp
 void drawframe();
+void framefont(); // the font of the set-up, 6 point, left aligned
+void dateline();  // the date and the boring's file, outside the frame
 void drawscale();
 void drawelev();
 // lithology.cpp

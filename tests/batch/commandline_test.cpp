@@ -57,6 +57,9 @@ TEST_CASE("a wrong command line is told in one line, with no job")
         {{"log", "B-1.BOR", "--png", "o", "--dpi", "5"}, "--dpi takes a number from 10 to 1200, not 5"},
         {{"log", "B-1.BOR", "--dpi", "100"}, "--dpi goes with --png"},
         {{"log", "", "B-1.BOR"}, "an empty file name"},
+        {{"log", "--type", "1", "B-1.BOR"}, "unknown option for log: --type"},
+        {{"intro", "--type", "3", "B-1.BOR"}, "--type takes 1 or 2, not 3"},
+        {{"intro", "--type", "1"}, "no file given for intro"},
         {{"guide", "B-1.BOR"}, "guide takes no file"},
         {{"guide", "--dxf", "o"}, "unknown option for guide: --dxf"},
     };
@@ -65,6 +68,21 @@ TEST_CASE("a wrong command line is told in one line, with no job")
         CHECK(line.Wrong == wrong);
         CHECK(line.Job == nullptr);
     }
+}
+
+TEST_CASE("intro pages run as the print job with the report choice of their type, the first one unless told")
+{
+    CHECK(ReadCommandLine({"log", "B-1.BOR"}).ReportOption == 0);
+    CHECK(ReadCommandLine({"intro", "B-1.BOR"}).ReportOption == 1);
+    CHECK(ReadCommandLine({"intro", "--type", "1", "B-1.BOR"}).ReportOption == 1);
+    const CommandLine line =
+        ReadCommandLine({"intro", "--type", "2", "--date", "1 May 2001", "--pdf", "/o/x.pdf", "/a/B-1.BOR"});
+    CHECK(line.Wrong == "");
+    CHECK(line.ReportOption == 2);
+    CHECK(line.Job->JobCode == 2);
+    CHECK(line.Date == "1 May 2001");
+    CHECK(line.Pdf == "/o/x.pdf");
+    CHECK(line.Files.size() == 1);
 }
 
 TEST_CASE("a file whose name begins with a hyphen goes behind two hyphens")
@@ -80,6 +98,7 @@ TEST_CASE("the help has a usage line for each job")
     const std::string text = UsageText();
     CHECK(text.find("stratavue-batch log [--home DIR] [--project DIR] [--page N] [--date TEXT] [--pdf FILE] "
                     "[--png DIR [--dpi N]] [--dxf DIR] [--list FILE] FILE.BOR...\n") != std::string::npos);
+    CHECK(text.find("stratavue-batch intro [--type 1|2] [--home DIR]") != std::string::npos);
     CHECK(text.find("stratavue-batch guide [--home DIR] [--pdf FILE] [--png DIR [--dpi N]] [--list FILE]\n") !=
           std::string::npos);
 }

@@ -6,6 +6,7 @@
 #include "canvas/batch.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "logrender/intropage.h"
 #include "logrender/vlog.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
@@ -35,11 +36,13 @@ void LayOutFolder(const std::string& folder)
         }
 }
 
-std::string DrawLogs(const std::string& folder, const std::vector<Text>& borings)
+// The run that Preview makes of each boring, with this report choice of the batch dialog.
+static std::string DrawBorings(const std::string& folder, const std::vector<Text>& borings, int reportOption)
 {
     LayOutFolder(folder);
     TintsInMemory = true;
     JobTable[2] = VLOG::vlogstart;
+    IntroPages = VLOG::vlogintrostart;
     std::string listing;
     Listings.clear();
     for (const Text& boring : borings) {
@@ -48,12 +51,23 @@ std::string DrawLogs(const std::string& folder, const std::vector<Text>& borings
         singleFileName = boring;
         frmDrawPrint::Dialog = frmDrawPrint::Record();
         DrawPrintLoad();
+        frmDrawPrint::Dialog.ReportOption = reportOption;
         DrawPrintOk();
     }
     singleFile = 0;
     for (const std::string& page : Listings)
         listing += page;
     return listing;
+}
+
+std::string DrawLogs(const std::string& folder, const std::vector<Text>& borings)
+{
+    return DrawBorings(folder, borings, 0);
+}
+
+std::string DrawIntro(const std::string& folder, const std::vector<Text>& borings, int arrangement)
+{
+    return DrawBorings(folder, borings, arrangement);
 }
 
 static std::vector<std::string> SplitLines(const std::string& text)

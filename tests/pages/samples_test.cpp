@@ -19,3 +19,18 @@ TEST_CASE("the sample borings draw the kept pages, object by object, and without
         CheckListing("samples/" + boring.substr(0, boring.size() - 4), listing);
     }
 }
+
+TEST_CASE("the intro pages of a sample boring with map and legend are the kept ones, in both arrangements")
+{
+    const std::string folder = std::string(BUILD_DIR) + "/samples";
+    for (const int arrangement : {1, 2}) {
+        CAPTURE(arrangement);
+        std::filesystem::remove_all(ScratchFolder());
+        std::filesystem::create_directories(ScratchFolder());
+        const std::string listing = DrawIntro(folder, {"MW-108.BOR"}, arrangement);
+        for (const PlainMessage& message : Messages)
+            FAIL_CHECK(message.words);
+        Messages.clear();
+        CheckListing("samples/MW-108-intro" + std::to_string(arrangement), listing);
+    }
+}

@@ -3,6 +3,7 @@
 #include "canvas/patterns.h"
 #include "editors/borinput.h"
 #include "editors/fillform.h"
+#include "logrender/intropage.h"
 #include "logrender/vlog.h"
 #include "platform/qt/boxes.h"
 #include "platform/qt/fonts.h"
@@ -110,4 +111,5 @@ void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
     JobTable[9] = patternstart;
+    IntroPages = VLOG::vlogintrostart;
 }
