@@ -17,8 +17,8 @@ extern std::deque<Text> InputAnswers;      // of the input boxes to come; "" whe
 extern std::vector<std::string> Listings;  // of every page drawn, in order
 extern Text PlainClipboard;
 extern std::vector<Text> Notices; // every word in passing, in order
-extern void (*PlainShowPage)();            // what the user does at the screen view; the start value is Next
-extern int PlainPrinted;                   // pages printed
-extern int PlainRunsEnded;                 // print runs ended
+extern void (*PlainShowPage)();   // what the user does at the screen view; the start value is Next
+extern int PlainPrinted;          // pages printed
+extern int PlainRunsEnded;        // print runs ended
 
 void UsePlainPlatform(); // fills in Platform and empties what is kept
