@@ -1,11 +1,13 @@
 // smalleditors_test.cpp -- the heading, legend, layout, prompt and description item editors, by real events.
 #include "boring/boringboxes.h"
+#include "platform/qt/application.h"
 #include "report/heading.h"
 #include "report/layout.h"
 #include "report/layoutedit.h"
 #include "report/prompts.h"
 #include "session/files.h"
 #include "session/session.h"
+#include "session/startup.h"
 #include "windows/driver.h"
 
 #include <QAbstractItemModel>
@@ -173,9 +175,22 @@ TEST_CASE("the description item editor shows the lists, and OK writes and shows 
     CHECK(ReadScratch("desitem.txt").starts_with(" 1 \r\nTill\r\n"));
 }
 
-TEST_CASE("a start without prompt.txt ends with the number of the failure")
+static int endedWith;
+
+TEST_CASE("a start without prompt.txt ends with the number of the failure and status 1")
 {
     UseDesktop();
     std::filesystem::remove(Scratch("prompt.txt"));
-    CHECK(FailureOf(LoadPrompts) == 53);
+    WriteScratch("device.cfg", Lines({Scratch("samples"), "0,0", "Arial"}));
+    WriteScratch("first.txt", "yes");
+    endedWith = 0;
+    void (*const before)(int) = EndAtOnce;
+    EndAtOnce = [](int status) { endedWith = status; };
+    ThenAnswer("Run-time error 53", "OK");
+    Then("frmAbout5", Click);
+    Main();
+    CheckAllDone();
+    EndAtOnce = before;
+    CHECK(endedWith == 1);
+    CHECK_FALSE(StartDone);
 }
