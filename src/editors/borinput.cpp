@@ -10,7 +10,9 @@
 #include "boring/textlines.h"
 #include "canvas/batch.h"
 #include "editors/fillform.h"
+#include "report/desitems.h"
 #include "report/fontprofile.h"
+#include "report/prompts.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/gridedit.h"
@@ -85,10 +87,12 @@ void frmBorinput::Load()
     WatchBoxes();
     Title = ProjectPath + " - " + ToolTitle;
     getfilelist(1);
+    loaddeslists();
     // The start widths; a boring's report parts set them anew.
     MemoDes.widthTwips = 4205 + DeviceConfig.TextAdjust[1];
     MemoWcon.widthTwips = 3249 + DeviceConfig.TextAdjust[2];
     MemoRemarks.widthTwips = 2223 + DeviceConfig.TextAdjust[3];
+    LoadPrompts();
 }
 
 // The question before something that would drop unsaved work. False: the user has thought better of it.

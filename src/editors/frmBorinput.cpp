@@ -368,7 +368,10 @@ QWidget* BorinputWindow::GridBox(const char* name, int number)
     grids.push_back(view);
     refreshers.push_back([view] { view->Refresh(); });
     Activates(view, number);
-    return Titled(grid.title, view);
+    QWidget* whole = Titled(grid.title, view);
+    auto* label = whole->findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+    refreshers.push_back([label, &grid] { label->setText(ToUi(grid.title)); });
+    return whole;
 }
 
 // A text box; beneath it the two buttons that adjust how much text a line takes.

@@ -35,6 +35,7 @@ void frmHeading::Load()
     for (Grid* grid : {&SSLog, &SSSections, &SSGraphics}) {
         grid->headings = {"", "Default Text", "New Text"};
         grid->locked = 1;
+        grid->fontName = DeviceConfig.FontName;
         grid->done.clear();
         grid->undone.clear();
         grid->row = 1;

@@ -7,6 +7,7 @@
 //                   3 6 9 (below the log)
 #include "report/layoutedit.h"
 
+#include "boring/opensave.h"
 #include "report/layout.h"
 #include "session/files.h"
 #include "session/platform.h"
@@ -194,4 +195,9 @@ void frmLayout::StepTile(int code, int right, int down)
         TakeOutTile(code);
     else if (column < int(columns.size()) && row >= 0 && row < rowCount)
         DropTile(code, columns[size_t(column)], rows[size_t(row)]);
+}
+
+void frmLayout::mnuExit()
+{
+    getfilelist(1);
 }

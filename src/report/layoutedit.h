@@ -38,4 +38,5 @@ void DropTile(int code, int x, int y);
 void StepTile(int code, int right, int down);
 void TakeOutTile(int code); // back beside the page, out of the layout
 bool InLayout(int code);
+void mnuExit(); // behind the closing: the log tool's list of layouts may have a new one
 } // namespace frmLayout

@@ -10,6 +10,14 @@
 #include "session/session.h"
 #include "testing.h"
 
+// The start of the log tool's window, in an installation that has its prompts.
+static void LoadTool()
+{
+    std::filesystem::copy_file(SOURCE_DIR "/data/prompt.txt", Scratch("prompt.txt"),
+                               std::filesystem::copy_options::overwrite_existing);
+    frmBorinput::Load();
+}
+
 static Text Sample(const Text& name)
 {
     return Text(SOURCE_DIR) + "/samples/" + name;
@@ -30,7 +38,7 @@ static void Prepare()
     Platform.ShowDrawPrint = [] { ++dialogs; };
     Platform.EndProcess = [] { ++ends; };
     JobTable[1] = JobTable[9] = [] { ++jobs; };
-    frmBorinput::Load();
+    LoadTool();
     Messages.clear();
 }
 
@@ -46,7 +54,7 @@ TEST_CASE("loading sets the title, the box widths and the flag")
     FileChanged = 1;
     BoringFileName = "old";
     ActiveBox = 3;
-    frmBorinput::Load();
+    LoadTool();
     CHECK(frmBorinput::Title == ScratchFolder() + " - VeskLog - Boring Log Diagram");
     CHECK(FileChanged == 0);
     CHECK(ActiveBox == 0);
@@ -59,7 +67,7 @@ TEST_CASE("loading sets the title, the box widths and the flag")
 
 TEST_CASE("with device.cfg missing the message comes once and the file is complete after the start")
 {
-    frmBorinput::Load();
+    LoadTool();
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "Couldn't Find DEVICE.CFG File, creating new");
     LineReader file("device.cfg");

@@ -11,6 +11,7 @@ using namespace frmBorinput;
 
 static void Prepare()
 {
+    std::filesystem::copy_file(SOURCE_DIR "/data/prompt.txt", Scratch("prompt.txt"));
     Load();
     Messages.clear();
     FileChanged = DeviceChanged = 0;

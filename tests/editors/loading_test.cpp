@@ -7,6 +7,14 @@
 #include "session/session.h"
 #include "testing.h"
 
+// The start of the log tool's window, in an installation that has its prompts.
+static void LoadTool()
+{
+    std::filesystem::copy_file(SOURCE_DIR "/data/prompt.txt", Scratch("prompt.txt"),
+                               std::filesystem::copy_options::overwrite_existing);
+    frmBorinput::Load();
+}
+
 TEST_CASE("the start reads the project list and the layouts that the set-up names")
 {
     std::filesystem::create_directories(Scratch("layouts"));
@@ -14,7 +22,7 @@ TEST_CASE("the start reads the project list and the layouts that the set-up name
     WriteScratch("office.lst", Lines({" 1 ", "Harbour", "/srv"}));
     WriteScratch("device.cfg", Lines({ScratchFolder(), "0,0", "Arial", "0", "0", "0", "0", "0", "us.hdg", "office.lst",
                                       "desitem.txt", Scratch("layouts")}));
-    frmBorinput::Load();
+    LoadTool();
     CHECK(ProjectCount == 1);
     CHECK(ProjectList[1].ProjectId == "Harbour");
     CHECK(frmBorinput::LayFiles == std::vector<Text>{"well.lay"});
@@ -26,17 +34,17 @@ TEST_CASE("the start reads the project list and the layouts that the set-up name
 TEST_CASE("a start without a project list has no projects")
 {
     ProjectCount = 5;
-    frmBorinput::Load();
+    LoadTool();
     CHECK(ProjectCount == 0);
 }
 
 TEST_CASE("another font than Arial goes to the boxes at the start; a blank one is Arial, and stays blank in device.cfg")
 {
     WriteScratch("device.cfg", Lines({ScratchFolder(), "0,0", "Courier"}));
-    frmBorinput::Load();
+    LoadTool();
     CHECK(frmBorinput::MemoDes.fontName == "Courier");
     WriteScratch("device.cfg", Lines({ScratchFolder(), "0,0"}));
-    frmBorinput::Load();
+    LoadTool();
     CHECK(frmBorinput::MemoDes.fontName == "Arial");
     CHECK(DeviceConfig.FontName == "Arial");
     LineReader device("device.cfg");
@@ -52,7 +60,7 @@ TEST_CASE("a project list that ends early fails the loading of the log window")
 
 TEST_CASE("New gives the boxes the font of the set-up again, unless it is Arial")
 {
-    frmBorinput::Load();
+    LoadTool();
     DeviceConfig.FontName = "Courier";
     frmBorinput::mnuNew();
     CHECK(frmBorinput::SSLith.fontName == "Courier");
@@ -63,7 +71,7 @@ TEST_CASE("New gives the boxes the font of the set-up again, unless it is Arial"
 
 TEST_CASE("feet become meters only at Yes, and no step before can be taken back then")
 {
-    frmBorinput::Load();
+    LoadTool();
     frmBorinput::SSLith.Cell(1, 1) = "10";
     frmBorinput::SSLith.done.emplace_back();
     Answers = {No};

@@ -11,6 +11,7 @@
 #include "platform/qt/printers.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
+#include "report/desitems.h"
 #include "report/fontprofile.h"
 #include "report/oldboring.h"
 #include "session/platform.h"
@@ -64,10 +65,15 @@ static void FillCommandTable()
 {
     frmBorinput::CommandTable& commands = frmBorinput::Commands;
     commands = {};
+    commands.mnuEditHeading = ShowHeadingWindow;
+    commands.mnuEditLayout = ShowLayoutWindow;
+    commands.mnuEditDesItems = ShowDesItemsWindow;
+    commands.mnuEditPromptFile = ShowPromptWindow;
     commands.mnuConvertFeetMeters = frmBorinput::mnuConvertFeetMeters;
     commands.mnuGraphicSetup = frmBorinput::mnuGraphicSetup;
     commands.mnuCreateLogo = frmBorinput::mnuCreateLogo;
     SetupChange.ResetTextBoxes = ResetTextBoxes;
+    SetupChange.loaddeslists = loaddeslists;
 }
 
 void UseDesktopPlatform()

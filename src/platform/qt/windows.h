@@ -15,6 +15,11 @@ void ShowOpenSave();                 // frmOpenSave: by DialogMode; the path in 
 void ShowProjEdit();                 // frmProjEdit
 void ShowGraphicsSetup();            // frmPrinterSetup
 void ShowLogoWindow();               // frmLogo
+void ShowHeadingWindow();            // frmHeading
+void ShowDescLegendWindow();         // frmDescLegend
+void ShowLayoutWindow();             // frmLayout
+void ShowPromptWindow();             // frmPrompt
+void ShowDesItemsWindow();           // frmDesItems
 void ShowDrawArea();                 // frmDrawArea
 void ShowDrawPrintDialog();          // frmDrawPrint
 void ShowPrintingNotice();           // frmPrinting

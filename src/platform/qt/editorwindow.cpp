@@ -1,0 +1,65 @@
+// editorwindow.cpp -- what the small editors with a menu have in common.
+#include "platform/qt/editorwindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+EditorWindow::EditorWindow(const char* name) : QDialog(QApplication::activeWindow())
+{
+    setObjectName(name);
+    content = new QVBoxLayout(this);
+    content->setContentsMargins(14, 12, 14, 14);
+    content->setSpacing(8);
+    bar = new QMenuBar(this);
+    content->setMenuBar(bar);
+}
+
+QMenu* EditorWindow::Part(const char* name, const char* caption)
+{
+    QMenu* menu = bar->addMenu(caption);
+    menu->menuAction()->setObjectName(name);
+    return menu;
+}
+
+void EditorWindow::Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
+                         std::function<void()> command)
+{
+    auto* action = new QAction(caption, this);
+    action->setObjectName(name);
+    action->setShortcut(keys);
+    menu->addAction(action);
+    connect(action, &QAction::triggered, this, [this, command] {
+        // However the command ends, what it has done is shown.
+        struct Afterwards {
+            EditorWindow& window;
+            ~Afterwards()
+            {
+                if (window.refresh)
+                    window.refresh();
+            }
+        } afterwards{*this};
+        if (before)
+            before();
+        command();
+    });
+}
+
+void EditorWindow::reject()
+{
+    if (before)
+        before();
+    if (!mayClose || mayClose())
+        QDialog::reject();
+}
+
+void EditorWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        event->accept();
+    else
+        QDialog::keyPressEvent(event);
+}

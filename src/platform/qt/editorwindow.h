@@ -1,0 +1,30 @@
+// editorwindow.h -- what the small editors with a menu have in common: a blocking window that goes by Exit and by its
+// closing, and not by Escape, which would drop what was typed.
+#pragma once
+
+#include <QDialog>
+#include <QKeySequence>
+#include <functional>
+
+class QMenu;
+class QMenuBar;
+class QVBoxLayout;
+
+class EditorWindow : public QDialog
+{
+public:
+    explicit EditorWindow(const char* name);
+    QMenu* Part(const char* name, const char* caption);
+    void Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys, std::function<void()> command);
+    QVBoxLayout* content;           // below the menu
+    std::function<void()> before;   // takes in what is being typed
+    std::function<void()> refresh;  // shows what a command has done
+    std::function<bool()> mayClose; // asks; false: the user stays
+    void reject() override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QMenuBar* bar;
+};
