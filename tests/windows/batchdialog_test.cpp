@@ -1,5 +1,6 @@
 // batchdialog_test.cpp -- the batch dialog and the progress of a run.
 #include "canvas/batch.h"
+#include "canvas/pagelisting.h"
 #include "canvas/screenview.h"
 #include "platform/qt/windows.h"
 #include "session/files.h"
@@ -104,6 +105,31 @@ TEST_CASE("the page number asked for is the page that is drawn")
     });
     ClickMenu(log, "mnuFile", "mnuBatchDraw");
     CheckAllDone();
+}
+
+TEST_CASE("the report choice draws the intro page of the type asked for")
+{
+    for (const auto& [option, arrangement] : {std::pair<const char*, int>{"OptionIntro", 1}, {"OptionIntro2", 2}}) {
+        QMainWindow* log = LogWindow();
+        Then("frmDrawPrint", [option = option](QWidget* window) {
+            auto* choice = Find<QRadioButton>(window, option);
+            CHECK(choice->isEnabled());
+            Click(choice);
+            auto* files = Find<QListWidget>(window, "File1");
+            files->findItems("MW-108.BOR", Qt::MatchExactly).first()->setSelected(true);
+            ClickButton(window, "Command1");
+        });
+        Then("DrawArea", [arrangement = arrangement](QWidget* window) {
+            CHECK(introType == arrangement);
+            CHECK(window->findChild<QLabel*>("lblPage")->text() == "Page 1 of 1");
+            const std::string page = PageListing(1, RunPages.pageFile);
+            CHECK(page.find("\"text\": \" PROJECT MAP \"") != std::string::npos);
+            CHECK(page.find("\"text\": \"LEGEND:\"") != std::string::npos);
+            ClickMenu(window, "mnuFile", "mnuExit");
+        });
+        ClickMenu(log, "mnuFile", "mnuBatchDraw");
+        CheckAllDone();
+    }
 }
 
 TEST_CASE("jobs above 2 have a short dialog with neither pages nor report choice")
