@@ -14,9 +14,13 @@
 #include "canvas/screenview.h"
 #include "editors/borinput.h"
 #include "logrender/logdata.h"
+#include "report/desitems.h"
 #include "report/fontprofile.h"
 #include "report/heading.h"
+#include "report/headingedit.h"
 #include "report/layout.h"
+#include "report/layoutedit.h"
+#include "report/prompts.h"
 #include "report/logo.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
@@ -143,6 +147,14 @@ struct Fresh : doctest::IReporter {
         LegendBoxFill = {};
         LogoData = LogoRecord();
         LayoutData = LayoutRecord();
+        frmDescLegend::Dialog = frmDescLegend::Record();
+        frmBorinput::List = {};
+        frmDesItems::Box = {};
+        PromptTable = {};
+        PromptSlot = {};
+        PromptForce = 0;
+        frmPrompt::SS1 = Grid(MaxPrompts, 2);
+        frmPrompt::Changed = false;
         PageCanvas = CanvasRecord();
         PageList = PageListRecord();
         RunPages = RunPagesRecord();

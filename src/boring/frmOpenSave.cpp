@@ -70,6 +70,7 @@ private:
     void Cancel();
 
     QLineEdit* fileText;
+    QLabel* pattern;
     QListWidget* file1;
     FolderList* dir1;
     DriveList* drive1;
@@ -104,6 +105,8 @@ OpenSave::OpenSave(QWidget* parent) : QDialog(parent)
     file1->setAccessibleName("Files");
     file1->setUniformItemSizes(true);
     file1->setMinimumWidth(210);
+    pattern = Label("", file1);
+    pattern->setObjectName("lblPattern");
     dir1 = new FolderList(this);
     drive1 = new DriveList(this);
     auto* command1 = Button("Command1", "OK");
@@ -116,6 +119,7 @@ OpenSave::OpenSave(QWidget* parent) : QDialog(parent)
     left->addWidget(Label("File &name:", fileText));
     left->addWidget(fileText);
     left->addSpacing(6);
+    left->addWidget(pattern);
     left->addWidget(file1, 1);
     auto* middle = new QVBoxLayout;
     middle->setSpacing(5);
@@ -129,6 +133,7 @@ OpenSave::OpenSave(QWidget* parent) : QDialog(parent)
         middle->addWidget(Versions());
     }
     auto* right = new QVBoxLayout;
+    right->setSpacing(8);
     right->addWidget(command1);
     right->addWidget(command2);
     right->addWidget(command3);
@@ -253,6 +258,7 @@ void OpenSave::ShowFolder()
 
 void OpenSave::ShowFiles()
 {
+    pattern->setText("&Files (" + ToUi(Dialog.Pattern) + "):");
     file1->clear();
     for (const Text& name : Dialog.File1)
         file1->addItem(ToUi(name));

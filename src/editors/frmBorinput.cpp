@@ -6,6 +6,7 @@
 #include "editors/fillform.h"
 #include "platform/qt/application.h"
 #include "platform/qt/gridview.h"
+#include "platform/qt/livepane.h"
 #include "platform/qt/memoview.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
@@ -17,6 +18,7 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -30,6 +32,7 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QSettings>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -73,8 +76,12 @@ private:
     QWidget* Items();
     QWidget* Head();
     QWidget* Tabs();
+    void AddPreview();
+    void OrderTabs();
 
     QMenu* recent = nullptr;
+    QTabWidget* tabs = nullptr;
+    LivePane* live = nullptr;
     QLabel* state;
     QLabel* project;
     std::vector<GridView*> grids;
@@ -134,6 +141,13 @@ BorinputWindow::BorinputWindow()
     layout->addWidget(Head());
     layout->addWidget(Tabs(), 1);
     setCentralWidget(boring);
+    AddPreview();
+    OrderTabs();
+    for (const int step : {1, -1}) {
+        auto* keys = new QShortcut(QKeySequence(step > 0 ? "Ctrl+PgDown" : "Ctrl+PgUp"), this);
+        connect(keys, &QShortcut::activated, this,
+                [this, step] { tabs->setCurrentIndex((tabs->currentIndex() + step + tabs->count()) % tabs->count()); });
+    }
 
     project = new QLabel(this);
     project->setObjectName("lblProject");
@@ -192,6 +206,8 @@ void BorinputWindow::FillMenus()
     Entry(edit, "mnuEditLayout", "Edit &Layout File...", {}, Commands.mnuEditLayout);
     Entry(edit, "mnuEditDesItems", "Edit De&scription Items...", {}, Commands.mnuEditDesItems);
     Entry(edit, "mnuEditPromptFile", "Edit Pr&ompt File...", {}, Commands.mnuEditPromptFile);
+
+    part(menuBar(), "mnuView", "&View");
 
     QMenu* utilities = part(menuBar(), "mnuUtilities", "&Utilities");
     Entry(utilities, "mnuGraphicSetup", "Graphics/System &Set-Up...", {}, Commands.mnuGraphicSetup);
@@ -583,7 +599,7 @@ QWidget* BorinputWindow::Items()
 QWidget* BorinputWindow::Tabs()
 {
     using namespace frmBorinput;
-    auto* tabs = new QTabWidget;
+    tabs = new QTabWidget;
     tabs->setObjectName("SSTab1");
     tabs->setDocumentMode(false);
 
@@ -605,7 +621,9 @@ QWidget* BorinputWindow::Tabs()
     QWidget* des = MemoBox("MemoDes", "Descriptions", MemoDes, 1);
     QWidget* items = Items();
     QWidget* formations = GridBox("SSFormations", 15);
-    tabs->addTab(Tab(Split(Qt::Horizontal, {lith, Split(Qt::Vertical, {des, items}, {4, 1}), formations}, {4, 6, 3})),
+    tabs->addTab(Tab(Split(Qt::Horizontal,
+                           {Split(Qt::Vertical, {lith, formations}, {3, 2}), Split(Qt::Vertical, {des, items}, {4, 1})},
+                           {2, 3})),
                  "Lithology");
 
     QWidget* samples = GridBox("SSSamp", 7);
@@ -637,12 +655,80 @@ QWidget* BorinputWindow::Tabs()
     return tabs;
 }
 
+// The page as it stands in the boxes, beside them when the user wishes. A click on a layer leads to its row.
+void BorinputWindow::AddPreview()
+{
+    auto* dock = new QDockWidget("Page", this);
+    dock->setObjectName("dckPreview");
+    dock->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
+    auto* content = new QWidget(dock);
+    live = new LivePane(content);
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->addWidget(live, 1);
+    auto* buttons = new QHBoxLayout;
+    auto* place = new QLabel(content);
+    place->setObjectName("lblLivePage");
+    for (const int step : {-1, 1}) {
+        auto* button = new QToolButton(content);
+        button->setObjectName(step < 0 ? "cmdLivePrevious" : "cmdLiveNext");
+        button->setText(step < 0 ? "\u25C2 Previous" : "Next \u25B8");
+        button->setFocusPolicy(Qt::StrongFocus);
+        connect(button, &QToolButton::clicked, this, [this, step] { live->Turn(step); });
+        if (step > 0)
+            buttons->addWidget(place, 1, Qt::AlignCenter);
+        buttons->addWidget(button);
+    }
+    layout->addLayout(buttons);
+    live->OnDrawn = [this, place] {
+        const LivePage& page = live->Shown();
+        place->setText(page.Page == 0 ? QString() : QString("Page %1 of %2").arg(page.Page).arg(page.Pages));
+    };
+    live->OnLayer = [this](int row) {
+        auto* grid = findChild<QTableView*>("SSLith");
+        tabs->setCurrentIndex(1);
+        grid->setCurrentIndex(grid->model()->index(row - 1, 0));
+        grid->setFocus();
+    };
+    dock->setWidget(content);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+    dock->hide();
+    QAction* toggle = dock->toggleViewAction();
+    toggle->setObjectName("mnuLivePreview");
+    toggle->setText("&Page beside the Boxes");
+    toggle->setShortcut(QKeySequence("Ctrl+F5"));
+    findChild<QAction*>("mnuView")->menu()->addAction(toggle);
+}
+
+// The way of the Tab key: from field to field as a boring is typed in.
+void BorinputWindow::OrderTabs()
+{
+    const char* const order[] = {
+        "Text1",        "Text2",         "cmbLayFile", "Check1",  "SSTab1",     "txtClient",     "Option1",
+        "Option2",      "Option3",       "Option4",    "SSInfo",  "SSScale",    "SSRepParts",    "SSLith",
+        "MemoDes",      "cmdAdj1",       "cmdAdj2",    "List1",   "List2",      "List3",         "List4",
+        "SSFormations", "SSSamp",        "SSP1Setup",  "SSPar",   "SSP2Setup",  "SSGenWellInfo", "SSOuterLay",
+        "SSInnerLay",   "SSW",           "MemoWcon",   "cmdAdj3", "cmdAdj4",    "MemoRemarks",   "cmdAdj5",
+        "cmdAdj6",      "MemoBottNotes", "cmdAdj7",    "cmdAdj8", "SSCuttings", "SSLegend",      "cmdLivePrevious",
+        "cmdLiveNext"};
+    QWidget* before = nullptr;
+    for (const char* name : order) {
+        auto* next = findChild<QWidget*>(name);
+        if (next == tabs)
+            next = tabs->tabBar(); // with the tabs themselves all that stands on them would move
+        if (before)
+            setTabOrder(before, next);
+        before = next;
+    }
+}
+
 // ---- What is shown
 
 // The title's mark of unsaved changes is the platform's; the rest stands still while the user types.
 void BorinputWindow::ShowState()
 {
     setWindowModified(FileChanged == 1);
+    live->Soon();
     const int pages = PagesOfLog();
     state->setText(QString::number(pages) + (pages == 1 ? " page" : " pages"));
 }

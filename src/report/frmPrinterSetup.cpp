@@ -21,6 +21,7 @@
 #include <QPushButton>
 #include <QStorageInfo>
 #include <QVBoxLayout>
+#include <algorithm>
 
 using frmPrinterSetup::Dialog;
 
@@ -98,8 +99,9 @@ PrinterSetup::PrinterSetup(QWidget* parent) : QDialog(parent)
     all->setContentsMargins(18, 14, 18, 16);
     all->setSpacing(12);
     all->addWidget(FontBox());
-    all->addWidget(FilesBox(), 1);
+    all->addWidget(FilesBox());
     all->addWidget(CopyBox());
+    all->addStretch();
     all->addLayout(buttons);
     QWidget* last = font;
     for (const char* name : {"Command4", "Text2", "Text3", "Command3", "SSMainFilePath", "Text4", "cmdBrowse",
@@ -108,7 +110,7 @@ PrinterSetup::PrinterSetup(QWidget* parent) : QDialog(parent)
         setTabOrder(last, box);
         last = box;
     }
-    resize(600, 570);
+    resize(620, sizeHint().height());
     Show();
     font->setFocus();
 }
@@ -120,16 +122,26 @@ QWidget* PrinterSetup::FontBox()
     connect(font, &QLineEdit::textEdited, this, [](const QString& words) { Dialog.fontText = FromUi(words); });
     adjust = Line("Text2", "Text adjustments");
     adjust->setReadOnly(true); // they are set by the buttons beside the text boxes, and by profiles
-    adjust->setToolTip("Description, well notes, remarks, general notes and soil notes box,\n"
-                       "in steps of the buttons beside them");
+    const QString meaning = "Description, well notes, remarks, general notes and soil notes box,\n"
+                            "in steps of the buttons beside them";
+    adjust->setToolTip(meaning);
+    adjust->setAccessibleDescription(meaning);
     margin = Line("Text3", "Margin offsets in inches, x and y");
     connect(margin, &QLineEdit::textEdited, this, [](const QString& words) { Dialog.marginText = FromUi(words); });
     auto* fontRow = new QHBoxLayout;
+    fontRow->setSpacing(8);
     fontRow->addWidget(font, 1);
     fontRow->addWidget(Button("Command4", "&Choose Font", &PrinterSetup::ChooseFont));
     auto* marginRow = new QHBoxLayout;
+    marginRow->setSpacing(8);
     marginRow->addWidget(margin, 1);
     marginRow->addWidget(Button("Command3", "&Printer Set-Up", &PrinterSetup::PrinterSetUp));
+    // The two buttons one below the other, equally wide.
+    auto* choose = findChild<QPushButton*>("Command4");
+    auto* printer = findChild<QPushButton*>("Command3");
+    const int wide = std::max(choose->sizeHint().width(), printer->sizeHint().width()) + 12;
+    choose->setMinimumWidth(wide);
+    printer->setMinimumWidth(wide);
     auto* form = new QFormLayout(box);
     form->setHorizontalSpacing(16);
     form->setVerticalSpacing(9);
@@ -150,7 +162,7 @@ QWidget* PrinterSetup::FilesBox()
     auto* box = new QGroupBox("System Files", this);
     files = new GridView("SSMainFilePath", frmPrinterSetup::SSMainFilePath, box);
     files->verticalHeader()->setHighlightSections(false);
-    files->setMinimumHeight(7 * files->verticalHeader()->defaultSectionSize() + 2 * files->frameWidth());
+    files->setFixedHeight(7 * files->verticalHeader()->defaultSectionSize() + 2 * files->frameWidth());
     auto* layout = new QVBoxLayout(box);
     layout->setContentsMargins(14, 10, 14, 12);
     layout->addWidget(files);
@@ -185,6 +197,7 @@ QWidget* PrinterSetup::CopyBox()
     auto* browse = Button("cmdBrowse", "&Browse...", &PrinterSetup::Browse);
     auto* layout = new QHBoxLayout(box);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
     layout->addWidget(caption);
     layout->addWidget(copyTo, 1);
     layout->addWidget(browse);

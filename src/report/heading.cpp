@@ -12,7 +12,7 @@ Slots<Text, MaxHeadings> HeadingWords;
 int16_t LegendInUse = 0;
 Slots<int16_t, 4> LegendBoxFill;
 LogoRecord LogoData;
-Grid frmHeading::SSLog(39, 1), frmHeading::SSSections(10, 1), frmHeading::SSGraphics(13, 1);
+Grid frmHeading::SSLog(39, 2), frmHeading::SSSections(10, 2), frmHeading::SSGraphics(13, 2);
 
 // Which slots each grid shows.
 namespace
@@ -61,7 +61,7 @@ try {
         ReadOldForm(in, version);
     for (const HeadingBlock& block : headingBlocks)
         for (int row = 1; row <= block.grid.rows; ++row)
-            block.grid.Cell(row, 1) = HeadingTable[block.firstSlot + row - 1];
+            block.grid.Cell(row, 2) = HeadingTable[block.firstSlot + row - 1];
 } catch (...) {
     ReportFailure(__func__);
 }
@@ -80,7 +80,7 @@ try {
     }
     for (const HeadingBlock& block : headingBlocks)
         for (int row = 1; row <= block.grid.rows; ++row)
-            HeadingTable[block.firstSlot + row - 1] = block.grid.Cell(row, 1);
+            HeadingTable[block.firstSlot + row - 1] = block.grid.Cell(row, 2);
     for (int slot = 31; slot <= 39; ++slot)
         HeadingTable[slot] = UpperCase(HeadingTable[slot]);
     LineWriter out(DialogResult);

@@ -23,7 +23,8 @@ struct LogoRecord {
 };
 extern LogoRecord LogoData; // read anew by getclientlogo; empty where logo.txt is missing
 
-// The heading editor's grids, one word a row: slots 1 to 39, 62 to 71 and 72 to 84.
+// The heading editor's grids: slots 1 to 39, 62 to 71 and 72 to 84, a row each. Column 1 shows the default text as
+// guidance, column 2 is the word. What the editor does is in report/headingedit.h.
 namespace frmHeading
 {
 extern Grid SSLog, SSSections, SSGraphics;

@@ -23,6 +23,9 @@ static void Change(Grid& grid, const std::function<void()>& write)
 {
     const std::vector<Text> before = grid.cells;
     write();
+    for (size_t i = 0; i < before.size(); ++i)
+        if (int(i) % grid.columns < grid.locked)
+            grid.cells[i] = before[i];
     if (grid.cells == before)
         return;
     if (grid.changed)

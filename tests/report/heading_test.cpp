@@ -211,12 +211,12 @@ TEST_CASE("the editor reads 84 slots and shows them in three grids")
     CHECK(HeadingTable[1] == "w1");
     CHECK(HeadingTable[2] == "");
     CHECK(HeadingTable[84] == " w84 ");
-    CHECK(frmHeading::SSLog.Cell(1, 1) == "w1");
-    CHECK(frmHeading::SSLog.Cell(39, 1) == "w39");
-    CHECK(frmHeading::SSSections.Cell(1, 1) == "w62");
-    CHECK(frmHeading::SSSections.Cell(10, 1) == "w71");
-    CHECK(frmHeading::SSGraphics.Cell(1, 1) == "w72");
-    CHECK(frmHeading::SSGraphics.Cell(13, 1) == " w84 ");
+    CHECK(frmHeading::SSLog.Cell(1, 2) == "w1");
+    CHECK(frmHeading::SSLog.Cell(39, 2) == "w39");
+    CHECK(frmHeading::SSSections.Cell(1, 2) == "w62");
+    CHECK(frmHeading::SSSections.Cell(10, 2) == "w71");
+    CHECK(frmHeading::SSGraphics.Cell(1, 2) == "w72");
+    CHECK(frmHeading::SSGraphics.Cell(13, 2) == " w84 ");
 }
 
 TEST_CASE("a heading file comes back as it was but for keywords, which are in upper case")
@@ -245,10 +245,10 @@ TEST_CASE("what is typed into the grids is saved")
     WriteScratch("a.hdg", HeadingText());
     DialogResult = Scratch("a.hdg");
     OpenHeadingFile();
-    frmHeading::SSLog.Cell(1, 1) = "BOHRPROFIL";
-    frmHeading::SSLog.Cell(32, 1) = "f\xFCllung";
-    frmHeading::SSSections.Cell(10, 1) = "Lab";
-    frmHeading::SSGraphics.Cell(1, 1) = "Source";
+    frmHeading::SSLog.Cell(1, 2) = "BOHRPROFIL";
+    frmHeading::SSLog.Cell(32, 2) = "f\xFCllung";
+    frmHeading::SSSections.Cell(10, 2) = "Lab";
+    frmHeading::SSGraphics.Cell(1, 2) = "Source";
     SaveHeadingFile();
     OpenHeadingFile();
     CHECK(HeadingTable[1] == "BOHRPROFIL");
@@ -262,7 +262,7 @@ TEST_CASE("a table with six or more blanks among its first twenty is not saved, 
     const Text refusal = "There are too many blank cells.  Before creating a heading file, you should open an existing "
                          "heading file, make changes, and then 'Save As' a different filename.";
     for (int row = 1; row <= 39; ++row)
-        frmHeading::SSLog.Cell(row, 1) = "typed";
+        frmHeading::SSLog.Cell(row, 2) = "typed";
     DialogResult = Scratch("a.hdg");
     SaveHeadingFile();
     CheckOneMessage(refusal);

@@ -3,9 +3,11 @@
 
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
+#include "boring/boringfile.h"
 #include "canvas/pageobjects.h"
 #include "editors/borinput.h"
 #include "platform/qt/gridview.h"
+#include "platform/qt/livepane.h"
 #include "platform/qt/memoview.h"
 #include "platform/qt/uitext.h"
 #include "session/linebreaks.h"
@@ -17,6 +19,7 @@
 #include <QComboBox>
 #include <QDragEnterEvent>
 #include <QElapsedTimer>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -367,7 +370,7 @@ static void TypeLine(QWidget* line, const char* text)
 static void SaveAs(QMainWindow* log, const char* name, const char* button = nullptr)
 {
     Then("frmOpenSave", [name](QWidget* window) {
-        auto* box = window->findChild<QLineEdit*>("fileNameEdit");
+        auto* box = window->findChild<QLineEdit*>("fileText");
         REQUIRE(box);
         box->clear();
         QTest::keyClicks(box, name);
@@ -497,7 +500,7 @@ TEST_CASE("a typed change after Open: No asks again in New's words, and a Cancel
     TypeText("stays\n");
     ThenAnswer("Would you like to save the current file before opening another file?", "No");
     Then("frmOpenSave", [](QWidget* window) {
-        auto* box = window->findChild<QLineEdit*>("fileNameEdit");
+        auto* box = window->findChild<QLineEdit*>("fileText");
         box->setText("TC-103.BOR");
         Key(box, Qt::Key_Return);
     });
@@ -540,7 +543,8 @@ TEST_CASE("a boring dropped on the window opens, on a text box too; other files 
     CHECK_FALSE(drop(log, Scratch("us.hdg")));
     CHECK(drop(log, Scratch("samples/TC-103.BOR")));
     CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-103");
-    CHECK_FALSE(drop(static_cast<QPlainTextEdit*>(Bring(log, "MemoDes"))->viewport(), Scratch("samples/TC-101.BOR")));
+    CHECK(drop(static_cast<QPlainTextEdit*>(Bring(log, "MemoDes"))->viewport(), Scratch("samples/TC-101.BOR")));
+    CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-101");
 }
 
 TEST_CASE("every entry of the menu is there; those that need a tool which is not there are disabled")
@@ -609,6 +613,133 @@ TEST_CASE("Tab goes through the cells and out behind the last one, F6 out at onc
     ClickCell(log, "SSLith", 1, 1);
     Press(Qt::Key_F6);
     CHECK(QApplication::focusWidget()->objectName() == "MemoDes");
+}
+
+TEST_CASE("the page beside the boxes follows what is typed, and a click on a layer leads to its row")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-101.BOR");
+    ClickMenu(log, "mnuView", "mnuLivePreview");
+    auto* pane = static_cast<LivePane*>(Find<QWidget>(log, "LivePage"));
+    Settle(300);
+    REQUIRE(pane->Shown().List.Objects.size() > 100);
+    CHECK(Find<QLabel>(log, "lblLivePage")->text() == "Page 1 of 3");
+    CHECK(PageList.Objects.empty());
+    CHECK(FileChanged == 0);
+    const std::string onDisk = ReadScratch("samples/TC-101.BOR");
+    const auto holds = [pane](const char* words) {
+        for (const PageObject& object : pane->Shown().List.Objects)
+            if (object.String.find(words) != Text::npos)
+                return true;
+        return false;
+    };
+    CHECK_FALSE(holds("purple"));
+    auto* view = static_cast<QPlainTextEdit*>(Bring(log, "MemoDes"));
+    Click(view->viewport());
+    Press(Qt::Key_Home, Qt::ControlModifier);
+    Press(Qt::Key_Down);
+    TypeText("purple ");
+    Settle(300);
+    CHECK(holds("purple"));
+    CHECK(ReadScratch("samples/TC-101.BOR") == onDisk);
+    CHECK(BoringFileName == Scratch("samples/TC-101.BOR"));
+    CHECK(FileChanged == 1);
+    Picture(log, "live");
+    // Layer 3 ends at 11.5 feet, layer 2 at 7: a point between them.
+    const LivePage& page = pane->Shown();
+    const double y = page.Top + 9 * page.UnitsPerDepth;
+    Bring(log, "SSLegend");
+    QTest::mouseClick(
+        pane, Qt::LeftButton, {},
+        QPointF(pane->Sheet().center().x(), pane->Sheet().top() + y * pane->Sheet().height() / page.List.ExtentHeight)
+            .toPoint());
+    CHECK(frmBorinput::SSLith.row == 3);
+    CHECK(Find<QTabWidget>(log, "SSTab1")->currentIndex() == 1);
+    ClickButton(log, "cmdLiveNext");
+    CHECK(Find<QLabel>(log, "lblLivePage")->text() == "Page 2 of 3");
+    ClickMenu(log, "mnuView", "mnuLivePreview");
+    CHECK_FALSE(pane->isVisible());
+}
+
+TEST_CASE("a column that the user has made wider keeps its width over Open and over a new start")
+{
+    QMainWindow* log = LogWindow();
+    auto* grid = static_cast<QTableView*>(Bring(log, "SSSamp"));
+    const int x = grid->horizontalHeader()->sectionViewportPosition(1) - 1;
+    QWidget* header = grid->horizontalHeader()->viewport();
+    QTest::mousePress(header, Qt::LeftButton, {}, QPoint(x, 8));
+    QTest::mouseMove(header, QPoint(x + 30, 8));
+    QTest::mouseMove(header, QPoint(x + 83, 8));
+    QTest::mouseRelease(header, Qt::LeftButton, {}, QPoint(x + 83, 8));
+    const int width = grid->columnWidth(0);
+    CHECK(width > 120);
+    OpenSample("TC-103.BOR");
+    CHECK(grid->columnWidth(0) == width);
+    Settle(400);
+    for (const auto& file : std::filesystem::directory_iterator(ScratchFolder())) // the next start brings its own
+        if (file.path().filename() != "Stratavue")
+            std::filesystem::remove_all(file.path());
+    log = LogWindow();
+    CHECK(Find<QTableView>(log, "SSSamp")->columnWidth(0) == width);
+}
+
+TEST_CASE("a large boring opens in a fifth of a second")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-101.BOR");
+    for (int row = 1; row <= 100; ++row) {
+        frmBorinput::SSLith.Cell(row, 1) = PlainNumber(row);
+        frmBorinput::SSLith.Cell(row, 2) = "CL";
+    }
+    for (int row = 1; row <= 80; ++row)
+        for (int column = 1; column <= 21; ++column)
+            frmBorinput::SSSamp.Cell(row, column) = PlainNumber(row + column);
+    frmBorinput::MemoDes.text.clear();
+    for (int i = 0; i < 1000; ++i)
+        frmBorinput::MemoDes.text += "Brown silty CLAY, stiff, with gravel\r\n";
+    BoringFileName = Scratch("LARGE.BOR");
+    SaveBoringFile();
+    OpenSample("TC-103.BOR");
+    CHECK(frmBorinput::MemoDes.text.size() < 5000);
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(ToUi(Scratch("LARGE.BOR")))});
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(log, &enter);
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(log, &drop);
+    QElapsedTimer clock;
+    clock.start();
+    QApplication::processEvents();
+    const double ms = double(clock.nsecsElapsed()) / 1e6;
+    CHECK(frmBorinput::SSLith.Cell(100, 1) == "100");
+    CHECK(BoringData.DesCount == 1000);
+    MESSAGE("opened in " << ms << " ms");
+    CHECK(ms < 200);
+}
+
+TEST_CASE("the Tab key's way goes from field to field as a boring is typed in, and every field has a name")
+{
+    QMainWindow* log = LogWindow();
+    QStringList way;
+    auto* first = Find<QWidget>(log, "Text1");
+    QWidget* at = first;
+    do {
+        const QString name = at->objectName();
+        const bool field = name.startsWith("SS") || name.startsWith("Memo") || name.startsWith("Text") ||
+                           name.startsWith("List") || name.startsWith("txt") || name.startsWith("cmdAdj") ||
+                           name.startsWith("cmb");
+        if (field && name != "SSTab1" && at->focusPolicy() & Qt::TabFocus) {
+            way << name;
+            CAPTURE(name.toStdString());
+            CHECK_FALSE(at->accessibleName().isEmpty());
+        }
+        at = at->nextInFocusChain();
+    } while (at != first);
+    CHECK(
+        way.join(' ').toStdString() ==
+        "Text1 Text2 cmbLayFile txtClient SSInfo SSScale SSRepParts SSLith MemoDes cmdAdj1 cmdAdj2 List1 List2 List3 "
+        "List4 SSFormations SSSamp SSP1Setup SSPar SSP2Setup SSGenWellInfo SSOuterLay SSInnerLay SSW MemoWcon cmdAdj3 "
+        "cmdAdj4 MemoRemarks cmdAdj5 cmdAdj6 MemoBottNotes cmdAdj7 cmdAdj8 SSCuttings SSLegend");
 }
 
 TEST_CASE("pictures of the tabs")

@@ -2,10 +2,12 @@
 #include "boring/boringboxes.h"
 #include "boring/opensave.h"
 #include "boring/projectlist.h"
+#include "platform/qt/application.h"
 #include "platform/qt/windows.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"
+#include "session/startup.h"
 #include "windows/driver.h"
 
 #include <QApplication>
@@ -139,7 +141,9 @@ TEST_CASE("the version list is there in mode 1 alone, with the newest form marke
         auto* versions = Find<QListWidget>(window, "List1");
         CHECK(versions->count() == 3);
         CHECK(versions->currentItem()->text() == "Version 4.6/5.0");
+        CHECK(Find<QLabel>(window, "lblPattern")->text() == "&Files (*.BOR):");
         QTest::mouseClick(versions->viewport(), Qt::LeftButton, {}, MiddleOf(versions, "Version 3.0"));
+        CHECK(Find<QLabel>(window, "lblPattern")->text() == "&Files (*.SV3):");
         auto* files = Find<QListWidget>(window, "File1");
         CHECK(files->count() == 1);
         CHECK(files->item(0)->text() == "OLD.SV3");
@@ -283,6 +287,26 @@ TEST_CASE("Edit Project List opens its editor, and the grid shows what was edite
     });
     ShowOpenSave();
     CheckAllDone();
+}
+
+static int endedWith;
+
+TEST_CASE("a project list that ends early ends the start: the number, then status 1")
+{
+    UseDesktop();
+    endedWith = 0;
+    void (*const before)(int) = EndAtOnce;
+    EndAtOnce = [](int status) { endedWith = status; };
+    WriteScratch("device.cfg", Lines({ScratchFolder(), "0,0", "Arial"}));
+    WriteScratch("first.txt", "yes");
+    WriteScratch("svproj.lst", " 2 \r\n");
+    ThenAnswer("Run-time error 62", "OK");
+    Then("frmAbout5", Click);
+    Main();
+    CheckAllDone();
+    EndAtOnce = before;
+    CHECK(endedWith == 1);
+    CHECK_FALSE(StartDone);
 }
 
 TEST_CASE("Help of the chooser, by its button and by F1")

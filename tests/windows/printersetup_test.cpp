@@ -141,6 +141,18 @@ TEST_CASE("the font dialog that is cancelled leaves the adjustments; its OK sets
     CHECK(DeviceConfig.TextAdjust[1] == 0);
 }
 
+TEST_CASE("Graphics Setup of the batch dialog opens the set-up window")
+{
+    QMainWindow* log = LogWindow();
+    Then("frmDrawPrint", [](QWidget* window) {
+        ClickButton(window, "Command4");
+        Key(window, Qt::Key_Escape);
+    });
+    Then("frmPrinterSetup", [](QWidget* window) { Key(window, Qt::Key_Escape); });
+    ClickMenu(log, "mnuFile", "mnuBatchDraw");
+    CheckAllDone();
+}
+
 TEST_CASE("a profile is saved and opened by the window's own menu, through the chooser")
 {
     QMainWindow* log = LogWindow();

@@ -7,8 +7,8 @@
 #include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QSettings>
 #include <QStyledItemDelegate>
-#include <QTimer>
 #include <algorithm>
 
 // The record as Qt's tables ask for it. Rows and columns of the record count from 1.
@@ -55,7 +55,8 @@ public:
     }
     Qt::ItemFlags flags(const QModelIndex& index) const override
     {
-        return QAbstractTableModel::flags(index) | Qt::ItemIsEditable;
+        const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+        return index.column() < grid.locked ? flags : flags | Qt::ItemIsEditable;
     }
     QVariant data(const QModelIndex& index, int role) const override
     {
@@ -163,13 +164,25 @@ GridView::GridView(const char* name, Grid& shown, QWidget* parent) : QTableView(
     if (shown.columns == 1)
         horizontalHeader()->hide();
     widthSet.assign(size_t(shown.columns), false);
+    keepSoon.setSingleShot(true);
+    keepSoon.setInterval(300);
+    connect(&keepSoon, &QTimer::timeout, this, &GridView::KeepWidths);
     horizontalHeader()->setStretchLastSection(shown.columns <= 5);
     Refresh();
+    // Widths that the user has set in an earlier session.
+    const QVariantList kept = QSettings("Stratavue", "Stratavue").value("columns/" + objectName()).toList();
+    for (int column = 0; column < grid.columns && column < kept.size(); ++column)
+        if (const int width = kept[column].toInt(); width > 0) {
+            setColumnWidth(column, width);
+            widthSet[size_t(column)] = true;
+        }
     Fit();
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int, int) {
         const bool stretched = grid.columns <= 5 && column == grid.columns - 1;
-        if (!fitting && !stretched)
-            widthSet[size_t(column)] = true;
+        if (fitting || stretched)
+            return;
+        widthSet[size_t(column)] = true;
+        keepSoon.start();
     });
 }
 
@@ -197,6 +210,15 @@ void GridView::Fit()
             setColumnWidth(column, std::clamp(wanted, 62, 260));
     }
     fitting = false;
+}
+
+// The widths that are the user's own, for the next session; 0 for the others.
+void GridView::KeepWidths() const
+{
+    QVariantList widths;
+    for (int column = 0; column < grid.columns; ++column)
+        widths << (widthSet[size_t(column)] ? columnWidth(column) : 0);
+    QSettings("Stratavue", "Stratavue").setValue("columns/" + objectName(), widths);
 }
 
 QSize GridView::sizeHint() const

@@ -5,6 +5,7 @@
 #include "session/controls.h"
 
 #include <QTableView>
+#include <QTimer>
 #include <functional>
 
 class GridModel;
@@ -30,11 +31,13 @@ private:
     void Done(); // a procedure has worked on the record
     void Step(int rows, int columns);
     void TakeSelection();
+    void KeepWidths() const;
 
     Grid& grid;
     GridModel* model;
     bool showing = false; // the view follows the record, not the user
     bool fitting = false;
     bool up = false;            // an edit has ended by the arrow up
+    QTimer keepSoon;            // while a column is dragged its width changes at every step
     std::vector<bool> widthSet; // columns whose width is the user's own
 };

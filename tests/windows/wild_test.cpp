@@ -1,0 +1,118 @@
+// wild_test.cpp -- the log tool's window under events that nobody planned: it must neither fail nor write.
+#include "windows/driver.h"
+
+#include "session/session.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+#include <cstdlib>
+#include <filesystem>
+#include <map>
+
+static unsigned seed;
+
+static int Random(int below)
+{
+    seed = seed * 1664525u + 1013904223u;
+    return int((seed >> 8) % unsigned(below));
+}
+
+// Whatever blocks is answered somehow. A failure that a box tells of is kept.
+static void AnswerAnything(QStringList& told)
+{
+    QWidget* front = QApplication::activeModalWidget();
+    if (!front)
+        return;
+    if (auto* box = qobject_cast<QMessageBox*>(front)) {
+        told << box->text();
+        const QList<QAbstractButton*> buttons = box->buttons();
+        buttons[Random(int(buttons.size()))]->click();
+    } else if (auto* dialog = qobject_cast<QDialog*>(front)) {
+        dialog->reject();
+    } else {
+        front->close();
+    }
+}
+
+static std::map<std::string, std::string> FilesOf(const Text& folder)
+{
+    std::map<std::string, std::string> files;
+    for (const auto& file : std::filesystem::directory_iterator(folder))
+        if (file.is_regular_file())
+            files[file.path().filename()] = ReadScratch("samples/" + file.path().filename().string());
+    return files;
+}
+
+TEST_CASE("random clicks, keys and menu entries end with no failure, and write no file that was not saved")
+{
+    const char* asked = std::getenv("STRATAVUE_WILD");
+    const int rounds = asked ? std::atoi(asked) : 3;
+    for (int round = 0; round < rounds; ++round) {
+        seed = unsigned(round) * 7919u + 17u;
+        CAPTURE(round);
+        std::filesystem::remove_all(ScratchFolder());
+        std::filesystem::create_directories(ScratchFolder());
+        QMainWindow* log = LogWindow();
+        OpenSample(round % 2 ? "TC-101.BOR" : "MW-108.BOR");
+        const auto before = FilesOf(Scratch("samples"));
+        QStringList told;
+        QTimer answers;
+        QObject::connect(&answers, &QTimer::timeout, [&told] { AnswerAnything(told); });
+        answers.start(1);
+        auto* tabs = Find<QTabWidget>(log, "SSTab1");
+        const char* const entries[] = {"mnuUndo",      "mnuRedo",      "mnuCut",         "mnuCopy",  "mnuPaste",
+                                       "mnuInsertRow", "mnuDeleteRow", "mnuFillDown",    "mnuNew",   "mnuImport",
+                                       "mnuOpen",      "mnuRecent1",   "mnuLivePreview", "mnuSaveAs"};
+        const Qt::Key keys[] = {Qt::Key_Return,    Qt::Key_Tab, Qt::Key_Delete, Qt::Key_F2,
+                                Qt::Key_Escape,    Qt::Key_Up,  Qt::Key_Down,   Qt::Key_Left,
+                                Qt::Key_Backspace, Qt::Key_End, Qt::Key_Home,   Qt::Key_F6};
+        for (int i = 0; i < 300; ++i) {
+            QWidget* focus = QApplication::focusWidget();
+            switch (Random(8)) {
+            case 0: {
+                tabs->setCurrentIndex(Random(tabs->count()));
+                QList<QWidget*> boxes = tabs->currentWidget()->findChildren<QWidget*>();
+                QWidget* box = boxes[Random(int(boxes.size()))];
+                if (box->isVisible())
+                    QTest::mouseClick(box, Qt::LeftButton, {},
+                                      QPoint(Random(box->width() + 1), Random(box->height() + 1)));
+                break;
+            }
+            case 1:
+                if (auto* action = log->findChild<QAction*>(entries[Random(int(std::size(entries)))]))
+                    action->trigger();
+                break;
+            case 2:
+            case 3:
+                if (focus)
+                    QTest::keyClick(focus, keys[Random(int(std::size(keys)))],
+                                    Random(4) == 0 ? Qt::ShiftModifier : Qt::NoModifier);
+                break;
+            default:
+                if (focus)
+                    for (int n = Random(6); n >= 0 && QApplication::focusWidget(); --n)
+                        QTest::keyClick(QApplication::focusWidget(), char(' ' + Random(95)));
+            }
+            QApplication::processEvents();
+        }
+        answers.stop();
+        // No Save was given, and a Save that a question brought had the open boring's name.
+        auto after = FilesOf(Scratch("samples"));
+        for (const auto& [name, bytes] : before)
+            if (name != "TC-101.BOR" && name != "MW-108.BOR")
+                CHECK(after[name] == bytes);
+        CHECK(after.size() == before.size());
+        for (const QString& words : told) {
+            CAPTURE(words.toStdString());
+            CHECK_FALSE(words.startsWith("Error "));
+            CHECK_FALSE(words.startsWith("Run-time error"));
+        }
+    }
+}
