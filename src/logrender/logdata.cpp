@@ -381,6 +381,10 @@ try {
     SetProgress(b.LegendCount + 2);
 } catch (...) {
     ReportFailure(__func__);
+    // What was read is drawn all the same: of a list too long, the rows that have a place.
+    LogBoring.WellInfoCount = std::min(LogBoring.WellInfoCount, MaxWellInfo);
+    LogBoring.WellNoteCount = std::min(LogBoring.WellNoteCount, MaxWellNotes);
+    LogBoring.LegendCount = std::min(LogBoring.LegendCount, MaxLegend);
 }
 
 // ---- The page

@@ -8,6 +8,7 @@
 #include "canvas/pageobjects.h"
 #include "canvas/screenview.h"
 #include "logrender/boringtext.h"
+#include "logrender/intropage.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
 #include "session/files.h"
@@ -83,6 +84,38 @@ TEST_CASE("a damaged boring file draws its pages or says why not, in known words
     RunMutants(ReadWholeFile(TestData("boring/whole.BOR")), 1, count);
     const int silent = RunMutants(ReadWholeFile(Text(SOURCE_DIR) + "/samples/TC-101.BOR"), 1000001, count);
     // Some damage is told, and some draws as if nothing were amiss: else the mutants miss their point.
+    CHECK(silent > count / 10);
+    CHECK(silent < count);
+}
+
+TEST_CASE("a damaged boring file draws its intro page or says why not, in known words")
+{
+    static int pages;
+    pages = 0;
+    WriteHeadings();
+    Platform.Unattended = true;
+    Platform.PageDrawn = [] { ++pages; };
+    WriteScratch("log.mas", Lines({"1", "B.BOR"}));
+    const std::string boring = ReadWholeFile(Text(SOURCE_DIR) + "/samples/MW-108.BOR");
+    const int count = MutantCount(200);
+    int silent = 0;
+    for (int seed = 1; seed <= count; ++seed) {
+        INFO("seed ", seed);
+        WriteWholeFile(Scratch("B.BOR"), Mutate(boring, uint64_t(seed)), Durability::Scratch);
+        Messages.clear();
+        PageCanvas = CanvasRecord();
+        PageList = PageListRecord();
+        introType = static_cast<int16_t>(1 + seed % 2);
+        VLOG::vlogintrostart();
+        CHECK(RunPages.pageIndex == 2);
+        CHECK(Messages.size() <= 1);
+        if (Messages.empty())
+            ++silent;
+        for (const PlainMessage& message : Messages)
+            if (!Known(message.words))
+                FAIL_CHECK(message.words.substr(0, 200));
+    }
+    CHECK(pages > count / 2);
     CHECK(silent > count / 10);
     CHECK(silent < count);
 }

@@ -360,7 +360,7 @@ TEST_CASE("a boring that fails to be read is told once and has a page with what 
     CHECK(Holds(Listings[1], "\"text\": \"First\""));
 }
 
-TEST_CASE("a legend with more rows than it has places for is a failure in the reading")
+TEST_CASE("a legend with more rows than it has places for is told, and the rows that have one are drawn")
 {
     BoringText boring = StartRun();
     boring.Legend = BoringText::Rows(31, {"GW", "Gravel"});
@@ -369,6 +369,11 @@ TEST_CASE("a legend with more rows than it has places for is a failure in the re
     VLOG::vlogintrostart();
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "Error 9 in getintrodata.  Please contact Norvane");
+    REQUIRE(Listings.size() == 1);
+    size_t rows = 0;
+    for (size_t at = 0; (at = Listings[0].find("\"Gravel\"", at)) != std::string::npos; ++at)
+        ++rows;
+    CHECK(rows == 30);
 }
 
 TEST_CASE("a list that is not there is told, and no page of the run before is drawn")

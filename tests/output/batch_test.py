@@ -192,6 +192,22 @@ class Batch(unittest.TestCase):
                 with open(self.path(f"{i}.{ending}"), "rb") as file:
                     self.assertEqual(file.read(), alone)
 
+    def test_intro_pages_are_one_page_a_boring_in_the_arrangement_asked_for(self):
+        names = {}
+        for arrangement in ("1", "2"):
+            done = self.run_batch("intro", "--type", arrangement, "--pdf", "a.pdf", "--list", "a.jsonl",
+                                  sample("MW-108.BOR"), sample("TC-101.BOR"))
+            self.assertEqual(done.stderr, "")
+            pages = listing(self.path("a.jsonl"))
+            self.assertEqual([page[0]["source"] for page in pages], ["MW-108.BOR", "TC-101.BOR"])
+            info = subprocess.run(["pdfinfo", self.path("a.pdf")], capture_output=True, text=True).stdout
+            self.assertIn("Pages:           2\n", info)
+            for page in pages:
+                self.assertIn(" PROJECT MAP ", texts(page))
+                self.assertIn("LEGEND:", texts(page))
+            names[arrangement] = [item["x"] for item in pages[0][1] if item.get("text") == "MW-108"]
+        self.assertEqual(names, {"1": [420], "2": [2970]})
+
     def test_the_guide_is_one_page_with_all_patterns(self):
         done = self.run_batch("guide", "--pdf", "g.pdf", "--png", "png", "--list", "g.jsonl")
         self.assertEqual(done.stderr, "")

@@ -1,5 +1,6 @@
 // batchdialog_test.cpp -- the batch dialog and the progress of a run.
 #include "canvas/batch.h"
+#include "canvas/pagelisting.h"
 #include "canvas/screenview.h"
 #include "platform/qt/windows.h"
 #include "session/files.h"
@@ -40,10 +41,10 @@ TEST_CASE("Select All marks every file and stays checked until another folder is
     Then("frmDrawPrint", [](QWidget* window) {
         auto* files = Find<QListWidget>(window, "File1");
         auto* all = Find<QRadioButton>(window, "Option1");
-        CHECK(files->count() == 8);
+        CHECK(files->count() == 10);
         CHECK(files->selectedItems().isEmpty());
         Click(all);
-        CHECK(files->selectedItems().size() == 8);
+        CHECK(files->selectedItems().size() == 10);
         CHECK(all->isChecked());
         Click(all);
         CHECK(all->isChecked());
@@ -104,6 +105,40 @@ TEST_CASE("the page number asked for is the page that is drawn")
     });
     ClickMenu(log, "mnuFile", "mnuBatchDraw");
     CheckAllDone();
+}
+
+// Draws the intro page of a sample with this option of the report choice.
+static void DrawIntroPage(const char* option, int arrangement)
+{
+    QMainWindow* log = LogWindow();
+    Then("frmDrawPrint", [option](QWidget* window) {
+        auto* choice = Find<QRadioButton>(window, option);
+        CHECK(choice->isEnabled());
+        Click(choice);
+        auto* files = Find<QListWidget>(window, "File1");
+        files->findItems("MW-108.BOR", Qt::MatchExactly).first()->setSelected(true);
+        ClickButton(window, "Command1");
+    });
+    Then("DrawArea", [arrangement](QWidget* window) {
+        CHECK(introType == arrangement);
+        CHECK(window->findChild<QLabel*>("lblPage")->text() == "Page 1 of 1");
+        const std::string page = PageListing(1, RunPages.pageFile);
+        CHECK(page.find("\"text\": \" PROJECT MAP \"") != std::string::npos);
+        CHECK(page.find("\"text\": \"LEGEND:\"") != std::string::npos);
+        ClickMenu(window, "mnuFile", "mnuExit");
+    });
+    ClickMenu(log, "mnuFile", "mnuBatchDraw");
+    CheckAllDone();
+}
+
+TEST_CASE("the report choice draws the first intro page")
+{
+    DrawIntroPage("OptionIntro", 1);
+}
+
+TEST_CASE("the report choice draws the second intro page")
+{
+    DrawIntroPage("OptionIntro2", 2);
 }
 
 TEST_CASE("jobs above 2 have a short dialog with neither pages nor report choice")
