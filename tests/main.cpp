@@ -5,6 +5,8 @@
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
+#include "boring/opensave.h"
+#include "boring/projectlist.h"
 #include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
@@ -12,8 +14,10 @@
 #include "canvas/screenview.h"
 #include "editors/borinput.h"
 #include "logrender/logdata.h"
+#include "report/fontprofile.h"
 #include "report/heading.h"
 #include "report/layout.h"
+#include "report/logo.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -77,6 +81,7 @@ static void EmptyBoxes()
                        &SSOuterLay, &SSInnerLay, &SSW, &SSCuttings, &SSFormations, &SSLegend, &frmHeading::SSLog,
                        &frmHeading::SSSections, &frmHeading::SSGraphics}) {
         grid->Clear();
+        grid->fontName.clear();
         grid->headings.assign(grid->headings.size(), "");
         grid->row = grid->column = 1;
         grid->selected = {};
@@ -93,6 +98,7 @@ static void EmptyBoxes()
     List = {};
     LayFiles.clear();
     Commands = {};
+    Text1Font = txtClientFont = "";
     Check1 = NarrowNotes = false;
     Option = 0;
 }
@@ -117,6 +123,19 @@ struct Fresh : doctest::IReporter {
         LineBuffer = {};
         BoringData = BoringRecord();
         EmptyBoxes();
+        ProjectList = {};
+        ProjectCount = 0;
+        frmProjEdit::SS.Clear();
+        frmOpenSave::Dialog = frmOpenSave::Record();
+        frmOpenSave::SS.Clear();
+        frmOpenSave::HiddenFolder = "";
+        frmOpenSave::HiddenFiles.clear();
+        frmCross::Title = frmFence::Title = frmSoil::Title = "";
+        frmPrinterSetup::Dialog = frmPrinterSetup::Record();
+        frmPrinterSetup::SSMainFilePath.Clear();
+        SetupChange = SetupChangeRecord();
+        CopyDestination = "a:\\";
+        frmLogo::Dialog = frmLogo::Record();
         std::fill(std::begin(OlderForms), std::end(OlderForms), nullptr);
         HeadingTable = {};
         HeadingWords = {};

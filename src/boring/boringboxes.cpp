@@ -15,6 +15,7 @@ Memo MemoDes{"", 4205, 1550}, MemoWcon{"", 3249, 1750}, MemoRemarks{"", 2223, 17
 Text txtClient;
 Text Text1, Text2;
 Text cmbLayFile;
+Text Text1Font, txtClientFont;
 bool Check1 = false;
 int Option = 0;
 Text lblWidthtot;

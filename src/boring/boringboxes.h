@@ -13,13 +13,14 @@ extern Memo MemoDes, MemoWcon, MemoRemarks, MemoBottNotes;
 extern Text txtClient;    // CR LF line ends
 extern Text Text1, Text2; // boring name, map file
 extern Text cmbLayFile;
+extern Text Text1Font, txtClientFont;    // of boxes that are plain texts; "" as designed
 extern bool Check1;                      // draft
 extern int Option;                       // 1 to 4 as Option1 to Option4, 0 none
 extern Text lblWidthtot;                 // total width of the report parts, as "6.35/6.8"
 extern bool NarrowNotes;                 // the last layout that said so has the general notes in their narrow form
 extern Text Title;                       // of the window
 extern Slots<std::vector<Text>, 4> List; // List1 to List4: description items to click into the description
-extern std::vector<Text> LayFiles;       // the list of cmbLayFile: layout files by their bare names
+extern std::vector<Text> LayFiles;       // the list of cmbLayFile: layout files by their bare names, by getfilelist
 Grid* BoxGrid(int activeBox);            // the grid of that number; null for the text boxes and for 0
 } // namespace frmBorinput
 

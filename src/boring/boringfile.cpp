@@ -7,6 +7,7 @@
 // The scale is checked in boringcheck.cpp; forms before 5 have readers of their own.
 #include "boring/boringfile.h"
 
+#include "boring/boringblocks.h"
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/textlines.h"
@@ -19,49 +20,6 @@
 void (*OlderForms[3])() = {};
 
 // ---------------------------------------------------------------------------------------------------- reading
-
-template <int Rows>
-static void ReadLines(LineReader& in, Slots<Text, Rows>& lines, int count = Rows)
-{
-    for (int row = 1; row <= count; ++row)
-        lines[row] = in.Line();
-}
-
-template <int Rows, int Columns>
-static void ReadCells(LineReader& in, TextTable<Rows, Columns>& table, int count = Rows, int columns = Columns)
-{
-    for (int row = 1; row <= count; ++row)
-        for (int column = 1; column <= columns; ++column)
-            table[row][column] = in.Line();
-}
-
-// A count line. What is left in the record is at most its bound, although the rows are read as far as the file says:
-// the first one over the bound has no slot and ends the reading.
-static int ReadCount(LineReader& in, int32_t& count, int bound)
-{
-    const int told = in.Count();
-    count = std::min(told, bound);
-    return told;
-}
-
-template <int Rows>
-static void ReadBlock(LineReader& in, Slots<Text, Rows>& lines, int32_t& count)
-{
-    const int told = ReadCount(in, count, Rows);
-    for (int row = 1; row <= count; ++row)
-        lines[row].clear(); // so that rows missing at an early end of the file are empty
-    ReadLines(in, lines, told);
-}
-
-template <int Rows, int Columns>
-static void ReadBlock(LineReader& in, TextTable<Rows, Columns>& table, int32_t& count, int columns = Columns)
-{
-    const int told = ReadCount(in, count, Rows);
-    for (int row = 1; row <= count; ++row)
-        for (int column = 1; column <= columns; ++column)
-            table[row][column].clear();
-    ReadCells(in, table, told, columns);
-}
 
 static void ReadReportParts(LineReader& in)
 {
@@ -307,17 +265,18 @@ static void CheckMarkerBounds()
     }
 }
 
-static void TakeBottNotes()
+static void TakeBottNotes(bool checked)
 {
     Text2Wrap32(5);
-    if (LineCount > MaxBottNotes)
+    if (checked && LineCount > MaxBottNotes)
         MsgBox("Your general notes exceed 10 lines.  Only the first 10 lines will be saved.", OkOnly, Exclamation);
     for (int i = 1; i <= MaxBottNotes; ++i)
         BoringData.BottNotes[i] = i <= LineCount ? LineBuffer[i] : "";
 }
 
-// The boxes into the record. False: refused, and a box has told why.
-static bool TakeBoxes()
+// The boxes into the record. False: refused, and a box has told why. Unchecked, nothing is told and nothing refused; a
+// text of more lines than the record holds is failure 9 then.
+static bool TakeBoxes(bool checked)
 {
     BoringData.Name = frmBorinput::Text1;
     BoringData.MapFile = frmBorinput::Text2;
@@ -339,10 +298,12 @@ static bool TakeBoxes()
             BoringData.Lith[row][column] = UpperCase(BoringData.Lith[row][column]);
     Text2Wrap32(1);
     // Text2Wrap32 hands over no more than there is room for; a breaker that did would be caught here.
-    if (TooManyLines("descriptions", MaxDes))
+    if (checked && TooManyLines("descriptions", MaxDes))
         return false;
-    CheckMarkerOrder();
-    CheckMarkerBounds();
+    if (checked) {
+        CheckMarkerOrder();
+        CheckMarkerBounds();
+    }
     TakeLineBuffer(BoringData.Des, BoringData.DesCount);
     TakeList(BoringData.Params, BoringData.ParamCount, frmBorinput::SSPar);
     TakeColumn(BoringData.GenWell, frmBorinput::SSGenWellInfo);
@@ -350,14 +311,14 @@ static bool TakeBoxes()
     TakeList(BoringData.InnerLayers, BoringData.InnerLayerCount, frmBorinput::SSInnerLay);
     TakeList(BoringData.WellInfo, BoringData.WellInfoCount, frmBorinput::SSW);
     Text2Wrap32(2);
-    if (TooManyLines("notes", MaxWellNotes))
+    if (checked && TooManyLines("notes", MaxWellNotes))
         return false;
     TakeLineBuffer(BoringData.WellNotes, BoringData.WellNoteCount);
     Text2Wrap32(3);
-    if (TooManyLines("remarks", MaxRemarks))
+    if (checked && TooManyLines("remarks", MaxRemarks))
         return false;
     TakeLineBuffer(BoringData.Remarks, BoringData.RemarkCount);
-    TakeBottNotes();
+    TakeBottNotes(checked);
     TakeList(BoringData.Cuttings, BoringData.CuttingCount, frmBorinput::SSCuttings);
     TakeList(BoringData.Formations, BoringData.FormationCount, frmBorinput::SSFormations);
     TakeList(BoringData.Legend, BoringData.LegendCount, frmBorinput::SSLegend);
@@ -370,9 +331,14 @@ static bool TakeBoxes()
     return true;
 }
 
+void TakeBoringBoxes()
+{
+    TakeBoxes(false);
+}
+
 void SaveBoringFile()
 try {
-    if (!TakeBoxes())
+    if (!TakeBoxes(true))
         return;
     while (BoringData.RepPartCount > 0 && IsBlank(BoringData.RepParts[BoringData.RepPartCount].Item))
         --BoringData.RepPartCount;

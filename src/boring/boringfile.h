@@ -5,6 +5,7 @@
 
 void OpenBoringFile2();                      // BoringFileName into BoringData, which has just been cleared
 void SaveBoringFile();                       // the boxes into BoringData, and that into BoringFileName, atomically
+void TakeBoringBoxes();                      // the boxes into BoringData as for a save, unchecked; failures by number
 void boringcheck();                          // warns about the scale; changes nothing and blocks nothing
 void WriteConvertedBoring(const Text& name); // BoringData as it is, no boxes and no checks
 

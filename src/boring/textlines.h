@@ -5,6 +5,7 @@
 #pragma once
 
 #include "session/linebreaks.h"
+#include "session/session.h"
 
 // The lines of a text box in LineBuffer, at most 1000, with the paragraph mark where a paragraph ends; LineCount is
 // their number. kind 1 description, 2 well notes, 3 remarks, 4 soil notes, any other the general notes.
@@ -13,6 +14,22 @@ void Text2Wrap32(int kind);
 // The text cut at CR LF into LineBuffer, up to 400 lines; LineCount counts those beyond too. Blank lines at the end
 // are not counted when there are 400 or fewer.
 void Text2Array(const Text& text);
+
+// The flowing text of stored lines: what a text box shows of them. An empty line without a mark cannot hold text and is
+// dropped.
+template <int Rows>
+Text FlowingText(const Slots<Text, Rows>& lines, int count)
+{
+    Text text;
+    for (int row = 1; row <= count; ++row) {
+        const Text& line = lines[row];
+        if (line.ends_with(ParagraphMark))
+            text.append(line, 0, line.size() - 1).append(CrLf);
+        else
+            text += line;
+    }
+    return text;
+}
 
 // Appends the text file named by DialogResult to the description box.
 void ImportDesc();

@@ -1,14 +1,12 @@
 // frmDrawPrint.cpp -- the batch dialog: it shows the boxes of canvas/batch.h, and says which command each button calls.
 #include "canvas/batch.h"
+#include "platform/qt/folderlist.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
-#include "session/files.h"
 #include "session/platform.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QDialog>
-#include <QDir>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QKeyEvent>
@@ -18,8 +16,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStorageInfo>
-#include <QStyle>
 #include <QVBoxLayout>
 #include <functional>
 
@@ -42,12 +38,12 @@ private:
     void Folders();
     void Files();
     void TakeSelection();
-    void GoTo(const QString& folder);
+    void GoTo(const Text& folder);
     void Ok();
     void Cancel();
 
-    QComboBox* drive1;
-    QListWidget* dir1;
+    DriveList* drive1;
+    FolderList* dir1;
     QListWidget* file1;
     QLabel* label1;
     QRadioButton* option1;
@@ -67,19 +63,8 @@ DrawPrint::DrawPrint(QWidget* parent) : QDialog(parent)
     setObjectName("frmDrawPrint");
     setWindowTitle(ToUi(Dialog.Title));
 
-    drive1 = new QComboBox(this);
-    drive1->setObjectName("Drive1");
-    for (const QStorageInfo& drive : QStorageInfo::mountedVolumes())
-        if (drive.isValid() && drive.isReady() &&
-            (drive.isRoot() || drive.rootPath().startsWith("/media") || drive.rootPath().startsWith("/mnt") ||
-             drive.rootPath()[0] != '/'))
-            drive1->addItem(QDir::toNativeSeparators(drive.rootPath()));
-    if (QDir::homePath() != "/")
-        drive1->addItem(QDir::toNativeSeparators(QDir::homePath()));
-    dir1 = new QListWidget(this);
-    dir1->setObjectName("Dir1");
-    dir1->setIconSize(QSize(16, 16));
-    dir1->setUniformItemSizes(true);
+    drive1 = new DriveList(this);
+    dir1 = new FolderList(this);
     file1 = new QListWidget(this);
     file1->setObjectName("File1");
     file1->setMinimumWidth(210);
@@ -166,9 +151,7 @@ DrawPrint::DrawPrint(QWidget* parent) : QDialog(parent)
     all->addLayout(frames);
     resize(640, Dialog.ReportChoice ? 500 : 360);
 
-    connect(drive1, &QComboBox::activated, this, [this](int i) { GoTo(drive1->itemText(i)); });
-    connect(dir1, &QListWidget::itemActivated, this,
-            [this](QListWidgetItem* item) { GoTo(item->data(Qt::UserRole).toString()); });
+    drive1->OnFolder = dir1->OnFolder = [this](const Text& folder) { GoTo(folder); };
     connect(file1, &QListWidget::itemSelectionChanged, this, [this] { TakeSelection(); });
     connect(file1, &QListWidget::itemDoubleClicked, this, [this] { Ok(); });
     connect(option1, &QRadioButton::clicked, this, [this] {
@@ -183,7 +166,7 @@ DrawPrint::DrawPrint(QWidget* parent) : QDialog(parent)
     });
     connect(command4, &QPushButton::clicked, this, [] {
         if (!dialogBusy)
-            Platform.ShowPrinterSetup();
+            Platform.ShowGraphicsSetup();
     });
     connect(optionBor, &QRadioButton::toggled, this,
             [](bool on) { Dialog.ReportOption = on ? 0 : Dialog.ReportOption; });
@@ -201,39 +184,10 @@ DrawPrint::DrawPrint(QWidget* parent) : QDialog(parent)
     file1->setFocus();
 }
 
-// The folders from the root down to the one shown, and behind them its own, each a step further in.
 void DrawPrint::Folders()
 {
-    filling = true;
-    dir1->clear();
-    QDir folder(QString::fromStdString(NativePath(Dialog.Dir1)));
-    QStringList above;
-    for (QDir up = folder; !up.isRoot() && up.exists() && up.cdUp();)
-        above.prepend(up.absolutePath());
-    const auto add = [this](const QString& path, const QString& name, int depth, QStyle::StandardPixmap icon) {
-        auto* item = new QListWidgetItem(style()->standardIcon(icon), QString(depth * 3, ' ') + name, dir1);
-        item->setData(Qt::UserRole, path);
-        return item;
-    };
-    int depth = 0;
-    for (const QString& path : above)
-        add(path, QDir(path).isRoot() ? QDir::toNativeSeparators(path) : QDir(path).dirName(), depth++,
-            QStyle::SP_DirOpenIcon);
-    QListWidgetItem* here =
-        add(folder.absolutePath(), folder.isRoot() ? QDir::toNativeSeparators(folder.path()) : folder.dirName(),
-            depth++, QStyle::SP_DirOpenIcon);
-    for (const QString& name : folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase))
-        add(folder.absoluteFilePath(name), name, depth, QStyle::SP_DirIcon);
-    dir1->setCurrentItem(here);
-    dir1->scrollToItem(here, QAbstractItemView::PositionAtCenter);
-    // The drive that the folder is on: the longest root that its path begins with.
-    int best = -1;
-    for (int i = 0; i < drive1->count(); ++i)
-        if (folder.absolutePath().startsWith(drive1->itemText(i)) &&
-            (best < 0 || drive1->itemText(i).size() > drive1->itemText(best).size()))
-            best = i;
-    drive1->setCurrentIndex(best);
-    filling = false;
+    dir1->Show(Dialog.Dir1);
+    drive1->Show(Dialog.Dir1);
 }
 
 void DrawPrint::Files()
@@ -258,11 +212,11 @@ void DrawPrint::TakeSelection()
         Dialog.Selected[i] = file1->item(i - 1)->isSelected();
 }
 
-void DrawPrint::GoTo(const QString& folder)
+void DrawPrint::GoTo(const Text& folder)
 {
     if (filling || dialogBusy)
         return;
-    frmDrawPrint::ChangeFolder(FromUi(folder));
+    frmDrawPrint::ChangeFolder(folder);
     Folders();
     Files();
 }

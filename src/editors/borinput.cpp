@@ -4,9 +4,13 @@
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
+#include "boring/feet2meters.h"
+#include "boring/opensave.h"
+#include "boring/projectlist.h"
 #include "boring/textlines.h"
 #include "canvas/batch.h"
 #include "editors/fillform.h"
+#include "report/fontprofile.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/gridedit.h"
@@ -72,11 +76,15 @@ void frmBorinput::Load()
 {
     FileChanged = 0;
     LoadDevice();
+    if (DeviceConfig.FontName != "Arial")
+        AssignFont();
+    LoadProjectList();
     ActiveBox = 0;
     BoringFileName = "";
     LabelBoxes();
     WatchBoxes();
     Title = ProjectPath + " - " + ToolTitle;
+    getfilelist(1);
     // The start widths; a boring's report parts set them anew.
     MemoDes.widthTwips = 4205 + DeviceConfig.TextAdjust[1];
     MemoWcon.widthTwips = 3249 + DeviceConfig.TextAdjust[2];
@@ -107,6 +115,8 @@ void frmBorinput::mnuNew()
     if (!SaveFirst("Would you like to save the current file before starting a new file?"))
         return;
     ClearBoringForm();
+    if (DeviceConfig.FontName != "Arial")
+        AssignFont();
     ForgetAll();
 }
 
@@ -225,6 +235,27 @@ void frmBorinput::mnuPrint()
 void frmBorinput::mnuPrintSetup()
 {
     Platform.ShowPrinterSetup();
+}
+
+void frmBorinput::mnuConvertFeetMeters()
+{
+    if (MsgBox(
+            "This utility converts all depths from feet to meters.  Afterward, you may want to save the file under a "
+            "different name.  Do you wish to proceed?",
+            YesNo, Question) != Yes)
+        return;
+    convertfeet2meters();
+    ForgetAll(); // a step taken back would put feet among the meters
+}
+
+void frmBorinput::mnuGraphicSetup()
+{
+    Platform.ShowGraphicsSetup();
+}
+
+void frmBorinput::mnuCreateLogo()
+{
+    Platform.ShowLogo();
 }
 
 void frmBorinput::mnuFillPatt()

@@ -55,6 +55,9 @@ void mnuFillDown();
 void mnuInsertRow();
 void mnuDeleteRow();
 // Utilities and Help.
+void mnuConvertFeetMeters();
+void mnuGraphicSetup();
+void mnuCreateLogo();
 void mnuFillPatt();
 void mnuHelp();
 } // namespace frmBorinput

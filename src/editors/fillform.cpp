@@ -3,6 +3,7 @@
 
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
+#include "boring/textlines.h"
 #include "report/layout.h"
 #include "report/reportparts.h"
 #include "session/deviceconfig.h"
@@ -30,21 +31,6 @@ static void FillColumn(Grid& grid, const Slots<Text, Rows>& lines)
 {
     for (int row = 1; row <= Rows; ++row)
         grid.Cell(row, 1) = lines[row];
-}
-
-// The flowing text of stored lines. An empty line without a mark cannot hold text and is dropped.
-template <int Rows>
-static Text FlowingText(const Slots<Text, Rows>& lines, int count)
-{
-    Text text;
-    for (int row = 1; row <= count; ++row) {
-        const Text& line = lines[row];
-        if (line.ends_with(ParagraphMark))
-            text.append(line, 0, line.size() - 1).append(CrLf);
-        else
-            text += line;
-    }
-    return text;
 }
 
 static void ShowParameterNames()

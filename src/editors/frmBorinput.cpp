@@ -743,6 +743,16 @@ void BorinputWindow::Refresh()
             grid->Fit();
     }
     ShowRecent();
+    const auto dress = [this](const char* name, const Text& family) {
+        auto* box = findChild<QWidget*>(name);
+        if (family.empty() || box->font().family() == ToUi(family))
+            return;
+        QFont font = box->font();
+        font.setFamily(ToUi(family));
+        box->setFont(font);
+    };
+    dress("Text1", frmBorinput::Text1Font);
+    dress("txtClient", frmBorinput::txtClientFont);
     project->setText("Project folder: " + ToUi(ProjectPath));
 }
 

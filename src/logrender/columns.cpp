@@ -175,6 +175,11 @@ static bool Fits(const Column& column, const Text& name)
 // for it and no width is taken up.
 void VLOG::processrepparts()
 try {
+    // A column that failed on an axis of no length has left a scale of 0. Those after it are misplaced, but drawn.
+    if (PageCanvas.scaleX == 0)
+        setscalex(1);
+    if (PageCanvas.scaleY == 0)
+        setscaley(1);
     const ReportPart& part = LogBoring.RepParts[LogGeometry.ColumnNumber];
     const Text name = UpperCase(part.Item);
     const Column* found = nullptr;

@@ -59,7 +59,6 @@ try {
     endgraph(0.55);
 } catch (...) {
     ReportFailure(__func__);
-    aftercolumnfailure();
 }
 
 // GraphList, "3-2-1", as up to three parameter numbers; 0 for one that is missing.
@@ -164,5 +163,4 @@ try {
     endgraph(w - 0.1);
 } catch (...) {
     ReportFailure(__func__);
-    aftercolumnfailure();
 }

@@ -37,12 +37,3 @@ void VLOG::endcolumn(double width)
     setscaley(1);
     moveto(width, 0.1);
 }
-
-// An axis that cannot be drawn would otherwise leave its scale to every column on its right.
-void VLOG::aftercolumnfailure()
-{
-    setscalex(1);
-    setscaley(1);
-    setlinestyle(1);
-    setlinewidth(1);
-}

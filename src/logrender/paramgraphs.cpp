@@ -113,7 +113,6 @@ try {
     endgraph(w - 0.05);
 } catch (...) {
     ReportFailure(__func__);
-    aftercolumnfailure();
 }
 
 // The marks of curves 1 to 4 of a column that holds several: circles and triangles, open and solid.
@@ -170,7 +169,6 @@ try {
     endgraph(0.95);
 } catch (...) {
     ReportFailure(__func__);
-    aftercolumnfailure();
 }
 
 // Sample parameters 1 to 4, as ParamNumber holds them, on the axis of the one that reaches furthest; 2 inches wide.
@@ -197,7 +195,7 @@ try {
     for (int k = 1; k <= 4; ++k) {
         GraphCurve curve;
         curve.Axis = GraphAxis::linear(setup);
-        const GraphMark& mark = (k <= 2 ? openMarks : solidMarks)[(k - 1) % 2];
+        const GraphMark& mark = k <= 2 ? openMarks[k - 1] : solidMarks[k - 3];
         for (int i = LogGeometry.SampleFirst; i > 0 && i <= LogGeometry.SampleLast; ++i) {
             const Text& value = LogBoring.Samples[i].Param[n[k]];
             if (value.empty())
@@ -209,5 +207,4 @@ try {
     endgraph(1.9);
 } catch (...) {
     ReportFailure(__func__);
-    aftercolumnfailure();
 }

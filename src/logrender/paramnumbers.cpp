@@ -65,7 +65,6 @@ try {
     endcolumn(w);
 } catch (...) {
     ReportFailure(__func__);
-    aftercolumnfailure();
 }
 
 // General parameter ParamNumber 1, its text as it stands at each depth.
@@ -84,5 +83,4 @@ try {
     endcolumn(w);
 } catch (...) {
     ReportFailure(__func__);
-    aftercolumnfailure();
 }

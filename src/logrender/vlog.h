@@ -66,5 +66,4 @@ void drawwaterlevels();
 void turnedheading(double x, const Text& words);      // markorigin; 8 point, upward, from (x, 0.05)
 void narrowcolumn(double width, bool bodyBox = true); // lines of the heading band; the depth line as origin, y scale
 void endcolumn(double width);                         // y scale 1, pen to the right edge on the baseline
-void aftercolumnfailure(); // scales, line style and line width as the next column expects them
 } // namespace VLOG

@@ -51,5 +51,4 @@ try {
     endcolumn(0.2);
 } catch (...) {
     ReportFailure(__func__);
-    aftercolumnfailure();
 }

@@ -262,8 +262,9 @@ static void RingLabel(const Layer& layer, double r, bool large)
     printtext(layer.Words);
 }
 
-// One row of a pipe whose middle is 0.15 right of r.
-static void Ring(int row, double r, double width, bool large)
+// One row of a pipe whose middle is 0.15 right of r. Kept: a row that is not on the page does not change the width
+// either, so a pipe may stand wider on a page than its rows above the page say.
+static void Ring(int row, double r, double& width, bool large)
 {
     const auto& cells = LogBoring.InnerLayers[row];
     Layer layer{static_cast<float>(TextNumber(cells[1])), static_cast<float>(TextNumber(cells[2])), cells[3], cells[4]};
@@ -274,6 +275,7 @@ static void Ring(int row, double r, double width, bool large)
     const double h = double(layer.End) - double(layer.Start);
     const int fill = RingFill(layer, row);
     moveto(r + 0.15, -BelowStart(layer.Start));
+    TakeWidth(row, width);
     moveleft(width / 2);
     rectfillflag(width, -h, 0);
     if (fill > 0) {
@@ -295,10 +297,8 @@ static void Rings(bool large)
     for (int row = 1; row <= LogBoring.InnerLayerCount; ++row) {
         if (RingMarker(row))
             r = double(r) + 0.18;
-        else {
-            TakeWidth(row, width);
+        else
             Ring(row, r, width, large);
-        }
         incseg(2);
     }
 }
@@ -353,5 +353,4 @@ try {
     incseg(2);
 } catch (...) {
     ReportFailure(__func__);
-    aftercolumnfailure();
 }

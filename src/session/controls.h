@@ -32,6 +32,7 @@ struct Grid {
     std::vector<Text> headings;    // of the columns, from index 1
     std::vector<Text> rowHeadings; // from index 1; short or empty: numbers
     Text title;
+    Text fontName; // of the cells; "": the window's own
     // What the user does in it (session/gridedit.h).
     int row = 1, column = 1;     // the current cell
     Block selected;              // the block that Cut, Copy, Paste and Delete act on; the current cell is in it
@@ -44,6 +45,7 @@ struct Memo {
     Text text;
     int widthTwips = 0;
     int factor = 1550;                      // twips of room to an inch of text: 1550 for 8 point, 1750 for 7 point
+    Text fontName = "Arial";                // what it is drawn with; where lines break does not depend on it
     int Points() const;                     // the size that factor stands for
     int64_t Room() const;                   // of a line, in the line breaker's units
     std::vector<Text> DisplayLines() const; // every character but the line ends stands in one of them

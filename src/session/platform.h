@@ -36,8 +36,13 @@ struct PlatformRecord {
     void (*StepProgress)(const Text& words, float percent);
     void (*ShowChooser)(); // by DialogMode; answers in DialogResult
     void (*ShowHelp)();
-    void (*ShowPrinterSetup)();  // which printer, blocking
-    void (*PrintToPdf)(bool on); // while on, print runs go to a PDF whatever printer is chosen
+    void (*ShowProjEdit)();                   // the editor of the project list, blocking
+    void (*ShowGraphicsSetup)();              // the set-up window, blocking
+    void (*ShowLogo)();                       // the logo window, blocking
+    void (*ShowPrinterSetup)();               // which printer, blocking
+    bool (*PrinterHasFont)(const Text& name); // exactly so
+    Text (*ChooseFont)(const Text& font);     // the system's font dialog; "" when cancelled
+    void (*PrintToPdf)(bool on);              // while on, print runs go to a PDF whatever printer is chosen
     // The start and the end of the desktop program.
     Text (*ExecutableFolder)();
     void (*ShowAbout)(bool blocking); // the title box; blocking: until it is clicked

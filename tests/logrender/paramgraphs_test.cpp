@@ -2,6 +2,7 @@
 // 0 to 100 is 5.4 units for each 1; depths are 60 units to the foot.
 #include "columnpage.h"
 
+#include "canvas/pageobjects.h"
 #include "logrender/vlog.h"
 
 // A graph of parameter 1 on 0 to 100 by 20, with one sample of 2 feet for each value, at depths 1, 11, 21 ...
@@ -226,14 +227,20 @@ TEST_CASE("a logarithmic axis of less than one decade has three, and holds its v
     CHECK(Drawn(4 + 4 * 4 + 1) == Drawing{"circle 336,60 18"}); // 30 + 180 * (3.69897 - 2)
 }
 
-TEST_CASE("an axis of no length is told as a division by zero, and the next column draws in its own scale")
+TEST_CASE("an axis of no length is told as a division by zero, and the columns behind it are misplaced but drawn")
 {
     SetGraph({"5"}, Setup(5, 5, 1));
     VLOG::drawpargraph(1);
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "Error 11 in drawpargraph.  Please contact Norvane");
-    CHECK(PageCanvasScales() == "1 1");
     Messages.clear();
+    const size_t before = PageList.Objects.size();
+    LogBoring.RepParts[1] = {"lab number", "-"};
+    LogGeometry.ColumnNumber = 1;
+    VLOG::processrepparts();
+    CHECK(Messages.empty());
+    CHECK(PageList.Objects.size() > before);
+    CHECK(PageCanvasScales() == "1 1");
 }
 
 TEST_CASE("more ticks than 16 bits count are told as an overflow, and none is drawn")

@@ -229,6 +229,17 @@ TEST_CASE("a pipe's width stays until another letter, and one that is none of th
     CHECK(drawn[14] == "rectangle 192,1200 228,1500");
 }
 
+TEST_CASE("a row of a pipe that is not on the page does not change the width of those that are")
+{
+    StartWell();
+    LogPage.PageStartDepth = 20;
+    LogPage.PageEndDepth = 40;
+    AddRing("0", "5", "", "", "L");
+    AddRing("5", "10", "", "", "S");
+    AddRing("10", "30", "");
+    CHECK(Diagram()[2] == "rectangle 174,0 246,600");
+}
+
 TEST_CASE("a marker row moves the pipes behind it to the next well of the hole, and draws nothing")
 {
     StartWell();

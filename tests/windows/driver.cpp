@@ -147,6 +147,12 @@ void Key(QWidget* window, int key, Qt::KeyboardModifiers modifiers)
     QTest::keyClick(to, Qt::Key(key), modifiers);
 }
 
+void TypeWords(QWidget* window, const Text& words)
+{
+    for (const QChar letter : QString::fromStdString(ToUtf8(words)))
+        QTest::keyClicks(window->focusWidget() ? window->focusWidget() : window, QString(letter));
+}
+
 void UseDesktop()
 {
     // One application for the run of the tests; it is never taken down, since Qt's statics go in no order.
@@ -206,7 +212,7 @@ void OpenSample(const char* name)
             log = qobject_cast<QMainWindow*>(window);
     REQUIRE(log);
     Then("frmOpenSave", [name](QWidget* window) {
-        auto* box = window->findChild<QLineEdit*>("fileNameEdit");
+        auto* box = window->findChild<QLineEdit*>("fileText");
         REQUIRE(box);
         QTest::keyClicks(box, name);
         QTest::keyClick(box, Qt::Key_Return);

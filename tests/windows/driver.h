@@ -26,6 +26,7 @@ void Click(QWidget* widget); // in its middle
 void ClickButton(QWidget* window, const char* name);
 void ClickMenu(QWidget* window, const char* menu, const char* entry); // "" for an entry of the bar itself
 void Key(QWidget* window, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+void TypeWords(QWidget* window, const Text& words); // each letter goes where the focus is by then
 template <class T>
 T* Find(QWidget* window, const char* name);
 void Settle(int milliseconds = 0); // turns of the event loop

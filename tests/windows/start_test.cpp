@@ -106,7 +106,7 @@ TEST_CASE("an open of an older form or of a damaged file tells so and leaves a w
     QMainWindow* log = LogWindow();
     WriteScratch("samples/CUT.BOR", ReadScratch("samples/TC-101.BOR").substr(0, 900));
     Then("frmOpenSave", [](QWidget* window) {
-        auto* box = window->findChild<QLineEdit*>("fileNameEdit");
+        auto* box = window->findChild<QLineEdit*>("fileText");
         box->setText("CUT.BOR");
         Key(box, Qt::Key_Return);
     });

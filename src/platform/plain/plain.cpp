@@ -72,7 +72,12 @@ void UsePlainPlatform()
     Platform.StepProgress = [](const Text&, float) {};
     Platform.ShowChooser = [] {};
     Platform.ShowHelp = [] {};
+    Platform.ShowProjEdit = [] {};
+    Platform.ShowGraphicsSetup = [] {};
+    Platform.ShowLogo = [] {};
     Platform.ShowPrinterSetup = [] {};
+    Platform.PrinterHasFont = [](const Text& name) { return name == "Arial" || name == "Courier"; };
+    Platform.ChooseFont = [](const Text&) { return Text(); };
     Platform.PrintToPdf = [](bool) {};
     Platform.ExecutableFolder = [] { return WorkingFolder; };
     Platform.ShowAbout = [](bool) {};

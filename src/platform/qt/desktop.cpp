@@ -2,13 +2,16 @@
 #include "canvas/batch.h"
 #include "canvas/patterns.h"
 #include "editors/borinput.h"
+#include "editors/fillform.h"
 #include "logrender/vlog.h"
 #include "platform/qt/boxes.h"
-#include "platform/qt/filedialog.h"
+#include "platform/qt/fonts.h"
 #include "platform/qt/helpwindow.h"
 #include "platform/qt/printers.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
+#include "report/fontprofile.h"
+#include "report/oldboring.h"
 #include "session/platform.h"
 
 #include <QApplication>
@@ -58,7 +61,12 @@ static void Notice(const Text& words)
 // The commands of the log tool that belong to other windows.
 static void FillCommandTable()
 {
-    frmBorinput::Commands = {};
+    frmBorinput::CommandTable& commands = frmBorinput::Commands;
+    commands = {};
+    commands.mnuConvertFeetMeters = frmBorinput::mnuConvertFeetMeters;
+    commands.mnuGraphicSetup = frmBorinput::mnuGraphicSetup;
+    commands.mnuCreateLogo = frmBorinput::mnuCreateLogo;
+    SetupChange.ResetTextBoxes = ResetTextBoxes;
 }
 
 void UseDesktopPlatform()
@@ -74,9 +82,14 @@ void UseDesktopPlatform()
     Platform.ShowPrinting = ShowPrintingNotice;
     Platform.ShowProgress = ShowProgressWindow;
     Platform.StepProgress = StepProgressWindow;
-    Platform.ShowChooser = ShowFileDialog;
+    Platform.ShowChooser = ShowOpenSave;
+    Platform.ShowProjEdit = ShowProjEdit;
+    Platform.ShowGraphicsSetup = ShowGraphicsSetup;
+    Platform.ShowLogo = ShowLogoWindow;
     Platform.ShowHelp = ShowHelpWindow;
     Platform.ShowPrinterSetup = ShowPrinterSetupBox;
+    Platform.PrinterHasFont = PrinterHasFont;
+    Platform.ChooseFont = ShowFontDialog;
     Platform.PrintToPdf = ForcePdf;
     Platform.ExecutableFolder = ExecutableFolder;
     Platform.ShowAbout = ShowAboutBox;
@@ -90,6 +103,7 @@ void UseDesktopPlatform()
     Platform.ShortDate = Today;
     Platform.Unattended = false;
     FillCommandTable();
+    FillOlderForms();
 }
 
 void FillJobTable()

@@ -21,8 +21,9 @@ public:
     // Tells the view of what differs from what it was last told.
     void Refresh()
     {
-        if (cells != grid.cells) {
+        if (cells != grid.cells || fontName != grid.fontName) {
             cells = grid.cells;
+            fontName = grid.fontName;
             emit dataChanged(index(0, 0), index(grid.rows - 1, grid.columns - 1));
         }
         if (headings != grid.headings) {
@@ -58,6 +59,11 @@ public:
     }
     QVariant data(const QModelIndex& index, int role) const override
     {
+        if (index.isValid() && role == Qt::FontRole && !grid.fontName.empty()) {
+            QFont font = static_cast<QWidget*>(QObject::parent())->font();
+            font.setFamily(ToUi(grid.fontName));
+            return font;
+        }
         if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole && role != Qt::EditRole))
             return {};
         if (index == typed)
@@ -88,6 +94,7 @@ public:
 private:
     Grid& grid;
     std::vector<Text> cells, headings, rowHeadings; // as the view knows them
+    Text fontName;
     QModelIndex typed;
     QString typedText;
 };

@@ -157,6 +157,13 @@ MemoView::MemoView(const char* name, Memo& shown, QWidget* parent) : QPlainTextE
 
 void MemoView::Refresh()
 {
+    if (font().family() != ToUi(memo.fontName)) {
+        QFont other = font();
+        other.setFamily(ToUi(memo.fontName));
+        setFont(other);
+        document()->setDefaultFont(other);
+        layout->LayOutAll();
+    }
     Text now;
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
         now += (block == document()->begin() ? "" : "\r\n") + FromDocument(block.text());

@@ -11,6 +11,10 @@ void ShowAboutBox(bool blocking);    // frmAbout5
 void ShowWelcomeWindow();            // frmWelcome
 void ShowLogWindow();                // frmBorinput
 void EndProgram();                   // the same: it goes, and the event loop with it
+void ShowOpenSave();                 // frmOpenSave: by DialogMode; the path in DialogResult, "" when cancelled
+void ShowProjEdit();                 // frmProjEdit
+void ShowGraphicsSetup();            // frmPrinterSetup
+void ShowLogoWindow();               // frmLogo
 void ShowDrawArea();                 // frmDrawArea
 void ShowDrawPrintDialog();          // frmDrawPrint
 void ShowPrintingNotice();           // frmPrinting

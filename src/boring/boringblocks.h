@@ -1,0 +1,50 @@
+// boringblocks.h -- the blocks that every form of the boring file is made of: lines, tables, and both behind a count.
+#pragma once
+
+#include "boring/boringdata.h"
+#include "session/files.h"
+
+#include <algorithm>
+
+template <int Rows>
+void ReadLines(LineReader& in, Slots<Text, Rows>& lines, int count = Rows)
+{
+    for (int row = 1; row <= count; ++row)
+        lines[row] = in.Line();
+}
+
+template <int Rows, int Columns>
+void ReadCells(LineReader& in, TextTable<Rows, Columns>& table, int count = Rows, int columns = Columns)
+{
+    for (int row = 1; row <= count; ++row)
+        for (int column = 1; column <= columns; ++column)
+            table[row][column] = in.Line();
+}
+
+// A count line. What is left in the record is at most its bound, although the rows are read as far as the file says:
+// the first one over the bound has no slot and ends the reading.
+inline int ReadCount(LineReader& in, int32_t& count, int bound)
+{
+    const int told = in.Count();
+    count = std::min(told, bound);
+    return told;
+}
+
+template <int Rows>
+void ReadBlock(LineReader& in, Slots<Text, Rows>& lines, int32_t& count)
+{
+    const int told = ReadCount(in, count, Rows);
+    for (int row = 1; row <= count; ++row)
+        lines[row].clear(); // so that rows missing at an early end of the file are empty
+    ReadLines(in, lines, told);
+}
+
+template <int Rows, int Columns>
+void ReadBlock(LineReader& in, TextTable<Rows, Columns>& table, int32_t& count, int columns = Columns)
+{
+    const int told = ReadCount(in, count, Rows);
+    for (int row = 1; row <= count; ++row)
+        for (int column = 1; column <= columns; ++column)
+            table[row][column].clear();
+    ReadCells(in, table, told, columns);
+}

@@ -1,0 +1,12 @@
+// feet2meters.h -- the depths of the boring that is open, from feet to meters. The file is not touched.
+#pragma once
+
+#include "session/text.h"
+
+// One value. "" stays "", "0" stays "0"; others have up to two decimals ("10" gives "3.05"), and a text with no number
+// gives "".
+Text cv2m(const Text& text);
+
+// The boxes and BoringData, which is taken from the boxes first. Sets FileChanged. Nothing stops a second conversion.
+// A text of more lines than the record holds is failure 9, and nothing is converted then.
+void convertfeet2meters();
