@@ -370,7 +370,7 @@ static void TypeLine(QWidget* line, const char* text)
 static void SaveAs(QMainWindow* log, const char* name, const char* button = nullptr)
 {
     Then("frmOpenSave", [name](QWidget* window) {
-        auto* box = window->findChild<QLineEdit*>("fileNameEdit");
+        auto* box = window->findChild<QLineEdit*>("fileText");
         REQUIRE(box);
         box->clear();
         QTest::keyClicks(box, name);
@@ -500,7 +500,7 @@ TEST_CASE("a typed change after Open: No asks again in New's words, and a Cancel
     TypeText("stays\n");
     ThenAnswer("Would you like to save the current file before opening another file?", "No");
     Then("frmOpenSave", [](QWidget* window) {
-        auto* box = window->findChild<QLineEdit*>("fileNameEdit");
+        auto* box = window->findChild<QLineEdit*>("fileText");
         box->setText("TC-103.BOR");
         Key(box, Qt::Key_Return);
     });
