@@ -33,7 +33,7 @@ struct Grid {
     std::vector<Text> rowHeadings; // from index 1; short or empty: numbers
     Text title;
     int locked = 0; // so many first columns are there to read: nothing that the user does changes them
-    Text fontName; // of the cells; "": the window's own
+    Text fontName;  // of the cells; "": the window's own
     // What the user does in it (session/gridedit.h).
     int row = 1, column = 1;     // the current cell
     Block selected;              // the block that Cut, Copy, Paste and Delete act on; the current cell is in it

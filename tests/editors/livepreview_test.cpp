@@ -14,6 +14,8 @@
 
 static void OpenSample()
 {
+    std::filesystem::copy_file(SOURCE_DIR "/data/prompt.txt", Scratch("prompt.txt"),
+                               std::filesystem::copy_options::overwrite_existing);
     frmBorinput::Load();
     JobTable[1] = VLOG::vlogstart;
     frmBorinput::OpenNamed(Text(SOURCE_DIR) + "/samples/TC-101.BOR");
