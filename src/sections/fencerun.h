@@ -1,0 +1,40 @@
+// fencerun.h -- FenceRun: the fence diagram in drawing, beside the fields that it shares with CrossRun.
+//
+// The base plane is an oblique view: X runs along the page at true scale, Y up and to the right at 45 degrees, both
+// foreshortened by 0.7071. All numbers are 32-bit, the plan coordinates too.
+#pragma once
+
+#include "sections/crossrun.h"
+
+namespace VCROSS
+{
+constexpr int MaxFenceBorings = 15, MaxPanels = 20;
+constexpr float Foreshortening = 0.7071f;
+
+struct FenceRunRecord {
+    Slots<float, MaxFenceBorings> siteX, siteY; // xStart and yStart taken off
+    float xStart = 0, xEnd = 0, xInc = 0, yStart = 0;
+    Text xUnit;
+    float xRange = 0, yRange = 0; // site units
+    int16_t sectionCount = 0;
+    Slots<int16_t, MaxPanels> sectionA, sectionB; // numbers of the two borings of a panel; 0: the row is skipped
+    int16_t facing = 0;                           // 1 north, 2 east, 3 south, 4 west, after the rotation
+    int16_t rotation = 0;                         // quarter turns, 0 to 3
+    float baseWidth = 0, baseRise = 0;            // inches
+    Slots<float, MaxFenceBorings> planX, planY;   // the ground point on the page, inches
+    Text title3;
+};
+extern FenceRunRecord FenceRun;
+void ResetFenceRun(); // as at the start of the program
+
+// fencerun.cpp
+void vfencestart();
+void getfencedata();
+// fencedraw.cpp
+void drawfenceframe();
+void drawfenceborings();
+void drawwaterlevelfence();
+// fencelayers.cpp
+void fillfencelayers();
+void fillfenceGIS();
+} // namespace VCROSS
