@@ -96,7 +96,7 @@ static void HorizontalTicks(const EdgeNumbers& numbers, double grid, int directi
         linedown(Tick);
         movedown(Tick);
         printtext(numbers[n]);
-        moveright(direction * FenceRun.xInc);
+        moveright(direction * double(FenceRun.xInc));
         moveup(2 * Tick);
     }
     SetScales(1);
@@ -381,7 +381,7 @@ static void ElevationTicks(int i, int side)
         lineright(side * Tick);
         moveright(side * Tick);
         printtext(PlainNumber(int(RoundInt32(double(run.vStart) - double(n) * run.vInc))));
-        movedown(run.vInc);
+        movedown(double(run.vInc));
         moveleft(side * 2 * Tick);
     }
 }
