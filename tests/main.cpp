@@ -22,6 +22,7 @@
 #include "report/layoutedit.h"
 #include "report/logo.h"
 #include "report/prompts.h"
+#include "sections/layershapes.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -161,6 +162,7 @@ struct Fresh : doctest::IReporter {
         LogPage = LogPageRecord();
         LogBoring = LogBoringRecord();
         LogGeometry = LogGeometryRecord();
+        VCROSS::LayerFill = VCROSS::LayerFillRecord();
         ForgetPatterns();
         TintsInMemory = false;
         jobCode = runFileCount = singleFile = introType = dialogBusy = stopRequested = 0;
