@@ -22,6 +22,7 @@
 #include "report/layoutedit.h"
 #include "report/logo.h"
 #include "report/prompts.h"
+#include "sections/fencefile.h"
 #include "sections/layershapes.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
@@ -98,7 +99,7 @@ static void EmptyBoxes()
     MemoWcon = {"", 3249, 1750};
     MemoRemarks = {"", 2223, 1750};
     MemoBottNotes = {"", 8010, 1750};
-    frmSoil::MemoNotes = {"", 6800, 1550};
+    frmSoil::MemoSoil = {"", 6800, 1550};
     txtClient = Text1 = Text2 = cmbLayFile = lblWidthtot = Title = "";
     List = {};
     LayFiles.clear();
@@ -135,6 +136,10 @@ struct Fresh : doctest::IReporter {
         frmOpenSave::SS.Clear();
         frmOpenSave::HiddenFolder = "";
         frmOpenSave::HiddenFiles.clear();
+        FenceData = FenceRecord();
+        frmFence::FileName = "";
+        for (Grid* grid : {&frmFence::SS1, &frmFence::SS2, &frmFence::SS3, &frmFence::SS4, &frmFence::SS5})
+            *grid = Grid(grid->rows, grid->columns);
         frmCross::Title = frmFence::Title = frmSoil::Title = "";
         frmPrinterSetup::Dialog = frmPrinterSetup::Record();
         frmPrinterSetup::SSMainFilePath.Clear();
