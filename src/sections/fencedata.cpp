@@ -54,7 +54,7 @@ static int16_t PanelEnd(std::string_view half)
         return boring;
     const double row = std::nearbyint(TextNumber(name));
     return row >= 1 && row <= MaxFenceBorings && HasBoring(static_cast<int>(row)) ? static_cast<int16_t>(row)
-                                                                                   : int16_t(0);
+                                                                                  : int16_t(0);
 }
 
 static void ReadPanel(const Text& line, int k)

@@ -473,13 +473,11 @@ static void ReadBoring(const Text& path, int i, SectionWell& well, bool first)
     VLOG::drawclient(LargePage() ? 0.1 : 0);
 }
 
+// The stake of a boring that has been read.
 static void DrawStake(int i, const SectionWell& well, bool first, bool last)
 {
     const double place = double(FenceRun.siteY[i]) * Foreshortening;
-    // Kept: on the large page stakes and panels stand 0.1 inch to the right of the frame.
-    OriginAt(LargePage() ? 0.95 : 0.85, 2.7);
-    SetScales(1);
-    moveto(0, 2.0);
+    fenceorigin();
     SetScales(BaseScale());
     moveright(FenceRun.siteX[i]);
     moveright(place);

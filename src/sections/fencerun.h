@@ -52,6 +52,7 @@ void drawfenceframe();
 void drawfenceborings();
 void drawwaterlevelfence();
 // fencelayers.cpp
+void fenceorigin(); // of stakes and panels: both scales 1, the pen at the level of vStart above the base's origin
 void fillfencelayers();
 void fillfenceGIS();
 } // namespace VCROSS
