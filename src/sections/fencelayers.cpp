@@ -24,7 +24,7 @@ void VCROSS::fenceorigin()
 static void planborings()
 {
     using namespace VCROSS;
-    const float perInch = Over(FenceRun.xRange, FenceRun.baseWidth);
+    const float perInch = BaseScale();
     for (int i = 1; i <= CrossRun.boringCount; ++i) {
         const double back = double(Foreshortening) * FenceRun.siteY[i];
         FenceRun.planX[i] = Over(FenceRun.siteX[i] + back, perInch);
