@@ -14,6 +14,7 @@ static constexpr char SheetOptions[] = "--home DIR;--pdf FILE;--png DIR;--dpi N;
 static constexpr BatchJob Jobs[] = {
     {"log", 2, 0, LogOptions, "FILE.BOR...", "the boring logs of saved borings"},
     {"intro", 2, 1, IntroOptions, "FILE.BOR...", "the intro pages of saved borings, one each"},
+    {"section", 4, 0, LogOptions, "FILE.CRO...", "cross sections, a page each"},
     {"fence", 6, 0, LogOptions, "FILE.FEN...", "fence diagrams, a page each"},
     {"guide", 9, 0, SheetOptions, "", "the Fill Pattern Guide"},
 };
