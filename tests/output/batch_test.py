@@ -256,6 +256,37 @@ class Batch(unittest.TestCase):
             names[arrangement] = [item["x"] for item in pages[0][1] if item.get("text") == "MW-108"]
         self.assertEqual(names, {"1": [420], "2": [2970]})
 
+    def test_fences_are_one_page_each_on_the_sheet_of_their_page_cell(self):
+        done = self.run_batch("fence", "--date", "1 May 2001", "--pdf", "f.pdf", "--png", "png", "--dpi", "20", "--dxf",
+                              "dxf", "--list", "f.jsonl", sample("TC-F1.FEN"), sample("TC-F2.FEN"), sample("TC-F3.FEN"))
+        self.assertEqual(done.stderr, "")
+        pages = listing(self.path("f.jsonl"))
+        self.assertEqual([page[0]["source"] for page in pages], ["TC-F1.FEN", "TC-F2.FEN", "TC-F3.FEN"])
+        for page, number in zip(pages, "123"):
+            self.assertIn(f" Fence Diagram {number} ", texts(page))
+            self.assertIn("1 May 2001    " + sample(f"TC-F{number}.FEN"), texts(page))
+        self.assertEqual(sorted(os.listdir(self.path("png"))), ["TC-F1-1.png", "TC-F2-1.png", "TC-F3-1.png"])
+        self.assertEqual(sorted(os.listdir(self.path("dxf"))), ["TC-F1-1.dxf", "TC-F2-1.dxf", "TC-F3-1.dxf"])
+        info = subprocess.run(["pdfinfo", "-l", "3", self.path("f.pdf")], capture_output=True, text=True).stdout
+        sizes = [line.split(":")[1].split("(")[0].split() for line in info.splitlines()
+                 if line.startswith("Page ") and " size:" in line]
+        self.assertEqual([(size[0], size[2]) for size in sizes], [("792", "612"), ("1224", "792"), ("1224", "792")])
+
+    def test_a_fence_or_a_boring_of_it_that_is_not_there_is_told_and_the_other_fences_are_drawn(self):
+        for name in ("TC-F1.FEN", "TC-101.BOR"):
+            shutil.copy(sample(name), self.folder)
+        gone, alone = self.path("GONE.FEN"), self.path("TC-F1.FEN")
+        done = self.run_batch("fence", "--project", self.folder, "--list", "f.jsonl", gone, alone, sample("TC-F2.FEN"),
+                              alone, status=1)
+        hint = "Possible solution: Use 'Project: Select Project' to select your project before opening files."
+        boring = "Boring File Not Found: " + self.path("TC-102.bor")
+        self.assertEqual(done.stderr.splitlines(), [f"File Not Found: {gone}.  {hint}", boring,
+                                                    "Boring File Not Found: " + self.path("MW-109.bor")])
+        pages = listing(self.path("f.jsonl"))
+        self.assertEqual([page[0]["source"] for page in pages], ["TC-F1.FEN", "TC-F2.FEN", "TC-F1.FEN"])
+        self.assertIn(" TC-101 ", texts(pages[0]))
+        self.assertNotIn(" TC-102 ", texts(pages[0]))
+
     def test_the_guide_is_one_page_with_all_patterns(self):
         done = self.run_batch("guide", "--pdf", "g.pdf", "--png", "png", "--list", "g.jsonl")
         self.assertEqual(done.stderr, "")
