@@ -353,3 +353,12 @@ TEST_CASE("a name typed without its ending for an older form is a file that is n
     CHECK(Messages[0].words == "Error 53 in OpenSV3.  Please contact Norvane");
     CHECK(BoringData.Name == "");
 }
+
+TEST_CASE("the last contact of a 4.6 file has its colour behind the comma as the others have")
+{
+    OldLines lines;
+    lines.lith = {"4", "SM", "1,red", "9", "CL", "2,10 20 30"};
+    Open(lines.File(), 2);
+    CHECK(BoringData.Lith[2][3] == "2");
+    CHECK(BoringData.Lith[2][4] == "10 20 30");
+}
