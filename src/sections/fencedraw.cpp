@@ -184,8 +184,11 @@ static void TakeGisPlaces()
         if (row == 0)
             continue; // it keeps the place that the definition gives it
         CrossRun.gisRow[i] = static_cast<int16_t>(row);
-        f.siteX[i] = TextNumber(GisData.boringCells[row][GisX]) - f.xStart;
-        f.siteY[i] = TextNumber(GisData.boringCells[row][GisY]) - f.yStart;
+        // 32-bit before the start is taken off, as the definition's own are.
+        f.siteX[i] = TextNumber(GisData.boringCells[row][GisX]);
+        f.siteX[i] = double(f.siteX[i]) - f.xStart;
+        f.siteY[i] = TextNumber(GisData.boringCells[row][GisY]);
+        f.siteY[i] = double(f.siteY[i]) - f.yStart;
         CrossRun.refElevation[i] = TextNumber(GisData.boringCells[row][GisElevation]);
     }
 }
