@@ -12,6 +12,7 @@
 #include "platform/qt/pagepainter.h"
 #include "platform/qt/pdfrun.h"
 #include "platform/qt/pngpages.h"
+#include "sections/soiltable.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -203,6 +204,7 @@ static void FillPlatform()
 static void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
+    JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
     JobTable[9] = patternstart;
     IntroPages = VLOG::vlogintrostart;
 }

@@ -14,6 +14,7 @@
 #include "report/desitems.h"
 #include "report/fontprofile.h"
 #include "report/oldboring.h"
+#include "sections/soiltable.h"
 #include "session/platform.h"
 
 #include <QApplication>
@@ -116,6 +117,7 @@ void UseDesktopPlatform()
 void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
+    JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
     JobTable[9] = patternstart;
     IntroPages = VLOG::vlogintrostart;
 }
