@@ -98,7 +98,7 @@ static void EmptyBoxes()
     MemoWcon = {"", 3249, 1750};
     MemoRemarks = {"", 2223, 1750};
     MemoBottNotes = {"", 8010, 1750};
-    frmSoil::MemoNotes = {"", 6800, 1550};
+    frmSoil::MemoSoil = {"", 6800, 1550};
     txtClient = Text1 = Text2 = cmbLayFile = lblWidthtot = Title = "";
     List = {};
     LayFiles.clear();
