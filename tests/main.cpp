@@ -22,6 +22,7 @@
 #include "report/layoutedit.h"
 #include "report/logo.h"
 #include "report/prompts.h"
+#include "sections/fencefile.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -134,6 +135,10 @@ struct Fresh : doctest::IReporter {
         frmOpenSave::SS.Clear();
         frmOpenSave::HiddenFolder = "";
         frmOpenSave::HiddenFiles.clear();
+        FenceData = FenceRecord();
+        frmFence::FileName = "";
+        for (Grid* grid : {&frmFence::SS1, &frmFence::SS2, &frmFence::SS3, &frmFence::SS4, &frmFence::SS5})
+            *grid = Grid(grid->rows, grid->columns);
         frmCross::Title = frmFence::Title = frmSoil::Title = "";
         frmPrinterSetup::Dialog = frmPrinterSetup::Record();
         frmPrinterSetup::SSMainFilePath.Clear();

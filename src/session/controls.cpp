@@ -32,10 +32,11 @@ const Text& Grid::Cell(int row, int column) const
 
 int Grid::DataRowCount() const
 {
-    const auto last = std::find_if(cells.rbegin(), cells.rend(), [](const Text& cell) { return !cell.empty(); });
-    if (last == cells.rend())
-        return 0;
-    return int(cells.rend() - last - 1) / columns + 1;
+    for (int row = rows; row >= 1; --row)
+        for (int column = 1; column <= columns - hidden; ++column)
+            if (!cells[Place(*this, row, column)].empty())
+                return row;
+    return 0;
 }
 
 void Grid::ClearRows(int first, int last)
@@ -48,6 +49,23 @@ void Grid::ClearRows(int first, int last)
 void Grid::Clear()
 {
     ClearRows(1, rows);
+}
+
+void Grid::Resize(int rowCount, int columnCount)
+{
+    std::vector<Text> kept(static_cast<std::size_t>(rowCount) * columnCount);
+    for (int row = 1; row <= std::min(rows, rowCount); ++row)
+        for (int column = 1; column <= std::min(columns, columnCount); ++column)
+            kept[static_cast<std::size_t>(row - 1) * columnCount + (column - 1)] = std::move(Cell(row, column));
+    cells = std::move(kept);
+    rows = rowCount;
+    columns = columnCount;
+    headings.resize(static_cast<std::size_t>(columnCount) + 1);
+}
+
+GridShape Grid::Shape() const
+{
+    return {rows, columns, headings};
 }
 
 int Memo::Points() const

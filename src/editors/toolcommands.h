@@ -1,0 +1,63 @@
+// toolcommands.h -- the commands that the tools beside the log tool have in common: cross sections, fences, soil
+// tables and the GIS workbench. A tool is a table of what is its own; no widget is known here.
+//
+// Each tool has its own open file. FileChanged is the session's: one tool at a time is in front, and every way out of
+// it asks first.
+#pragma once
+
+#include "session/controls.h"
+#include "session/platform.h"
+
+#include <functional>
+#include <vector>
+
+struct ToolRecord {
+    Tool tool;
+    const char* window;              // its name
+    const char* title;               // of a tool without a file
+    const char* ending;              // of its files, with the point
+    int16_t openMode;                // of the chooser; the mode behind it saves
+    int16_t drawJob;                 // of the batch dialog; the job behind it prints. 0: the tool draws nothing
+    Text& FileName;                  // "" for a file that was never saved
+    Text& Title;                     // of the window
+    std::vector<Grid*> grids;        // the first one is the active one until another has been entered
+    std::vector<Grid*> rowsGoIn;      // those in which rows can be inserted and deleted
+    Memo* memo;                      // a text box; may be null
+    void (*OpenFile)();              // FileName into the record
+    bool (*SaveFile)();              // the boxes into FileName; false: it was refused or has failed, which was told
+    void (*ClearArrays)();           // empties the record
+    void (*FillForm)();              // the record into the boxes, and the title
+    void (*Label)();                 // the words of the boxes, as the office has them
+    // Does the work, and puts back all that a save and a run of this tool write. Null for a tool that draws nothing.
+    void (*Undisturbed)(const std::function<void()>& work);
+    void (*EmptyBoxes)() = nullptr;  // what is more to blank for a new file than grids and text box
+    bool titleInFront = false;       // the title stands in front of the file, and alone while there is none
+    Grid* active = nullptr;          // the grid last entered
+    void (*ShowForm)(bool) = nullptr; // set while the window is up: hides it during a run
+    void (*Unload)() = nullptr;      // set while the window is up: closes it
+};
+
+// The tool whose window comes once the one in front has closed; Tool::Log leads back to the log window.
+extern Tool NextTool;
+
+// A saver without an answer of its own: true when it has reported no failure.
+bool Saved(void (*save)());
+
+void LoadTool(ToolRecord& tool); // at the opening of its window: no file, empty boxes, the flag clear
+// File.
+void ToolNew(ToolRecord& tool);
+void ToolOpen(ToolRecord& tool);
+void ToolOpenNamed(ToolRecord& tool, const Text& name); // a recent file, or one dropped on the window
+bool ToolSave(ToolRecord& tool);                        // false: nothing was saved
+bool ToolSaveAs(ToolRecord& tool);
+void ToolPreview(ToolRecord& tool);
+void ToolBatchDraw(ToolRecord& tool);
+void ToolPrint(ToolRecord& tool);
+// To another tool, or by Tool::Log back to the log window. False: the user stays.
+bool ToolHandOver(ToolRecord& tool, Tool next);
+bool ToolExit(ToolRecord& tool); // out of the program; false: the user stays
+// Edit, in the grid last entered.
+Grid& ActiveGrid(ToolRecord& tool);
+void ToolInsertRow(ToolRecord& tool);
+void ToolDeleteRow(ToolRecord& tool);
+void ForgetSteps(ToolRecord& tool); // of all its grids
