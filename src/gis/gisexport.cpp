@@ -20,8 +20,7 @@ try {
     for (int k = 1; k <= GisData.layerCount; ++k)
         for (int row = 1; row <= rows; ++row)
             out.Line(SSGISInfo.Cell(row, GisBoringName) + "," + SSGISInfo.Cell(row, GisX) + "," +
-                     SSGISInfo.Cell(row, GisY) + "," + SSGISInfo.Cell(row, GisColumns + k) + "," +
-                     GisData.layerName[k]);
+                     SSGISInfo.Cell(row, GisY) + "," + frmGIS::LayerCell(row, k) + "," + GisData.layerName[k]);
     out.Close();
     MsgBox("Done Creating ArcView Export File.");
     return true;
@@ -47,7 +46,7 @@ try {
         for (const int column : {GisX, GisY, GisElevation})
             line += SSGISInfo.Cell(row, column) + gap;
         for (int k = 1; k <= GisData.layerCount; ++k)
-            line += SSGISInfo.Cell(row, GisColumns + k) + gap;
+            line += frmGIS::LayerCell(row, k) + gap;
         out.Line(line + SSGISInfo.Cell(row, GisBoringName));
     }
     out.Close();

@@ -4,6 +4,7 @@
 // depth 0, from which a depth of depthMax reaches 4.4 inches down.
 #include "sections/soiltable.h"
 
+#include "boring/boringblocks.h"
 #include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
@@ -61,12 +62,6 @@ static Text BoringPath()
     return name.find_first_of(":\\/") == Text::npos ? JoinPath(ProjectPath, name) : name;
 }
 
-static void SkipBlock(LineReader& in, int linesOfRow)
-{
-    for (int rows = in.Count(); rows > 0; --rows)
-        in.Skip(linesOfRow);
-}
-
 // A sample counts once it is whole.
 static void ReadSamples(LineReader& in)
 {
@@ -108,7 +103,7 @@ static void ReadBoring(const Text& path)
     LineReader in(path);
     const Text version = in.Line();
     if (!version.starts_with("5.")) {
-        MsgBox("This boring file has the format of a previous version: " + path);
+        MsgBox("This boring file has the format of a previous version: " + path, OkOnly, Exclamation);
         return;
     }
     SoilRun.boringName = in.Line();
@@ -151,7 +146,8 @@ try {
     LogBoring.Style = 1;
     if (!FileExists(RunPages.pageFile)) {
         MsgBox("File Not Found: " + RunPages.pageFile +
-               ".  Possible solution: Use 'Project: Select Project' to select your project before opening files.");
+                   ".  Possible solution: Use 'Project: Select Project' to select your project before opening files.",
+               OkOnly, Exclamation);
         return;
     }
     SoilRun.there = true;
@@ -161,7 +157,7 @@ try {
     if (FileExists(boring))
         ReadBoring(boring);
     else
-        MsgBox("Boring File Not Found: " + boring);
+        MsgBox("Boring File Not Found: " + boring, OkOnly, Exclamation);
 } catch (...) {
     ReportFailure(__func__);
 }
