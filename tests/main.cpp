@@ -13,6 +13,7 @@
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
 #include "editors/borinput.h"
+#include "gis/gisfile.h"
 #include "logrender/logdata.h"
 #include "report/desitems.h"
 #include "report/fontprofile.h"
@@ -23,6 +24,8 @@
 #include "report/logo.h"
 #include "report/prompts.h"
 #include "sections/fencefile.h"
+#include "sections/soilfile.h"
+#include "sections/soiltable.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -166,6 +169,18 @@ struct Fresh : doctest::IReporter {
         LogPage = LogPageRecord();
         LogBoring = LogBoringRecord();
         LogGeometry = LogGeometryRecord();
+        VCROSS::SoilRun = VCROSS::SoilRunRecord();
+        SoilData = SoilRecord();
+        frmSoil::FileName = "";
+        frmSoil::SS1 = Grid(MaxSoilCells, 1);
+        GisData = GisRecord();
+        boringSummary = {};
+        boringLithology = {};
+        frmGIS::SSGISLayers = Grid(MaxGisLayers, 2);
+        frmGIS::SSGISInfo = Grid(MaxGisBorings, GisColumns);
+        frmGIS::SSBoringData = Grid(MaxLith, 2);
+        frmGIS::Title = frmGIS::FileName = "";
+        frmGIS::File1 = {};
         ForgetPatterns();
         TintsInMemory = false;
         jobCode = runFileCount = singleFile = introType = dialogBusy = stopRequested = 0;
