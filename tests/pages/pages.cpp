@@ -8,6 +8,7 @@
 #include "canvas/screenview.h"
 #include "logrender/intropage.h"
 #include "logrender/vlog.h"
+#include "sections/soiltable.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"
@@ -36,19 +37,21 @@ void LayOutFolder(const std::string& folder)
         }
 }
 
-// The run that Preview makes of each boring, with this report choice of the batch dialog.
-static std::string DrawBorings(const std::string& folder, const std::vector<Text>& borings, int reportOption)
+// The print run that each file makes alone, with this report choice of the batch dialog.
+static std::string DrawFiles(const std::string& folder, const std::vector<Text>& files, int16_t job,
+                             int reportOption = 0)
 {
     LayOutFolder(folder);
     TintsInMemory = true;
     JobTable[2] = VLOG::vlogstart;
+    JobTable[8] = VCROSS::vsoilstart;
     IntroPages = VLOG::vlogintrostart;
     std::string listing;
     Listings.clear();
-    for (const Text& boring : borings) {
-        jobCode = 2;
+    for (const Text& file : files) {
+        jobCode = job;
         singleFile = 1;
-        singleFileName = boring;
+        singleFileName = file;
         frmDrawPrint::Dialog = frmDrawPrint::Record();
         DrawPrintLoad();
         frmDrawPrint::Dialog.ReportOption = reportOption;
@@ -62,12 +65,17 @@ static std::string DrawBorings(const std::string& folder, const std::vector<Text
 
 std::string DrawLogs(const std::string& folder, const std::vector<Text>& borings)
 {
-    return DrawBorings(folder, borings, 0);
+    return DrawFiles(folder, borings, 2);
 }
 
 std::string DrawIntro(const std::string& folder, const std::vector<Text>& borings, int arrangement)
 {
-    return DrawBorings(folder, borings, arrangement);
+    return DrawFiles(folder, borings, 2, arrangement);
+}
+
+std::string DrawSoilTables(const std::string& folder, const std::vector<Text>& tables)
+{
+    return DrawFiles(folder, tables, 8);
 }
 
 static std::vector<std::string> SplitLines(const std::string& text)
