@@ -67,6 +67,17 @@ TEST_CASE("notes are loaded with a line end between them; a closing mark goes, a
     CHECK(Saved() == saved);
 }
 
+TEST_CASE("empty paragraphs at the end of the notes are gone with the next opening, all at once")
+{
+    Open(cells + Lines({"", "", "", "", "", "", "", "", "", ""}));
+    MemoSoil.text = "one\r\n\r\ntwo\r\n\r\n\r\n";
+    Open(Saved());
+    CHECK(MemoSoil.text == "one\r\n\r\ntwo");
+    const std::string saved = Saved();
+    Open(saved);
+    CHECK(Saved() == saved);
+}
+
 TEST_CASE("a mark within a line of the notes stays")
 {
     Open(cells + Lines({"1\xB6 2", "", "", "", "", "", "", "", "", ""}));
