@@ -173,7 +173,7 @@ struct Fresh : doctest::IReporter {
         SoilData = SoilRecord();
         frmSoil::FileName = "";
         frmSoil::SS1 = Grid(MaxSoilCells, 1);
-        GisData = GisRecord();
+        ClearGISArrays();
         boringSummary = {};
         boringLithology = {};
         frmGIS::SSGISLayers = Grid(MaxGisLayers, 2);

@@ -47,7 +47,7 @@ TEST_CASE("a damaged GIS table opens with a known message or none, takes a borin
 {
     const std::string table = Stock("WIREWICK.GIS");
     WriteScratch("B.BOR", Stock("MW-108.BOR"));
-    const int count = MutantCount(400);
+    const int count = MutantCount(150);
     int told = 0;
     for (int seed = 1; seed <= count; ++seed) {
         INFO("seed ", seed);
@@ -83,7 +83,7 @@ TEST_CASE("a damaged GIS table opens with a known message or none, takes a borin
 TEST_CASE("a damaged boring is added to the GIS table and looked at, with a known message or none")
 {
     const std::string boring = Stock("MW-108.BOR");
-    const int count = MutantCount(400);
+    const int count = MutantCount(150);
     int told = 0;
     for (int seed = 1; seed <= count; ++seed) {
         INFO("seed ", seed);
@@ -141,7 +141,7 @@ static int RunTables(const std::string& table, const std::string& boring, bool d
 TEST_CASE("a damaged soil table, or one of a damaged boring, draws its page and says what is amiss in known words")
 {
     const std::string table = Stock("SB-111.SOI"), boring = Stock("SB-111.BOR");
-    const int count = MutantCount(400) / 2;
+    const int count = MutantCount(200) / 2;
     for (const bool damageBoring : {false, true}) {
         const int told = RunTables(table, boring, damageBoring, count);
         CHECK(told > count / 20);
@@ -152,7 +152,7 @@ TEST_CASE("a damaged soil table, or one of a damaged boring, draws its page and 
 TEST_CASE("a damaged soil table comes into its form with a known message or none, and is the same when saved twice")
 {
     const std::string table = Stock("SB-111.SOI");
-    const int count = MutantCount(400);
+    const int count = MutantCount(150);
     int told = 0, saved = 0;
     for (int seed = 1; seed <= count; ++seed) {
         INFO("seed ", seed);
