@@ -23,7 +23,10 @@
 #include "report/layoutedit.h"
 #include "report/logo.h"
 #include "report/prompts.h"
+#include "sections/crossfile.h"
+#include "sections/crossrun.h"
 #include "sections/fencefile.h"
+#include "sections/layershapes.h"
 #include "sections/soilfile.h"
 #include "sections/soiltable.h"
 #include "session/deviceconfig.h"
@@ -138,6 +141,12 @@ struct Fresh : doctest::IReporter {
         frmOpenSave::SS.Clear();
         frmOpenSave::HiddenFolder = "";
         frmOpenSave::HiddenFiles.clear();
+        CrossData = CrossRecord();
+        frmCross::FileName = "";
+        frmCross::SS1 = Grid(CrossRecord::FormBorings, 5);
+        for (Grid* grid : {&frmCross::SS2, &frmCross::SS3, &frmCross::SS4})
+            *grid = Grid(grid->rows, grid->columns);
+        VCROSS::ResetCrossRun();
         FenceData = FenceRecord();
         frmFence::FileName = "";
         for (Grid* grid : {&frmFence::SS1, &frmFence::SS2, &frmFence::SS3, &frmFence::SS4, &frmFence::SS5})
@@ -169,6 +178,7 @@ struct Fresh : doctest::IReporter {
         LogPage = LogPageRecord();
         LogBoring = LogBoringRecord();
         LogGeometry = LogGeometryRecord();
+        VCROSS::LayerFill = VCROSS::LayerFillRecord();
         VCROSS::SoilRun = VCROSS::SoilRunRecord();
         SoilData = SoilRecord();
         frmSoil::FileName = "";

@@ -13,6 +13,8 @@
 #include "platform/qt/pagepainter.h"
 #include "platform/qt/pdfrun.h"
 #include "platform/qt/pngpages.h"
+#include "sections/crossrun.h"
+#include "sections/fencerun.h"
 #include "sections/soiltable.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
@@ -207,6 +209,8 @@ static void FillPlatform()
 static void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
+    JobTable[3] = JobTable[4] = VCROSS::vcrossstart;
+    JobTable[5] = JobTable[6] = VCROSS::vfencestart;
     JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
     JobTable[9] = patternstart;
     IntroPages = VLOG::vlogintrostart;

@@ -8,6 +8,8 @@
 #include "canvas/screenview.h"
 #include "logrender/intropage.h"
 #include "logrender/vlog.h"
+#include "sections/crossrun.h"
+#include "sections/fencerun.h"
 #include "sections/soiltable.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
@@ -37,13 +39,14 @@ void LayOutFolder(const std::string& folder)
         }
 }
 
-// The print run that each file makes alone, with this report choice of the batch dialog.
-static std::string DrawFiles(const std::string& folder, const std::vector<Text>& files, int16_t job,
-                             int reportOption = 0)
+// The run that Preview makes of each file, with this report choice of the batch dialog.
+static std::string DrawFiles(const std::string& folder, int16_t job, const std::vector<Text>& files, int reportOption)
 {
     LayOutFolder(folder);
     TintsInMemory = true;
     JobTable[2] = VLOG::vlogstart;
+    JobTable[4] = VCROSS::vcrossstart;
+    JobTable[6] = VCROSS::vfencestart;
     JobTable[8] = VCROSS::vsoilstart;
     IntroPages = VLOG::vlogintrostart;
     std::string listing;
@@ -65,17 +68,17 @@ static std::string DrawFiles(const std::string& folder, const std::vector<Text>&
 
 std::string DrawLogs(const std::string& folder, const std::vector<Text>& borings)
 {
-    return DrawFiles(folder, borings, 2);
+    return DrawFiles(folder, 2, borings, 0);
 }
 
 std::string DrawIntro(const std::string& folder, const std::vector<Text>& borings, int arrangement)
 {
-    return DrawFiles(folder, borings, 2, arrangement);
+    return DrawFiles(folder, 2, borings, arrangement);
 }
 
-std::string DrawSoilTables(const std::string& folder, const std::vector<Text>& tables)
+std::string DrawSheets(const std::string& folder, int16_t job, const std::vector<Text>& files)
 {
-    return DrawFiles(folder, tables, 8);
+    return DrawFiles(folder, job, files, 0);
 }
 
 static std::vector<std::string> SplitLines(const std::string& text)

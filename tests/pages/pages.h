@@ -17,8 +17,9 @@ std::string DrawLogs(const std::string& folder, const std::vector<Text>& borings
 // The intro pages of the borings in the same way, in arrangement 1 or 2.
 std::string DrawIntro(const std::string& folder, const std::vector<Text>& borings, int arrangement);
 
-// The soil tables in the same way.
-std::string DrawSoilTables(const std::string& folder, const std::vector<Text>& tables);
+// Sections, fences or tables in the same way, by the code of the job that prints them: 4 sections, 6 fences, 8 soil
+// tables.
+std::string DrawSheets(const std::string& folder, int16_t job, const std::vector<Text>& files);
 
 // Compares with the kept listing tests/pages/NAME.jsonl, line by line; says the first lines that differ. With
 // STRATAVUE_ACCEPT set to the name, its folder or "all", the kept listing is replaced instead.

@@ -42,7 +42,7 @@ TEST_CASE("the sample soil tables draw the kept pages, one with values and one w
         CAPTURE(table);
         std::filesystem::remove_all(ScratchFolder());
         std::filesystem::create_directories(ScratchFolder());
-        const std::string listing = DrawSoilTables(folder, {table});
+        const std::string listing = DrawSheets(folder, 8, {table});
         for (const PlainMessage& message : Messages)
             FAIL_CHECK(message.words);
         Messages.clear();
