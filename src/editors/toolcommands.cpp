@@ -3,6 +3,7 @@
 
 #include "canvas/batch.h"
 #include "report/fontprofile.h"
+#include "report/prompts.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -28,6 +29,30 @@ void ForgetSteps(ToolRecord& tool)
 
 // ---- Boxes
 
+static std::vector<Text> Labels(int firstSlot, std::initializer_list<const char*> design, int slots)
+{
+    std::vector<Text> labels(1);
+    for (const char* words : design) {
+        const int i = int(labels.size()) - 1;
+        labels.push_back(i < slots ? PromptLabel(firstSlot + i, words) : Text(words));
+    }
+    return labels;
+}
+
+void LabelGrid(Grid& grid, int titleSlot, const char* title, int firstSlot, std::initializer_list<const char*> columns,
+               int slots)
+{
+    grid.title = PromptLabel(titleSlot, title);
+    grid.headings = Labels(firstSlot, columns, slots);
+    grid.headings.resize(size_t(grid.columns) + 1);
+}
+
+void LabelRows(Grid& grid, int titleSlot, const char* title, int firstSlot, std::initializer_list<const char*> rows)
+{
+    grid.title = PromptLabel(titleSlot, title);
+    grid.rowHeadings = Labels(firstSlot, rows, int(rows.size()));
+}
+
 static void BlankBoxes(ToolRecord& tool)
 {
     for (Grid* grid : tool.grids) {
@@ -39,8 +64,6 @@ static void BlankBoxes(ToolRecord& tool)
     }
     if (tool.memo)
         tool.memo->text = "";
-    if (tool.EmptyBoxes)
-        tool.EmptyBoxes();
 }
 
 // Boxes and record as for a file that is not there yet.
@@ -260,6 +283,8 @@ static bool TakesRows(const ToolRecord& tool, const Grid& grid)
 
 void ToolInsertRow(ToolRecord& tool)
 {
+    if (tool.InsertRow)
+        return tool.InsertRow();
     Grid& grid = ActiveGrid(tool);
     if (TakesRows(tool, grid) && InsertRow(grid))
         FileChanged = 1;
@@ -267,6 +292,8 @@ void ToolInsertRow(ToolRecord& tool)
 
 void ToolDeleteRow(ToolRecord& tool)
 {
+    if (tool.DeleteRow)
+        return tool.DeleteRow();
     Grid& grid = ActiveGrid(tool);
     if (!TakesRows(tool, grid))
         return;
