@@ -22,6 +22,8 @@
 #include "report/layoutedit.h"
 #include "report/logo.h"
 #include "report/prompts.h"
+#include "sections/crossfile.h"
+#include "sections/crossrun.h"
 #include "sections/fencefile.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
@@ -135,6 +137,12 @@ struct Fresh : doctest::IReporter {
         frmOpenSave::SS.Clear();
         frmOpenSave::HiddenFolder = "";
         frmOpenSave::HiddenFiles.clear();
+        CrossData = CrossRecord();
+        frmCross::FileName = "";
+        frmCross::SS1 = Grid(CrossRecord::FormBorings, 5);
+        for (Grid* grid : {&frmCross::SS2, &frmCross::SS3, &frmCross::SS4})
+            *grid = Grid(grid->rows, grid->columns);
+        VCROSS::ResetCrossRun();
         FenceData = FenceRecord();
         frmFence::FileName = "";
         for (Grid* grid : {&frmFence::SS1, &frmFence::SS2, &frmFence::SS3, &frmFence::SS4, &frmFence::SS5})

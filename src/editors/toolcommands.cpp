@@ -21,6 +21,11 @@ bool Saved(void (*save)())
     return FailuresReported == before;
 }
 
+Text CountOf(int count, const char* one, const char* more)
+{
+    return PlainNumber(count) + " " + (count == 1 ? one : more);
+}
+
 void ForgetSteps(ToolRecord& tool)
 {
     for (Grid* grid : tool.grids)

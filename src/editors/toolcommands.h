@@ -31,6 +31,7 @@ struct ToolRecord {
     void (*Label)() = nullptr;        // the words of the boxes, as the office has them
     // Does the work, and puts back all that a save and a run of this tool write. Null for a tool that draws nothing.
     void (*Undisturbed)(const std::function<void()>& work) = nullptr;
+    Text (*State)() = nullptr; // a few words for the status bar: how much is there
     bool titleInFront = false; // the title stands in front of the file's name, and alone while there is none
     // The Edit menu's, where they do not go by the grid last entered; may be null.
     void (*InsertRow)() = nullptr;
@@ -44,6 +45,8 @@ struct ToolRecord {
 // The tool whose window comes once the one in front has closed; Tool::Log leads back to the log window.
 extern Tool NextTool;
 
+// "1 boring", "7 borings".
+Text CountOf(int count, const char* one, const char* more);
 // A saver without an answer of its own: true when it has reported no failure.
 bool Saved(void (*save)());
 

@@ -1,7 +1,23 @@
 // gistool.cpp -- the workbench's table.
 #include "gis/gistool.h"
 
-ToolRecord GisTool = {
+#include "editors/hush.h"
+
+// A save gives each layer of the list its column.
+static void Undisturbed(const std::function<void()>& work)
+{
+    const Kept form(GisData);
+    const Kept table(frmGIS::SSGISInfo);
+    work();
+}
+
+static Text State()
+{
+    return CountOf(frmGIS::SSGISInfo.DataRowCount(), "boring", "borings") + ", " +
+           CountOf(frmGIS::SSGISLayers.DataRowCount(), "layer", "layers");
+}
+
+ToolRecord GisForm = {
     .tool = Tool::GIS,
     .window = "frmGIS",
     .title = "VeskGIS",
@@ -15,6 +31,8 @@ ToolRecord GisTool = {
     .ClearArrays = ClearGISForm, // the columns of the table go with the layers
     .FillForm = FillGISForm,
     .Label = frmGIS::LabelBoxes,
+    .Undisturbed = Undisturbed,
+    .State = State,
     .titleInFront = true,
     .InsertRow = frmGIS::mnuInsertRow,
     .DeleteRow = frmGIS::mnuDeleteRow,

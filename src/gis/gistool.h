@@ -4,17 +4,17 @@
 #include "editors/toolcommands.h"
 #include "gis/gisfile.h"
 
-extern ToolRecord GisTool;
+extern ToolRecord GisForm;
 
 namespace frmGIS
 {
-inline constexpr auto mnuNew = OfTool<GisTool, ToolNew>;
-inline constexpr auto mnuOpen = OfTool<GisTool, ToolOpen>;
-inline constexpr auto mnuSave = OfTool<GisTool, ToolSave>;
-inline constexpr auto mnuSaveAs = OfTool<GisTool, ToolSaveAs>;
-inline constexpr auto mnuVeskLog = FromTool<GisTool, Tool::Log>;
-inline constexpr auto mnuVeskCross = FromTool<GisTool, Tool::Cross>;
-inline constexpr auto mnuVeskFence = FromTool<GisTool, Tool::Fence>;
-inline constexpr auto mnuVeskSoil = FromTool<GisTool, Tool::Soil>;
-inline constexpr auto mnuExit = OfTool<GisTool, ToolExit>;
+inline constexpr auto mnuNew = OfTool<GisForm, ToolNew>;
+inline constexpr auto mnuOpen = OfTool<GisForm, ToolOpen>;
+inline constexpr auto mnuSave = OfTool<GisForm, ToolSave>;
+inline constexpr auto mnuSaveAs = OfTool<GisForm, ToolSaveAs>;
+inline constexpr auto mnuVeskLog = FromTool<GisForm, Tool::Log>;
+inline constexpr auto mnuVeskCross = FromTool<GisForm, Tool::Cross>;
+inline constexpr auto mnuVeskFence = FromTool<GisForm, Tool::Fence>;
+inline constexpr auto mnuVeskSoil = FromTool<GisForm, Tool::Soil>;
+inline constexpr auto mnuExit = OfTool<GisForm, ToolExit>;
 } // namespace frmGIS

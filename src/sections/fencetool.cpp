@@ -2,9 +2,9 @@
 #include "sections/fencetool.h"
 
 #include "boring/opensave.h"
+#include "editors/hush.h"
 #include "gis/gisfile.h"
 #include "sections/fencerun.h"
-#include "session/kept.h"
 
 void frmFence::LabelBoxes()
 {
@@ -28,7 +28,13 @@ static void Undisturbed(const std::function<void()>& work)
     work();
 }
 
-ToolRecord FenceTool = {
+static Text State()
+{
+    return CountOf(frmFence::SS1.DataRowCount(), "boring", "borings") + ", " +
+           CountOf(frmFence::SS5.DataRowCount(), "panel", "panels");
+}
+
+ToolRecord FenceForm = {
     .tool = Tool::Fence,
     .window = "frmFence",
     .title = "VeskFence - Fence Diagram",
@@ -45,4 +51,5 @@ ToolRecord FenceTool = {
     .FillForm = FillFenceForm,
     .Label = frmFence::LabelBoxes,
     .Undisturbed = Undisturbed,
+    .State = State,
 };

@@ -1,7 +1,7 @@
 // soiltool.cpp -- the soil tool's table.
 #include "sections/soiltool.h"
 
-#include "session/kept.h"
+#include "editors/hush.h"
 
 static void Undisturbed(const std::function<void()>& work)
 {
@@ -9,7 +9,13 @@ static void Undisturbed(const std::function<void()>& work)
     work();
 }
 
-ToolRecord SoilTool = {
+static Text State()
+{
+    return PlainNumber(int(frmSoil::MemoSoil.DisplayLines().size())) + " of " + PlainNumber(MaxSoilNotes) +
+           " lines of notes";
+}
+
+ToolRecord SoilForm = {
     .tool = Tool::Soil,
     .window = "frmSoil",
     .title = "VeskSoil - Soil Analysis Table",
@@ -30,4 +36,5 @@ ToolRecord SoilTool = {
             frmSoil::SizeMemo();
         },
     .Undisturbed = Undisturbed,
+    .State = State,
 };

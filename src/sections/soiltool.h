@@ -4,20 +4,20 @@
 #include "editors/toolcommands.h"
 #include "sections/soilfile.h"
 
-extern ToolRecord SoilTool;
+extern ToolRecord SoilForm;
 
 namespace frmSoil
 {
-inline constexpr auto mnuNew = OfTool<SoilTool, ToolNew>;
-inline constexpr auto mnuOpen = OfTool<SoilTool, ToolOpen>;
-inline constexpr auto mnuSave = OfTool<SoilTool, ToolSave>;
-inline constexpr auto mnuSaveAs = OfTool<SoilTool, ToolSaveAs>;
-inline constexpr auto mnuPreview = OfTool<SoilTool, ToolPreview>;
-inline constexpr auto mnuBatchDraw = OfTool<SoilTool, ToolBatchDraw>;
-inline constexpr auto mnuPrint = OfTool<SoilTool, ToolPrint>;
-inline constexpr auto mnuVeskLog = FromTool<SoilTool, Tool::Log>;
-inline constexpr auto mnuVeskCross = FromTool<SoilTool, Tool::Cross>;
-inline constexpr auto mnuVeskFence = FromTool<SoilTool, Tool::Fence>;
-inline constexpr auto mnuVeskGIS = FromTool<SoilTool, Tool::GIS>;
-inline constexpr auto mnuExit = OfTool<SoilTool, ToolExit>;
+inline constexpr auto mnuNew = OfTool<SoilForm, ToolNew>;
+inline constexpr auto mnuOpen = OfTool<SoilForm, ToolOpen>;
+inline constexpr auto mnuSave = OfTool<SoilForm, ToolSave>;
+inline constexpr auto mnuSaveAs = OfTool<SoilForm, ToolSaveAs>;
+inline constexpr auto mnuPreview = OfTool<SoilForm, ToolPreview>;
+inline constexpr auto mnuBatchDraw = OfTool<SoilForm, ToolBatchDraw>;
+inline constexpr auto mnuPrint = OfTool<SoilForm, ToolPrint>;
+inline constexpr auto mnuVeskLog = FromTool<SoilForm, Tool::Log>;
+inline constexpr auto mnuVeskCross = FromTool<SoilForm, Tool::Cross>;
+inline constexpr auto mnuVeskFence = FromTool<SoilForm, Tool::Fence>;
+inline constexpr auto mnuVeskGIS = FromTool<SoilForm, Tool::GIS>;
+inline constexpr auto mnuExit = OfTool<SoilForm, ToolExit>;
 } // namespace frmSoil

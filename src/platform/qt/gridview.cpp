@@ -16,7 +16,7 @@ class GridModel : public QAbstractTableModel
 {
 public:
     GridModel(Grid& shown, QObject* parent)
-        : QAbstractTableModel(parent), grid(shown), rows(shown.rows), columns(shown.columns - shown.hidden)
+        : QAbstractTableModel(parent), grid(shown), rows(shown.rows), columns(shown.columns)
     {
     }
     // Tells the view of what differs from what it was last told.
@@ -102,7 +102,7 @@ private:
     // Rows and columns come and go at the end; what stands in the others is told as changed cells.
     void Resize()
     {
-        const int newRows = grid.rows, newColumns = grid.columns - grid.hidden;
+        const int newRows = grid.rows, newColumns = grid.columns;
         if (newRows > rows) {
             beginInsertRows({}, rows, newRows - 1);
             rows = newRows;
