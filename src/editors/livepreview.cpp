@@ -8,6 +8,7 @@
 #include "canvas/metaugl.h"
 #include "canvas/screenview.h"
 #include "editors/fillform.h"
+#include "editors/hush.h"
 #include "logrender/logdata.h"
 #include "session/files.h"
 #include "session/platform.h"
@@ -15,29 +16,8 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <memory>
 
 static LivePage* drawn; // where the run leaves its page
-
-namespace
-{
-// All that a save and a run write, put back at the end.
-template <class T>
-struct Kept {
-    explicit Kept(T& variable) : live(variable), before(std::make_unique<T>(variable))
-    {
-    }
-    ~Kept()
-    {
-        live = std::move(*before);
-    }
-    Kept(const Kept&) = delete;
-    Kept& operator=(const Kept&) = delete;
-
-    T& live;
-    std::unique_ptr<T> before;
-};
-} // namespace
 
 // The page is complete: taken, and the run ended.
 static void TakePage()
@@ -52,28 +32,12 @@ static void TakePage()
     ExitRun();
 }
 
-// The seam for a run that nobody is to notice.
-static void Hush()
-{
-    Platform.MsgBox = [](const Text&, Buttons buttons, Icon) { return int(buttons == OkOnly ? Ok : No); };
-    Platform.InputBox = [](const Text&, const Text&, const Text&) { return Text(); };
-    Platform.PageDrawn = [] {};
-    Platform.ShowPage = TakePage;
-    Platform.ShowProgress = [](bool) {};
-    Platform.StepProgress = [](const Text&, float) {};
-    Platform.Breathe = [] {};
-    Platform.Unattended = true;
-}
-
 bool DrawLivePage(int number, const Text& folder, LivePage& page)
 {
-    const Kept platform(Platform);
+    const Hushed quiet;
     const Kept name(BoringFileName);
     const Kept runFolder(RunFolder);
-    const Kept changed(FileChanged), deviceChanged(DeviceChanged), mode(DialogMode);
     const Kept record(BoringData);
-    const Kept lines(LineBuffer);
-    const Kept lineCount(LineCount);
     const Kept list(PageList);
     const Kept canvas(PageCanvas);
     const Kept pages(RunPages);
@@ -84,7 +48,7 @@ bool DrawLivePage(int number, const Text& folder, LivePage& page)
     const Kept option(frmDrawPrint::Dialog.ReportOption);
     const Kept which(frmDrawPrint::Dialog.Text1);
     const Kept close(frmDrawPrint::CloseWindow);
-    Hush();
+    Platform.ShowPage = TakePage;
     const Text file = JoinPath(folder, "preview.BOR");
     std::error_code ignored;
     std::filesystem::remove(NativePath(file), ignored);
