@@ -28,6 +28,7 @@
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
+#include "session/recovery.h"
 #include "session/session.h"
 
 #include <algorithm>
@@ -119,6 +120,9 @@ struct Fresh : doctest::IReporter {
     }
     void test_case_start(const doctest::TestCaseData&) override
     {
+        EndRecovery();
+        RecoveryTools = {};
+        RecoveryInterval = 60000;
         std::filesystem::remove_all(scratch);
         std::filesystem::create_directories(scratch);
         UsePlainPlatform();

@@ -11,6 +11,8 @@
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
 #include "session/files.h"
+#include "session/platform.h"
+#include "session/recovery.h"
 #include "session/session.h"
 
 #include <QAction>
@@ -40,6 +42,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <functional>
 
 namespace
@@ -49,6 +52,7 @@ class BorinputWindow : public QMainWindow
 public:
     BorinputWindow();
     void Refresh();
+    void Run(const std::function<void()>& command);
     bool ending = false; // the user has been asked; nothing holds the window any more
 
 protected:
@@ -61,7 +65,6 @@ private:
     QAction* Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
                    std::function<void()> command);
     void FillMenus();
-    void Run(const std::function<void()>& command);
     void UndoOrRedo(bool undo);
     void Typed(); // a box has changed: what stands elsewhere is shown anew
     void ShowState();
@@ -157,6 +160,9 @@ BorinputWindow::BorinputWindow()
     state->setContentsMargins(8, 0, 8, 0);
     statusBar()->addWidget(project, 1);
     statusBar()->addPermanentWidget(state);
+    auto* copies = new QTimer(this);
+    connect(copies, &QTimer::timeout, this, KeepCopy);
+    copies->start(std::max(RecoveryInterval / 12, 1));
     resize(QSize(1180, 780).boundedTo(screen()->availableGeometry().size() * 0.95));
     CentreOnScreen(*this);
     Refresh();
@@ -779,14 +785,23 @@ void ShowLogWindow()
         frmBorinput::Load();
         window = new BorinputWindow;
         window->show();
+        StartRecovery(JoinPath(Platform.DataFolder(), "Stratavue/recovery"));
+        WatchTool(LogTool);
         StartDone = true;
     } catch (...) {
         TellRunTimeError();
     }
 }
 
+void OfferRecovery()
+{
+    if (window)
+        window->Run(OfferCopies);
+}
+
 void EndProgram()
 {
+    EndRecovery();
     if (window)
         window->ending = true;
     QApplication::quit();

@@ -2,12 +2,14 @@
 #include "editors/toolcommands.h"
 
 #include "canvas/batch.h"
+#include "editors/hush.h"
 #include "report/fontprofile.h"
 #include "report/prompts.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/gridedit.h"
+#include "session/recovery.h"
 #include "session/session.h"
 
 #include <algorithm>
@@ -81,14 +83,54 @@ static void StartAnew(ToolRecord& tool)
     ForgetSteps(tool);
 }
 
+static ToolRecord* recovered; // a tool with a recovery copy in its boxes, whose window is to come
+
 void LoadTool(ToolRecord& tool)
 {
+    if (recovered == &tool) {
+        recovered = nullptr;
+        return;
+    }
     StartAnew(tool);
     tool.active = nullptr;
     tool.Label();
     for (Grid* grid : tool.grids)
         grid->changed = [] { FileChanged = 1; };
     tool.Title = tool.titleInFront ? Text(tool.title) : ProjectPath + " - " + tool.title;
+}
+
+int RecoveryNumber(Tool tool)
+{
+    return int(tool) + LogTool;
+}
+
+void WriteToolCopy(ToolRecord& tool, const Text& copy)
+{
+    const Hushed quiet;
+    const Kept name(tool.FileName);
+    tool.FileName = copy;
+    tool.Undisturbed([&tool] { tool.SaveFile(); });
+}
+
+void OpenToolCopy(ToolRecord& tool, const Text& copy, const Text& name)
+{
+    LoadTool(tool);
+    tool.FileName = copy;
+    tool.OpenFile();
+    tool.FileName = name;
+    tool.FillForm();
+    if (name.empty())
+        tool.Title = tool.title;
+    ForgetSteps(tool);
+    FileChanged = 1;
+    WatchTool(RecoveryNumber(tool.tool));
+    recovered = &tool;
+}
+
+void ShowRecoveredTool()
+{
+    if (recovered)
+        Platform.ShowTool(recovered->tool);
 }
 
 // ---- File
@@ -103,6 +145,7 @@ static bool SaveFirst(ToolRecord& tool, const char* question)
     case Yes:
         return ToolSave(tool);
     case No:
+        DropCopy();
         return true;
     default:
         return false;
@@ -111,6 +154,7 @@ static bool SaveFirst(ToolRecord& tool, const char* question)
 
 static void Clear(ToolRecord& tool)
 {
+    LeaveDocument();
     StartAnew(tool);
     tool.Title = tool.title;
     if (DeviceConfig.FontName != "Arial")
@@ -143,6 +187,7 @@ void ToolOpen(ToolRecord& tool)
     Platform.ShowChooser();
     if (!DialogResult.empty())
         Open(tool, DialogResult);
+    KeepCopy(); // what was dropped by a No, where the user has chosen nothing then
 }
 
 void ToolOpenNamed(ToolRecord& tool, const Text& name)
@@ -151,11 +196,21 @@ void ToolOpenNamed(ToolRecord& tool, const Text& name)
         Open(tool, name);
 }
 
+// The tool's save, with its recovery copy.
+static bool Write(ToolRecord& tool)
+{
+    static ToolRecord* saving;
+    static bool written;
+    saving = &tool;
+    SaveDocument([] { written = saving->SaveFile(); });
+    return written;
+}
+
 bool ToolSave(ToolRecord& tool)
 {
     if (tool.FileName.empty())
         return ToolSaveAs(tool);
-    if (!tool.SaveFile())
+    if (!Write(tool))
         return false;
     FileChanged = 0;
     return true;
@@ -175,7 +230,7 @@ bool ToolSaveAs(ToolRecord& tool)
         return false;
     const Text before = tool.FileName;
     tool.FileName = name;
-    if (!tool.SaveFile()) {
+    if (!Write(tool)) {
         tool.FileName = before;
         return false;
     }
@@ -248,6 +303,7 @@ static bool Leave(ToolRecord& tool, Tool next)
 {
     if (!SaveFirst(tool, "Would you like to save the current file before quitting?"))
         return false;
+    LeaveDocument();
     FileChanged = 0;
     NextTool = next;
     if (tool.Unload)

@@ -29,7 +29,7 @@ struct ToolRecord {
     void (*ClearArrays)() = nullptr;  // empties the record
     void (*FillForm)() = nullptr;     // the record into the boxes, and the title
     void (*Label)() = nullptr;        // the words of the boxes, as the office has them
-    // Does the work, and puts back all that a save and a run of this tool write. Null for a tool that draws nothing.
+    // Does the work, and puts back all that a save and a run of this tool write.
     void (*Undisturbed)(const std::function<void()>& work) = nullptr;
     Text (*State)() = nullptr; // a few words for the status bar: how much is there
     bool titleInFront = false; // the title stands in front of the file's name, and alone while there is none
@@ -69,6 +69,13 @@ void ToolInsertRow(ToolRecord& tool);
 void ToolDeleteRow(ToolRecord& tool);
 void ForgetSteps(ToolRecord& tool); // of all its grids
 
+// Recovery (session/recovery.h): what stands in the boxes as a file; and such a file into the boxes, whose window comes
+// with ShowRecoveredTool.
+void WriteToolCopy(ToolRecord& tool, const Text& copy);
+void OpenToolCopy(ToolRecord& tool, const Text& copy, const Text& name);
+void ShowRecoveredTool();
+int RecoveryNumber(Tool tool);
+
 // The same as procedures of a tool's own, for its namespace.
 template <ToolRecord& tool, auto command>
 auto OfTool()
@@ -79,6 +86,16 @@ template <ToolRecord& tool, Tool next>
 bool FromTool()
 {
     return ToolHandOver(tool, next);
+}
+template <ToolRecord& tool>
+void CopyOfTool(const Text& copy)
+{
+    WriteToolCopy(tool, copy);
+}
+template <ToolRecord& tool>
+void ToolOfCopy(const Text& copy, const Text& name)
+{
+    OpenToolCopy(tool, copy, name);
 }
 
 // The labels of a grid: by design, or what the prompts have set for the slots. The title's slot, then the first one of

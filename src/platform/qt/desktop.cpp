@@ -7,6 +7,7 @@
 #include "logrender/vlog.h"
 #include "platform/qt/boxes.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/headless.h"
 #include "platform/qt/helpwindow.h"
 #include "platform/qt/printers.h"
 #include "platform/qt/uitext.h"
@@ -15,6 +16,8 @@
 #include "report/fontprofile.h"
 #include "report/oldboring.h"
 #include "session/platform.h"
+#include "session/recovery.h"
+#include "session/session.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -76,6 +79,12 @@ static void FillCommandTable()
     SetupChange.loaddeslists = loaddeslists;
 }
 
+// What each tool does with its recovery copies.
+static void FillRecoveryTools()
+{
+    RecoveryTools[LogTool] = {"VeskLog", &BoringFileName, frmBorinput::WriteCopy, frmBorinput::OpenCopy};
+}
+
 void UseDesktopPlatform()
 {
     Platform.MsgBox = ShowMessageBox;
@@ -99,6 +108,7 @@ void UseDesktopPlatform()
     Platform.ChooseFont = ShowFontDialog;
     Platform.PrintToPdf = ForcePdf;
     Platform.ExecutableFolder = ExecutableFolder;
+    Platform.DataFolder = UserDataFolder;
     Platform.ShowAbout = ShowAboutBox;
     Platform.ShowLogWindow = ShowLogWindow;
     Platform.ShowWelcome = ShowWelcomeWindow;
@@ -110,6 +120,7 @@ void UseDesktopPlatform()
     Platform.ShortDate = Today;
     Platform.Unattended = false;
     FillCommandTable();
+    FillRecoveryTools();
     FillOlderForms();
 }
 
