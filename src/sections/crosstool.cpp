@@ -29,8 +29,8 @@ static void PutHiddenCells(const std::vector<Text>& cells)
 void frmCross::LabelBoxes()
 {
     constexpr int slotsOfBorings = 4; // the fifth column came later than the list of labels
-    LabelGrid(SS1, 131, "Boring Information", 132,
-              {"Distance", "Boring File", "Water Dep.", "Label W/B", "Label T/B"}, slotsOfBorings);
+    LabelGrid(SS1, 131, "Boring Information", 132, {"Distance", "Boring File", "Water Dep.", "Label W/B", "Label T/B"},
+              slotsOfBorings);
     LabelRows(SS3, 136, "Report Information", 137,
               {"Main Title", "Title 1", "Title 2", "Left Cor. Label", "Right Cor. Label", "Draw Layers (Y/N/I)",
                "Page Size (L/T)", "GIS File", "Parameter (GPn/Pn)"});

@@ -124,7 +124,7 @@ private:
     }
 
     Grid& grid;
-    int rows, columns;                              // as the view knows them, and so the others
+    int rows, columns; // as the view knows them, and so the others
     std::vector<Text> cells, headings, rowHeadings;
     Text fontName;
     QModelIndex typed;
@@ -337,8 +337,8 @@ void GridView::Step(int rows, int columns)
 bool GridView::focusNextPrevChild(bool next)
 {
     const QModelIndex at = currentIndex();
-    const bool edge =
-        next ? at.row() == model->rowCount({}) - 1 && at.column() == model->columnCount({}) - 1 : at.row() == 0 && at.column() == 0;
+    const bool edge = next ? at.row() == model->rowCount({}) - 1 && at.column() == model->columnCount({}) - 1
+                           : at.row() == 0 && at.column() == 0;
     if (edge || !at.isValid())
         return QAbstractScrollArea::focusNextPrevChild(next);
     Step(0, next ? 1 : -1);
