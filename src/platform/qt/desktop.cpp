@@ -19,6 +19,7 @@
 #include "sections/crosstool.h"
 #include "sections/fencetool.h"
 #include "sections/soiltool.h"
+#include "sections/soiltable.h"
 #include "session/platform.h"
 #include "session/recovery.h"
 #include "session/session.h"
@@ -165,6 +166,7 @@ void UseDesktopPlatform()
 void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
+    JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
     JobTable[9] = patternstart;
     IntroPages = VLOG::vlogintrostart;
 }
