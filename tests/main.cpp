@@ -25,6 +25,7 @@
 #include "sections/crossfile.h"
 #include "sections/crossrun.h"
 #include "sections/fencefile.h"
+#include "sections/layershapes.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -178,6 +179,7 @@ struct Fresh : doctest::IReporter {
         LogPage = LogPageRecord();
         LogBoring = LogBoringRecord();
         LogGeometry = LogGeometryRecord();
+        VCROSS::LayerFill = VCROSS::LayerFillRecord();
         ForgetPatterns();
         TintsInMemory = false;
         jobCode = runFileCount = singleFile = introType = dialogBusy = stopRequested = 0;

@@ -15,6 +15,7 @@ static constexpr BatchJob Jobs[] = {
     {"log", 2, 0, LogOptions, "FILE.BOR...", "the boring logs of saved borings"},
     {"intro", 2, 1, IntroOptions, "FILE.BOR...", "the intro pages of saved borings, one each"},
     {"soil", 8, 0, LogOptions, "FILE.SOI...", "the soil analysis tables of saved definitions"},
+    {"fence", 6, 0, LogOptions, "FILE.FEN...", "fence diagrams, a page each"},
     {"guide", 9, 0, SheetOptions, "", "the Fill Pattern Guide"},
     {"gis-add", 0, 0, "", "FILE.BOR...", "adds borings to the table of a GIS file, which is made if it is not there",
      BatchWork::AddsToGis, "--gis FILE"},
@@ -187,7 +188,7 @@ std::string UsageText()
         "  --type 1|2     the arrangement of the intro pages (1)\n"
         "  --home DIR     the working folder, with the set-up and the stock files (the program's own folder)\n"
         "  --project DIR  the project folder (the folder of the first file)\n"
-        "  --page N       only page N of each boring; an intro page is a single page\n"
+        "  --page N       only page N of each boring; any other job's page is a single one\n"
         "  --date TEXT    the text of the date line (today)\n"
         "  --pdf FILE     all pages as one PDF\n"
         "  --png DIR      each page as a picture, --dpi N dots to the inch (150)\n"

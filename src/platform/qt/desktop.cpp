@@ -20,6 +20,7 @@
 #include "sections/fencetool.h"
 #include "sections/soiltool.h"
 #include "sections/soiltable.h"
+#include "sections/fencerun.h"
 #include "session/platform.h"
 #include "session/recovery.h"
 #include "session/session.h"
@@ -167,6 +168,7 @@ void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
     JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
+    JobTable[5] = JobTable[6] = VCROSS::vfencestart;
     JobTable[9] = patternstart;
     IntroPages = VLOG::vlogintrostart;
 }

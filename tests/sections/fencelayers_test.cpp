@@ -1,0 +1,1 @@
+// fencelayers_test.cpp -- being written
