@@ -14,6 +14,7 @@
 #include "platform/qt/pdfrun.h"
 #include "platform/qt/pngpages.h"
 #include "sections/soiltable.h"
+#include "sections/crossrun.h"
 #include "sections/fencerun.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
@@ -209,6 +210,7 @@ static void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
     JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
+    JobTable[3] = JobTable[4] = VCROSS::vcrossstart;
     JobTable[5] = JobTable[6] = VCROSS::vfencestart;
     JobTable[9] = patternstart;
     IntroPages = VLOG::vlogintrostart;

@@ -149,12 +149,11 @@ static void placegisborings()
     const auto number = [](int boring, int column) {
         return TextNumber(GisData.boringCells[CrossRun.gisRow[boring]][column]);
     };
-    const int across = 2, up = 3, surface = 4;
     // Not told in the file: 0, less the start of the frame.
     const float nowhere = -CrossRun.hStart;
     double px = 0, py = 0;
     for (int i = 1; i <= CrossRun.boringCount; ++i) {
-        const double qx = number(i, across), qy = number(i, up);
+        const double qx = number(i, GisX), qy = number(i, GisY);
         if (i == 1 || CrossRun.distance[i] == nowhere) {
             if (i > 1)
                 CrossRun.distance[i] =
@@ -163,7 +162,7 @@ static void placegisborings()
             py = qy;
         }
         CrossRun.columnRight[i] = CrossRun.distance[i];
-        CrossRun.groundY[i] = number(i, surface) - CrossRun.vStart;
+        CrossRun.groundY[i] = number(i, GisElevation) - CrossRun.vStart;
     }
 }
 

@@ -20,9 +20,8 @@ struct LayerEnd {
 
 void VCROSS::spellgisnames()
 {
-    const int fileColumn = 5;
     for (int row = 1; row <= GisData.boringCount; ++row) {
-        Text& name = GisData.boringCells[row][fileColumn];
+        Text& name = GisData.boringCells[row][GisFileName];
         if (!HasEnding(name))
             name += ".BOR";
         name = UpperCase(name);
@@ -31,9 +30,8 @@ void VCROSS::spellgisnames()
 
 int VCROSS::gisrowof(const Text& boringFile)
 {
-    const int fileColumn = 5;
     for (int row = 1; row <= GisData.boringCount; ++row)
-        if (GisData.boringCells[row][fileColumn] == boringFile)
+        if (GisData.boringCells[row][GisFileName] == boringFile)
             return row;
     return 0;
 }

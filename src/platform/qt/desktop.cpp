@@ -20,6 +20,7 @@
 #include "sections/fencetool.h"
 #include "sections/soiltool.h"
 #include "sections/soiltable.h"
+#include "sections/crossrun.h"
 #include "sections/fencerun.h"
 #include "session/platform.h"
 #include "session/recovery.h"
@@ -168,6 +169,7 @@ void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
     JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
+    JobTable[3] = JobTable[4] = VCROSS::vcrossstart;
     JobTable[5] = JobTable[6] = VCROSS::vfencestart;
     JobTable[9] = patternstart;
     IntroPages = VLOG::vlogintrostart;
