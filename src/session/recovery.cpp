@@ -45,6 +45,7 @@ struct LeftCopy {
     Text stem; // of its text file
     int tool = 0;
     Text name, time, file;
+    Text mark; // of the document's file when the copy was made
 };
 } // namespace
 
@@ -133,6 +134,16 @@ static Text Now()
     return words;
 }
 
+// What stands under a name. A save puts a new file in the place of the old one, so that it is never the same again.
+static Text MarkOf(const Text& name)
+{
+    struct stat status;
+    if (name.empty() || ::stat(NativePath(name).c_str(), &status) != 0)
+        return "";
+    return std::to_string(status.st_ino) + " " + std::to_string(status.st_mtim.tv_sec) + " " +
+           std::to_string(status.st_mtim.tv_nsec);
+}
+
 // A new copy, and then the old one goes: at every moment there is a whole one.
 static void WriteCopy()
 {
@@ -150,6 +161,7 @@ static void WriteCopy()
         out.Line(*tool.FileName);
         out.Line(Now());
         out.Line(file);
+        out.Line(MarkOf(*tool.FileName));
         out.Close();
     } catch (...) { // a disk that is full is told of when the user saves; the copy before stays
         RemoveCopy(file);
@@ -176,15 +188,6 @@ void KeepCopy()
     }
 }
 
-// A save puts a new file in the place of the old one, so that what stands there is never the same one again.
-static std::vector<int64_t> MarkOf(const Text& name)
-{
-    struct stat status;
-    if (name.empty() || ::stat(NativePath(name).c_str(), &status) != 0)
-        return {};
-    return {int64_t(status.st_ino), int64_t(status.st_mtim.tv_sec), int64_t(status.st_mtim.tv_nsec)};
-}
-
 void SaveDocument(void (*save)())
 {
     if (run.tool == 0) {
@@ -192,7 +195,7 @@ void SaveDocument(void (*save)())
         return;
     }
     const Text name = *RecoveryTools[run.tool].FileName;
-    const std::vector<int64_t> before = MarkOf(name);
+    const Text before = MarkOf(name);
     save();
     if (MarkOf(name) != before) {
         Remove(run.tool);
@@ -253,6 +256,7 @@ static std::vector<LeftCopy> CopiesOf(const Text& id)
                 copy.name = in.Line();
                 copy.time = in.Line();
                 copy.file = in.Line();
+                copy.mark = in.Line();
                 if (!FileExists(JoinPath(run.folder, copy.file)))
                     throw RunTimeError{FileNotFound};
                 copies.push_back(copy);
@@ -282,8 +286,10 @@ static bool Offer(const LeftCopy& left)
 {
     const RecoveryTool& tool = RecoveryTools[left.tool];
     const Text what = left.name.empty() ? "a new " + tool.Name + " file" : left.name;
+    // The program may have ended at the end of a save, or another one may have saved it.
+    const Text since = MarkOf(left.name) == left.mark ? "" : "  The file itself has been written since.";
     const bool open = MsgBox("The program ended before " + what + " was saved.  A copy of " + left.time +
-                                 " was kept.  Would you like to open it?",
+                                 " was kept." + since + "  Would you like to open it?",
                              YesNo, Question) == Yes;
     if (open) {
         tool.Open(JoinPath(run.folder, left.file), left.name);

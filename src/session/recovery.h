@@ -2,9 +2,9 @@
 //
 // While FileChanged is 1 the document of the tool in front is written once a minute by the tool's own save procedure,
 // into a folder of the program's own, beside a small text file:
-//     4711-3f2a.lock       held as long as the run of the program lives
-//     4711-3f2a-1.txt      tool, the document's own name (may be empty), time, name of the copy
-//     4711-3f2a-1-7.copy   the copy; a tool may put more beside it, under names that begin with the copy's
+//     4711-27.lock       held as long as the run of the program lives
+//     4711-27-1.txt      tool, the document's own name (may be empty), time, name of the copy, mark of the own file
+//     4711-27-1-7.copy   the copy; a tool may put more beside it, under names that begin with the copy's
 // A copy goes when a save has really written the file, when the user drops the changes, and at a clean end. It stays
 // when a save was refused or failed, although the flag is 0 then. What a run without its lock has left is offered at
 // the next start.

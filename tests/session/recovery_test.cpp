@@ -107,6 +107,25 @@ TEST_CASE("a copy that was opened and not saved is offered again after a second 
     CHECK(document == "half a boring");
 }
 
+TEST_CASE("a file that was written after its copy is told of, since the copy may be the older one")
+{
+    WriteScratch("B.BOR", "a");
+    CrashedRun([] { Type("half", Scratch("B.BOR")); });
+    StartRun();
+    SUBCASE("written since")
+    {
+        WriteWholeFile(Scratch("B.BOR"), "a");
+        OfferCopies();
+        CHECK(Messages.back().words.ends_with(
+            " was kept.  The file itself has been written since.  Would you like to open it?"));
+    }
+    SUBCASE("as it was")
+    {
+        OfferCopies();
+        CHECK(Messages.back().words.ends_with(" was kept.  Would you like to open it?"));
+    }
+}
+
 TEST_CASE("a document without a name is offered as a new file of its tool")
 {
     CrashedRun([] { Type("new", ""); });
@@ -329,7 +348,7 @@ TEST_CASE("what a program left half written is not offered, and goes")
         const Text stem = run.substr(0, run.size() - 5);
         WriteWholeFile(JoinPath(Folder(), stem + "-1-1.copy"), "no text file");
         WriteWholeFile(JoinPath(Folder(), stem + "-2.txt"), "VeskLog\r\n");
-        WriteWholeFile(JoinPath(Folder(), stem + "-3.txt"), "VeskLog\r\nB.BOR\r\nnow\r\nnot-there.copy\r\n");
+        WriteWholeFile(JoinPath(Folder(), stem + "-3.txt"), "VeskLog\r\nB.BOR\r\nnow\r\nnot-there.copy\r\n\r\n");
     });
     StartRun();
     OfferCopies();
