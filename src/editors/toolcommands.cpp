@@ -104,11 +104,21 @@ int RecoveryNumber(Tool tool)
     return int(tool) + LogTool;
 }
 
+static const char* const besideCopy = ".memo";
+
 void WriteToolCopy(ToolRecord& tool, const Text& copy)
 {
     const Hushed quiet;
     const Kept name(tool.FileName);
     tool.FileName = copy;
+    if (!tool.memo) {
+        tool.Undisturbed([&tool] { tool.SaveFile(); });
+        return;
+    }
+    // More lines than a file takes would not be saved, so the text has a file of its own.
+    WriteWholeFile(copy + besideCopy, tool.memo->text);
+    const Kept text(tool.memo->text);
+    tool.memo->text = "";
     tool.Undisturbed([&tool] { tool.SaveFile(); });
 }
 
@@ -119,6 +129,8 @@ void OpenToolCopy(ToolRecord& tool, const Text& copy, const Text& name)
     tool.OpenFile();
     tool.FileName = name;
     tool.FillForm();
+    if (tool.memo && FileExists(copy + besideCopy))
+        tool.memo->text = ReadWholeFile(copy + besideCopy);
     if (name.empty())
         tool.Title = tool.title;
     ForgetSteps(tool);

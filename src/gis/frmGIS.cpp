@@ -5,12 +5,12 @@
 #include "platform/qt/windows.h"
 #include "report/prompts.h"
 
-#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSplitter>
 
 static QPushButton* Button(ToolWindow& window, const char* name, const Text& caption, void (*command)())
@@ -31,7 +31,7 @@ static QListWidget* FileBox(ToolWindow& window, const QString& title)
     return list;
 }
 
-static void ShowFiles(QListWidget* list, QCheckBox* all)
+static void ShowFiles(QListWidget* list, QRadioButton* all)
 {
     frmGIS::RefreshFileList();
     const QSignalBlocker quietList(list), quietBox(all);
@@ -58,8 +58,9 @@ static QWidget* Files(ToolWindow& window)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(5);
     auto* list = FileBox(window, title);
-    auto* all = new QCheckBox(ToUi(PromptLabel(191, "Select All")), whole);
+    auto* all = new QRadioButton(ToUi(PromptLabel(191, "Select All")), whole);
     all->setObjectName("Option1");
+    all->setAutoExclusive(false); // it is let go when the marks change
     auto* label = new QLabel(title, whole);
     QFont bold = label->font();
     bold.setBold(true);
@@ -80,7 +81,7 @@ static QWidget* Files(ToolWindow& window)
                 frmGIS::SelectFile(i, list->item(i)->isSelected());
         ShowFiles(list, all);
     });
-    QObject::connect(all, &QCheckBox::clicked, &window, [list, all] {
+    QObject::connect(all, &QRadioButton::clicked, &window, [list, all] {
         frmGIS::Option1(); // a second click marks them again
         ShowFiles(list, all);
     });
