@@ -65,4 +65,7 @@ void mnuGraphicSetup();
 void mnuCreateLogo();
 void mnuFillPatt();
 void mnuHelp();
+// Recovery (session/recovery.h).
+void WriteCopy(const Text& copy);                  // the boring as it stands in the boxes
+void OpenCopy(const Text& copy, const Text& name); // a copy into the boxes, as a changed boring of that name
 } // namespace frmBorinput

@@ -8,11 +8,11 @@
 #include "canvas/metaugl.h"
 #include "canvas/screenview.h"
 #include "editors/fillform.h"
+#include "editors/hush.h"
 #include "editors/toolcommands.h"
 #include "logrender/logdata.h"
 #include "report/heading.h"
 #include "session/files.h"
-#include "session/kept.h"
 #include "session/platform.h"
 #include "session/session.h"
 
@@ -42,18 +42,11 @@ static void TakeLogPage()
 
 namespace
 {
-// A run that nobody is to notice: the seam without boxes, and all that a save and a run write put back at the end.
+// A run that nobody is to notice: what a run writes is put back too.
 struct QuietRun {
     QuietRun(const Text& folder, void (*takePage)(), LivePage& fresh)
     {
-        Platform.MsgBox = [](const Text&, Buttons buttons, Icon) { return int(buttons == OkOnly ? Ok : No); };
-        Platform.InputBox = [](const Text&, const Text&, const Text&) { return Text(); };
-        Platform.PageDrawn = [] {};
         Platform.ShowPage = takePage;
-        Platform.ShowProgress = [](bool) {};
-        Platform.StepProgress = [](const Text&, float) {};
-        Platform.Breathe = [] {};
-        Platform.Unattended = true;
         RunFolder = folder;
         frmDrawPrint::CloseWindow = nullptr;
         drawn = &fresh;
@@ -72,11 +65,8 @@ struct QuietRun {
     }
 
 private:
-    const Kept<PlatformRecord> platform{Platform};
+    const Hushed quiet;
     const Kept<Text> runFolder{RunFolder};
-    const Kept<int16_t> changed{FileChanged}, deviceChanged{DeviceChanged}, mode{DialogMode};
-    const Kept<Slots<Text, MaxLineBuffer>> lines{LineBuffer};
-    const Kept<int16_t> lineCount{LineCount};
     const Kept<PageListRecord> list{PageList};
     const Kept<CanvasRecord> canvas{PageCanvas};
     const Kept<RunPagesRecord> pages{RunPages};

@@ -1,5 +1,5 @@
-// livepreview.h -- a page as it stands in the boxes of a tool, drawn by the tool's renderer from a file that nobody else
-// sees. The tool's own file, the run under way and the boxes stay as they are, and no box is shown.
+// livepreview.h -- a page as it stands in the boxes of a tool, drawn by the tool's renderer from a file that nobody
+// else sees. The tool's own file, the run under way and the boxes stay as they are, and no box is shown.
 #pragma once
 
 #include "canvas/pageobjects.h"
@@ -14,8 +14,8 @@ struct LivePage {
     double UnitsPerDepth = 0; // device units to a unit of depth
 };
 
-// Draws a page of the log, counted from 1 and at most the last one. folder is private to the caller. False: the boring cannot be
-// drawn as it stands, and page is as it was.
+// Draws a page of the log, counted from 1 and at most the last one. folder is private to the caller. False: the boring
+// cannot be drawn as it stands, and page is as it was.
 bool DrawLivePage(int number, const Text& folder, LivePage& page);
 // The one page of another tool's file. False as above, and for a tool that draws nothing.
 bool DrawLiveTool(ToolRecord& tool, const Text& folder, LivePage& page);

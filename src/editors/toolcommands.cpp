@@ -2,11 +2,14 @@
 #include "editors/toolcommands.h"
 
 #include "canvas/batch.h"
+#include "editors/hush.h"
 #include "report/fontprofile.h"
+#include "report/prompts.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/gridedit.h"
+#include "session/recovery.h"
 #include "session/session.h"
 
 #include <algorithm>
@@ -20,6 +23,11 @@ bool Saved(void (*save)())
     return FailuresReported == before;
 }
 
+Text CountOf(int count, const char* one, const char* more)
+{
+    return PlainNumber(count) + " " + (count == 1 ? one : more);
+}
+
 void ForgetSteps(ToolRecord& tool)
 {
     for (Grid* grid : tool.grids)
@@ -27,6 +35,30 @@ void ForgetSteps(ToolRecord& tool)
 }
 
 // ---- Boxes
+
+static std::vector<Text> Labels(int firstSlot, std::initializer_list<const char*> design, int slots)
+{
+    std::vector<Text> labels(1);
+    for (const char* words : design) {
+        const int i = int(labels.size()) - 1;
+        labels.push_back(i < slots ? PromptLabel(firstSlot + i, words) : Text(words));
+    }
+    return labels;
+}
+
+void LabelGrid(Grid& grid, int titleSlot, const char* title, int firstSlot, std::initializer_list<const char*> columns,
+               int slots)
+{
+    grid.title = PromptLabel(titleSlot, title);
+    grid.headings = Labels(firstSlot, columns, slots);
+    grid.headings.resize(size_t(grid.columns) + 1);
+}
+
+void LabelRows(Grid& grid, int titleSlot, const char* title, int firstSlot, std::initializer_list<const char*> rows)
+{
+    grid.title = PromptLabel(titleSlot, title);
+    grid.rowHeadings = Labels(firstSlot, rows, int(rows.size()));
+}
 
 static void BlankBoxes(ToolRecord& tool)
 {
@@ -39,8 +71,6 @@ static void BlankBoxes(ToolRecord& tool)
     }
     if (tool.memo)
         tool.memo->text = "";
-    if (tool.EmptyBoxes)
-        tool.EmptyBoxes();
 }
 
 // Boxes and record as for a file that is not there yet.
@@ -53,14 +83,66 @@ static void StartAnew(ToolRecord& tool)
     ForgetSteps(tool);
 }
 
+static ToolRecord* recovered; // a tool with a recovery copy in its boxes, whose window is to come
+
 void LoadTool(ToolRecord& tool)
 {
+    if (recovered == &tool) {
+        recovered = nullptr;
+        return;
+    }
     StartAnew(tool);
     tool.active = nullptr;
     tool.Label();
     for (Grid* grid : tool.grids)
         grid->changed = [] { FileChanged = 1; };
     tool.Title = tool.titleInFront ? Text(tool.title) : ProjectPath + " - " + tool.title;
+}
+
+int RecoveryNumber(Tool tool)
+{
+    return int(tool) + LogTool;
+}
+
+static const char* const besideCopy = ".memo";
+
+void WriteToolCopy(ToolRecord& tool, const Text& copy)
+{
+    const Hushed quiet;
+    const Kept name(tool.FileName);
+    tool.FileName = copy;
+    if (!tool.memo) {
+        tool.Undisturbed([&tool] { tool.SaveFile(); });
+        return;
+    }
+    // More lines than a file takes would not be saved, so the text has a file of its own.
+    WriteWholeFile(copy + besideCopy, tool.memo->text);
+    const Kept text(tool.memo->text);
+    tool.memo->text = "";
+    tool.Undisturbed([&tool] { tool.SaveFile(); });
+}
+
+void OpenToolCopy(ToolRecord& tool, const Text& copy, const Text& name)
+{
+    LoadTool(tool);
+    tool.FileName = copy;
+    tool.OpenFile();
+    tool.FileName = name;
+    tool.FillForm();
+    if (tool.memo && FileExists(copy + besideCopy))
+        tool.memo->text = ReadWholeFile(copy + besideCopy);
+    if (name.empty())
+        tool.Title = tool.title;
+    ForgetSteps(tool);
+    FileChanged = 1;
+    WatchTool(RecoveryNumber(tool.tool));
+    recovered = &tool;
+}
+
+void ShowRecoveredTool()
+{
+    if (recovered)
+        Platform.ShowTool(recovered->tool);
 }
 
 // ---- File
@@ -75,6 +157,7 @@ static bool SaveFirst(ToolRecord& tool, const char* question)
     case Yes:
         return ToolSave(tool);
     case No:
+        DropCopy();
         return true;
     default:
         return false;
@@ -83,6 +166,7 @@ static bool SaveFirst(ToolRecord& tool, const char* question)
 
 static void Clear(ToolRecord& tool)
 {
+    LeaveDocument();
     StartAnew(tool);
     tool.Title = tool.title;
     if (DeviceConfig.FontName != "Arial")
@@ -115,6 +199,7 @@ void ToolOpen(ToolRecord& tool)
     Platform.ShowChooser();
     if (!DialogResult.empty())
         Open(tool, DialogResult);
+    KeepCopy(); // what was dropped by a No, where the user has chosen nothing then
 }
 
 void ToolOpenNamed(ToolRecord& tool, const Text& name)
@@ -123,11 +208,21 @@ void ToolOpenNamed(ToolRecord& tool, const Text& name)
         Open(tool, name);
 }
 
+// The tool's save, with its recovery copy.
+static bool Write(ToolRecord& tool)
+{
+    static ToolRecord* saving;
+    static bool written;
+    saving = &tool;
+    SaveDocument([] { written = saving->SaveFile(); });
+    return written;
+}
+
 bool ToolSave(ToolRecord& tool)
 {
     if (tool.FileName.empty())
         return ToolSaveAs(tool);
-    if (!tool.SaveFile())
+    if (!Write(tool))
         return false;
     FileChanged = 0;
     return true;
@@ -147,7 +242,7 @@ bool ToolSaveAs(ToolRecord& tool)
         return false;
     const Text before = tool.FileName;
     tool.FileName = name;
-    if (!tool.SaveFile()) {
+    if (!Write(tool)) {
         tool.FileName = before;
         return false;
     }
@@ -220,6 +315,7 @@ static bool Leave(ToolRecord& tool, Tool next)
 {
     if (!SaveFirst(tool, "Would you like to save the current file before quitting?"))
         return false;
+    LeaveDocument();
     FileChanged = 0;
     NextTool = next;
     if (tool.Unload)
@@ -260,6 +356,8 @@ static bool TakesRows(const ToolRecord& tool, const Grid& grid)
 
 void ToolInsertRow(ToolRecord& tool)
 {
+    if (tool.InsertRow)
+        return tool.InsertRow();
     Grid& grid = ActiveGrid(tool);
     if (TakesRows(tool, grid) && InsertRow(grid))
         FileChanged = 1;
@@ -267,6 +365,8 @@ void ToolInsertRow(ToolRecord& tool)
 
 void ToolDeleteRow(ToolRecord& tool)
 {
+    if (tool.DeleteRow)
+        return tool.DeleteRow();
     Grid& grid = ActiveGrid(tool);
     if (!TakesRows(tool, grid))
         return;

@@ -104,15 +104,6 @@ try {
     ReportFailure(__func__);
 }
 
-void ClearSoilForm()
-{
-    frmSoil::FileName.clear();
-    ClearSoilArrays();
-    FillSoilForm();
-    FileChanged = 0;
-    frmSoil::Title = toolTitle;
-}
-
 void frmSoil::SizeMemo()
 {
     MemoSoil.widthTwips = std::min(6800 + DeviceConfig.TextAdjust[5], 10000);
@@ -135,19 +126,4 @@ void frmSoil::cmdAdj5()
 void frmSoil::cmdAdj6()
 {
     AdjustMemo(50);
-}
-
-static void RefuseRows()
-{
-    MsgBox("It is not possible to insert or delete rows in this box.", OkOnly, Exclamation);
-}
-
-void frmSoil::mnuInsertRow()
-{
-    RefuseRows();
-}
-
-void frmSoil::mnuDeleteRow()
-{
-    RefuseRows();
 }

@@ -32,11 +32,10 @@ const Text& Grid::Cell(int row, int column) const
 
 int Grid::DataRowCount() const
 {
-    for (int row = rows; row >= 1; --row)
-        for (int column = 1; column <= columns - hidden; ++column)
-            if (!cells[Place(*this, row, column)].empty())
-                return row;
-    return 0;
+    const auto last = std::find_if(cells.rbegin(), cells.rend(), [](const Text& cell) { return !cell.empty(); });
+    if (last == cells.rend())
+        return 0;
+    return int(cells.rend() - last - 1) / columns + 1;
 }
 
 void Grid::ClearRows(int first, int last)

@@ -28,6 +28,7 @@ struct GridShape {
 struct GridStep {
     std::vector<CellChange> cells;
     GridShape before, after;
+    std::vector<Text> besideBefore, besideAfter; // empty where no row has come or gone
 };
 
 // A grid of text cells, rows and columns from 1. A cell outside is failure 380.
@@ -45,7 +46,10 @@ struct Grid {
     // Rows put in make a grid grow up to maxRows, and rows taken out make it shrink down to minRows. 0: it has its
     // rows, and no more and no fewer.
     int minRows = 0, maxRows = 0;
-    int hidden = 0; // so many last columns are not shown, and do not count as data: they go where their rows go
+    // Cells that go with the rows and that no column shows, so many to a row; kept elsewhere, row by row. May be null.
+    int besideWidth = 0;
+    std::vector<Text> (*beside)() = nullptr;
+    void (*putBeside)(const std::vector<Text>&) = nullptr;
     std::vector<Text> cells;
     std::vector<Text> headings;    // of the columns, from index 1
     std::vector<Text> rowHeadings; // from index 1; short or empty: numbers

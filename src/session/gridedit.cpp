@@ -12,7 +12,7 @@ static constexpr size_t maxSteps = 1000;
 // The cells of a grid at one moment.
 struct Cells {
     GridShape shape;
-    std::vector<Text> cells;
+    std::vector<Text> cells, beside;
     const Text& At(int row, int column) const
     {
         static const Text none;
@@ -23,12 +23,16 @@ struct Cells {
 
 static Cells CellsOf(const Grid& grid)
 {
-    return {grid.Shape(), grid.cells};
+    return {grid.Shape(), grid.cells, grid.beside ? grid.beside() : std::vector<Text>()};
 }
 
 static GridStep Differences(const Cells& before, const Cells& after)
 {
-    GridStep step{{}, before.shape, after.shape};
+    GridStep step{{}, before.shape, after.shape, {}, {}};
+    if (before.beside != after.beside) {
+        step.besideBefore = before.beside;
+        step.besideAfter = after.beside;
+    }
     for (int row = 1; row <= std::max(before.shape.rows, after.shape.rows); ++row)
         for (int column = 1; column <= std::max(before.shape.columns, after.shape.columns); ++column)
             if (before.At(row, column) != after.At(row, column))
@@ -40,12 +44,12 @@ static GridStep Differences(const Cells& before, const Cells& after)
 static void StayInside(Grid& grid)
 {
     grid.row = std::min(grid.row, grid.rows);
-    grid.column = std::min(grid.column, grid.columns - grid.hidden);
+    grid.column = std::min(grid.column, grid.columns);
     Block& block = grid.selected;
     block.top = std::min(block.top, grid.rows);
     block.bottom = std::min(block.bottom, grid.rows);
-    block.left = std::min(block.left, grid.columns - grid.hidden);
-    block.right = std::min(block.right, grid.columns - grid.hidden);
+    block.left = std::min(block.left, grid.columns);
+    block.right = std::min(block.right, grid.columns);
 }
 
 // One change by the user.
@@ -57,7 +61,7 @@ static void Change(Grid& grid, const std::function<void()>& write)
         for (int column = 1; column <= std::min(grid.locked, grid.columns); ++column)
             grid.Cell(row, column) = before.At(row, column);
     StayInside(grid);
-    if (grid.cells == before.cells && grid.Shape() == before.shape)
+    if (grid.cells == before.cells && grid.Shape() == before.shape && (!grid.beside || grid.beside() == before.beside))
         return;
     if (grid.changed)
         grid.changed();
@@ -105,7 +109,7 @@ void PasteSelected(Grid& grid)
     Block filled = at;
     if (!alone) {
         filled.bottom = std::min(grid.rows, at.top + int(rows.size()) - 1);
-        filled.right = std::min(grid.columns - grid.hidden, at.left + int(width) - 1);
+        filled.right = std::min(grid.columns, at.left + int(width) - 1);
     }
     grid.selected = filled;
     grid.row = filled.top;
@@ -142,6 +146,19 @@ void FillDown(Grid& grid)
     });
 }
 
+// What stands beside the rows makes room for one at the current row, or closes over it.
+static void MoveBeside(Grid& grid, bool in)
+{
+    if (!grid.beside)
+        return;
+    std::vector<Text> cells = grid.beside();
+    const auto at = cells.begin() + std::ptrdiff_t(grid.row - 1) * grid.besideWidth;
+    const auto fresh = in ? cells.end() - grid.besideWidth : at;
+    std::fill(fresh, fresh + grid.besideWidth, Text());
+    std::rotate(at, in ? fresh : at + grid.besideWidth, cells.end());
+    grid.putBeside(cells);
+}
+
 bool InsertRow(Grid& grid)
 {
     const bool grows = grid.maxRows > 0;
@@ -158,6 +175,7 @@ bool InsertRow(Grid& grid)
             grid.Resize(grid.rows + 1, grid.columns);
         const auto at = grid.cells.begin() + std::ptrdiff_t(grid.row - 1) * grid.columns;
         std::rotate(at, grid.cells.end() - grid.columns, grid.cells.end());
+        MoveBeside(grid, true);
     });
     return true;
 }
@@ -168,6 +186,7 @@ void DeleteRow(Grid& grid)
         grid.ClearRows(grid.row, grid.row);
         const auto at = grid.cells.begin() + std::ptrdiff_t(grid.row - 1) * grid.columns;
         std::rotate(at, at + grid.columns, grid.cells.end());
+        MoveBeside(grid, false);
         if (grid.maxRows > 0 && grid.rows > grid.minRows)
             grid.Resize(grid.rows - 1, grid.columns);
     });
@@ -211,15 +230,17 @@ void DeleteColumn(Grid& grid)
 // The last step of one list is applied, one way or the other, and moves to the other list. The block that it touched is
 // shown.
 static bool Move(Grid& grid, std::vector<GridStep>& from, std::vector<GridStep>& to, Text CellChange::*text,
-                 GridShape GridStep::*shape)
+                 GridShape GridStep::*shape, std::vector<Text> GridStep::*beside)
 {
     if (from.empty())
         return false;
     GridStep step = std::move(from.back());
     from.pop_back();
     const GridShape& wanted = step.*shape;
-    if (wanted.rows != grid.rows || wanted.columns != grid.columns)
+    if (step.before.rows != step.after.rows || step.before.columns != step.after.columns)
         grid.Resize(wanted.rows, wanted.columns);
+    if (!(step.*beside).empty())
+        grid.putBeside(step.*beside);
     if (step.before.headings != step.after.headings)
         grid.headings = wanted.headings;
     Block touched{grid.rows + 1, grid.columns + 1, 0, 0};
@@ -246,12 +267,12 @@ static bool Move(Grid& grid, std::vector<GridStep>& from, std::vector<GridStep>&
 
 bool UndoGrid(Grid& grid)
 {
-    return Move(grid, grid.done, grid.undone, &CellChange::before, &GridStep::before);
+    return Move(grid, grid.done, grid.undone, &CellChange::before, &GridStep::before, &GridStep::besideBefore);
 }
 
 bool RedoGrid(Grid& grid)
 {
-    return Move(grid, grid.undone, grid.done, &CellChange::after, &GridStep::after);
+    return Move(grid, grid.undone, grid.done, &CellChange::after, &GridStep::after, &GridStep::besideAfter);
 }
 
 void ForgetSteps(Grid& grid)

@@ -158,7 +158,6 @@ TEST_CASE("a damaged soil table comes into its form with a known message or none
         INFO("seed ", seed);
         WriteWholeFile(Scratch("A.SOI"), Mutate(table, uint64_t(seed)), Durability::Scratch);
         Messages.clear();
-        ClearSoilForm();
         frmSoil::FileName = Scratch("A.SOI");
         OpenSoilFile();
         FillSoilForm();
