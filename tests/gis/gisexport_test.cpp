@@ -49,6 +49,20 @@ TEST_CASE("the EVS file has a heading, -1, the counts and a line for each boring
     CHECK(Messages[0].words == "Done Creating EVS Export File.");
 }
 
+TEST_CASE("the sample table is saved as it is, and exported as the kept files")
+{
+    const Text sample = Text(SOURCE_DIR) + "/samples/WIREWICK.GIS";
+    ClearGISForm();
+    OpenGISFile(sample);
+    FillGISForm();
+    REQUIRE(SaveGISFile(Scratch("OUT.GIS")));
+    CHECK(ReadScratch("OUT.GIS") == ReadWholeFile(sample));
+    CHECK(ExportGIS2ArcView(Scratch("a.txt")));
+    CHECK(ReadScratch("a.txt") == ReadWholeFile(TestData("gis/wirewick-arcview.txt")));
+    CHECK(ExportGIS2EVS(Scratch("e.txt")));
+    CHECK(ReadScratch("e.txt") == ReadWholeFile(TestData("gis/wirewick-evs.txt")));
+}
+
 TEST_CASE("a table with no layers or no borings is exported as what is left")
 {
     ClearGISForm();
