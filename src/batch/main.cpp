@@ -6,6 +6,7 @@
 #include "canvas/pagelisting.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "gis/gisfile.h"
 #include "logrender/intropage.h"
 #include "logrender/vlog.h"
 #include "platform/qt/headless.h"
@@ -14,6 +15,7 @@
 #include "platform/qt/pngpages.h"
 #include "sections/crossrun.h"
 #include "sections/fencerun.h"
+#include "sections/soiltable.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -60,10 +62,12 @@ static void Say(const Text& words)
     std::fprintf(stderr, "%s\n", ToUtf8(line).c_str());
 }
 
-// Nobody answers: the answer that loses nothing.
+// Nobody answers: the answer that loses nothing. That an export is done is told too, but does not count.
 static int Box(const Text& words, Buttons buttons, Icon)
 {
     Say(words);
+    if (words.starts_with("Done "))
+        --MessageCount;
     switch (buttons) {
     case OkOnly:
         return Ok;
@@ -207,6 +211,7 @@ static void FillJobTable()
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
     JobTable[3] = JobTable[4] = VCROSS::vcrossstart;
     JobTable[5] = JobTable[6] = VCROSS::vfencestart;
+    JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
     JobTable[9] = patternstart;
     IntroPages = VLOG::vlogintrostart;
 }
@@ -311,6 +316,39 @@ static void RunJob()
     CloseListing();
 }
 
+// The table of a GIS file into the workbench's grids. False: it could not be read whole.
+static bool OpenTable(const Text& file)
+{
+    RunPages.pageFile = file;
+    OpenGISFile(file);
+    FillGISForm();
+    return MessageCount == 0;
+}
+
+// A table that cannot be read is left as it is; a boring that cannot be read has its row with its name alone.
+static void AddToGis()
+{
+    const Text table = HasEnding(Asked.Gis) ? Asked.Gis : Asked.Gis + ".GIS";
+    ClearGISForm();
+    if (FileExists(table) && !OpenTable(table))
+        return;
+    for (const Text& boring : Asked.Files) {
+        RunPages.pageFile = boring;
+        frmGIS::AddBoring(boring, BaseName(boring));
+    }
+    SaveGISFile(table);
+}
+
+static void ExportGis()
+{
+    if (!OpenTable(Asked.Files.front()))
+        return;
+    if (!Asked.ArcView.empty())
+        ExportGIS2ArcView(Asked.ArcView);
+    else
+        ExportGIS2EVS(Asked.Evs);
+}
+
 int main(int argc, char** argv)
 {
     Asked = ReadCommandLine({argv + 1, argv + argc});
@@ -324,7 +362,17 @@ int main(int argc, char** argv)
     }
     FillPlatform();
     try {
-        RunJob();
+        switch (Asked.Job->Work) {
+        case BatchWork::Draws:
+            RunJob();
+            break;
+        case BatchWork::AddsToGis:
+            AddToGis();
+            break;
+        case BatchWork::ExportsGis:
+            ExportGis();
+            break;
+        }
     } catch (...) {
         Say("Run-time error" + NumberText(FailureInHand()));
     }
