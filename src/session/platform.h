@@ -45,6 +45,7 @@ struct PlatformRecord {
     void (*PrintToPdf)(bool on);              // while on, print runs go to a PDF whatever printer is chosen
     // The start and the end of the desktop program.
     Text (*ExecutableFolder)();
+    Text (*DataFolder)();             // where the user's programs keep their data; need not be there yet
     void (*ShowAbout)(bool blocking); // the title box; blocking: until it is clicked
     void (*ShowLogWindow)();          // the log window, loaded and shown when this returns
     void (*ShowWelcome)();            // blocking

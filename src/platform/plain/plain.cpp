@@ -80,6 +80,7 @@ void UsePlainPlatform()
     Platform.ChooseFont = [](const Text&) { return Text(); };
     Platform.PrintToPdf = [](bool) {};
     Platform.ExecutableFolder = [] { return WorkingFolder; };
+    Platform.DataFolder = [] { return WorkingFolder + "/userdata"; };
     Platform.ShowAbout = [](bool) {};
     Platform.ShowLogWindow = [] {};
     Platform.ShowWelcome = [] {};

@@ -7,6 +7,7 @@
 #include "logrender/vlog.h"
 #include "platform/qt/boxes.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/headless.h"
 #include "platform/qt/helpwindow.h"
 #include "platform/qt/printers.h"
 #include "platform/qt/uitext.h"
@@ -99,6 +100,7 @@ void UseDesktopPlatform()
     Platform.ChooseFont = ShowFontDialog;
     Platform.PrintToPdf = ForcePdf;
     Platform.ExecutableFolder = ExecutableFolder;
+    Platform.DataFolder = UserDataFolder;
     Platform.ShowAbout = ShowAboutBox;
     Platform.ShowLogWindow = ShowLogWindow;
     Platform.ShowWelcome = ShowWelcomeWindow;
