@@ -74,7 +74,7 @@ TEST_CASE("the first pages of the sample borings look like the kept pictures")
 {
     const std::string folder = std::string(BUILD_DIR) + "/samples";
     for (const Text name : {"TC-101", "TC-102", "TC-103", "TC-104", "TC-105", "TC-106", "TC-107", "MW-108", "MW-109",
-                            "MW-110", "CP-111"}) {
+                            "MW-110", "MW-112", "CP-111"}) {
         CAPTURE(name);
         std::filesystem::remove_all(ScratchFolder());
         std::filesystem::create_directories(ScratchFolder());
