@@ -59,6 +59,7 @@ static QMainWindow* LogWith(const char* sample)
 {
     QMainWindow* log = LogWindow();
     REQUIRE(log);
+    Platform.ShortDate = [] { return Text("1/2/2026"); }; // the same page on every day
     log->setGeometry(QRect(QPoint(0, 0), screenSize));
     Settle();
     if (*sample)
