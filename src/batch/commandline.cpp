@@ -14,6 +14,8 @@ static constexpr char SheetOptions[] = "--home DIR;--pdf FILE;--png DIR;--dpi N;
 static constexpr BatchJob Jobs[] = {
     {"log", 2, 0, LogOptions, "FILE.BOR...", "the boring logs of saved borings"},
     {"intro", 2, 1, IntroOptions, "FILE.BOR...", "the intro pages of saved borings, one each"},
+    {"section", 4, 0, LogOptions, "FILE.CRO...", "cross sections, a page each"},
+    {"fence", 6, 0, LogOptions, "FILE.FEN...", "fence diagrams, a page each"},
     {"guide", 9, 0, SheetOptions, "", "the Fill Pattern Guide"},
 };
 
@@ -156,7 +158,7 @@ std::string UsageText()
             "                 program's own folder; that of an installed program is Stratavue\n"
             "                 in the user's data folder)\n"
             "  --project DIR  the project folder (the folder of the first file)\n"
-            "  --page N       only page N of each boring; an intro page is a single page\n"
+            "  --page N       only page N of each boring; any other job's page is a single one\n"
             "  --date TEXT    the text of the date line (today)\n"
             "  --pdf FILE     all pages as one PDF\n"
             "  --png DIR      each page as a picture, --dpi N dots to the inch (150)\n"

@@ -12,6 +12,8 @@
 #include "platform/qt/pagepainter.h"
 #include "platform/qt/pdfrun.h"
 #include "platform/qt/pngpages.h"
+#include "sections/crossrun.h"
+#include "sections/fencerun.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -212,6 +214,8 @@ static void FillPlatform()
 static void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
+    JobTable[3] = JobTable[4] = VCROSS::vcrossstart;
+    JobTable[5] = JobTable[6] = VCROSS::vfencestart;
     JobTable[9] = patternstart;
     IntroPages = VLOG::vlogintrostart;
 }
