@@ -50,7 +50,7 @@ public:
     BorinputWindow();
     void Refresh();
     void OpenSoon(const Text& name); // by a turn of the event loop, as a command of the window
-    bool ending = false; // the user has been asked; nothing holds the window any more
+    bool ending = false;             // the user has been asked; nothing holds the window any more
 
 protected:
     void closeEvent(QCloseEvent* event) override;
