@@ -40,6 +40,7 @@
 #include "session/session.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <unistd.h>
 
@@ -273,6 +274,9 @@ REGISTER_LISTENER("fresh", 1, Fresh);
 int main(int argc, char** argv)
 {
     scratch = std::filesystem::temp_directory_path().string() + "/stratavue-test-" + std::to_string(::getpid());
+    // Pictures of windows show it, and shall not change with the number of a process.
+    if (const char* name = std::getenv("STRATAVUE_SCRATCH"))
+        scratch = name;
     doctest::Context context(argc, argv);
     return context.run();
 }

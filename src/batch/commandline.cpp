@@ -187,7 +187,9 @@ std::string UsageText()
     text +=
         "Options:\n"
         "  --type 1|2     the arrangement of the intro pages (1)\n"
-        "  --home DIR     the working folder, with the set-up and the stock files (the program's own folder)\n"
+        "  --home DIR     the working folder, with the set-up and the stock files (the\n"
+        "                 program's own folder; that of an installed program is Stratavue\n"
+        "                 in the user's data folder)\n"
         "  --project DIR  the project folder (the folder of the first file)\n"
         "  --page N       only page N of each boring; any other job's page is a single one\n"
         "  --date TEXT    the text of the date line (today)\n"

@@ -21,6 +21,7 @@
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/stockfiles.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -180,6 +181,12 @@ static void ShowPage()
     NextPage();
 }
 
+static Text ExecutableFolder()
+{
+    std::error_code ignored;
+    return FromUtf8(std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path().string());
+}
+
 static void FillPlatform()
 {
     Platform.MsgBox = Box;
@@ -202,6 +209,8 @@ static void FillPlatform()
     Platform.SetClipboardText = [](const Text&) {};
     Platform.Notice = Say;
     Platform.Breathe = [] {};
+    Platform.ExecutableFolder = ExecutableFolder;
+    Platform.DataFolder = UserDataFolder;
     Platform.ShortDate = [] { return Asked.DateGiven ? Asked.Date : ShortDateOfLocale(); };
     Platform.Unattended = true;
 }
@@ -240,12 +249,6 @@ struct PrivateFolder {
     std::string path;
 };
 } // namespace
-
-static Text ExecutableFolder()
-{
-    std::error_code ignored;
-    return FromUtf8(std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path().string());
-}
 
 // The folder of an option, made if it is not there.
 static void OutputFolder(const Text& folder)
@@ -291,14 +294,22 @@ static void FindStockFiles()
                 layouts = ProjectPath;
     Text& fills = DeviceConfig.SystemFiles[FillFolder];
     if (fills == JoinPath(WorkingFolder, "fills/") && FilesIn(fills, ".bmp").empty())
-        fills = JoinPath(ExecutableFolder(), "fills/");
+        fills = JoinPath(StockFolder(), "fills/");
+}
+
+// The working folder where none is asked for: the desktop program's. A user of an installed program who has never
+// started that one is served from the stock files themselves.
+static Text Home()
+{
+    const Text home = HomeFolder();
+    return FileExists(JoinPath(home, "stock.lst")) || !Installed() ? home : StockFolder();
 }
 
 // Runs the job. The listing grows in a temporary file and takes its place when it is whole.
 static void RunJob()
 {
     const PrivateFolder privateFolder;
-    WorkingFolder = Asked.Home.empty() ? ExecutableFolder() : Asked.Home;
+    WorkingFolder = Asked.Home.empty() ? Home() : Asked.Home;
     TintsInMemory = true;
     LoadDevice();
     if (!Asked.Project.empty())

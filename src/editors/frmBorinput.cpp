@@ -55,7 +55,8 @@ public:
     BorinputWindow();
     void Refresh();
     void Run(const std::function<void()>& command);
-    bool ending = false; // the user has been asked; nothing holds the window any more
+    void OpenSoon(const Text& name); // by a turn of the event loop, as a command of the window
+    bool ending = false;             // the user has been asked; nothing holds the window any more
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -273,9 +274,13 @@ void BorinputWindow::dragEnterEvent(QDragEnterEvent* event)
 
 void BorinputWindow::dropEvent(QDropEvent* event)
 {
-    const Text name = FromUi(event->mimeData()->urls().value(0).toLocalFile());
     event->acceptProposedAction();
     // The program that the file comes from waits for the end of the drop, and not for the user's answers.
+    OpenSoon(FromUi(event->mimeData()->urls().value(0).toLocalFile()));
+}
+
+void BorinputWindow::OpenSoon(const Text& name)
+{
     QTimer::singleShot(0, this, [this, name] { Run([&name] { frmBorinput::OpenNamed(name); }); });
 }
 
@@ -754,6 +759,12 @@ void OfferRecovery()
             OfferCopies();
             ShowRecoveredTool();
         });
+}
+
+void OpenInLogWindow(const Text& name)
+{
+    if (window)
+        window->OpenSoon(name);
 }
 
 void EndProgram()
