@@ -12,6 +12,9 @@
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "convert/gtgsgeneditor.h"
+#include "convert/gtgsgeneral.h"
+#include "convert/winlog.h"
 #include "editors/borinput.h"
 #include "logrender/logdata.h"
 #include "report/desitems.h"
@@ -163,6 +166,11 @@ struct Fresh : doctest::IReporter {
         LogGeometry = LogGeometryRecord();
         ForgetPatterns();
         TintsInMemory = false;
+        WinLogTemplate = "";
+        GtgsMapping = GtgsMappingRecord();
+        frmGTGSGenEditor::Dialog = frmGTGSGenEditor::Record();
+        frmGTGSGenEditor::SS1.Clear();
+        frmGTGSGenEditor::SS2.Clear();
         jobCode = runFileCount = singleFile = introType = dialogBusy = stopRequested = 0;
         progressValue = progressTotal = 0;
         runFiles = {};

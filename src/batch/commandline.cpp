@@ -12,9 +12,17 @@ static constexpr char IntroOptions[] = "--type 1|2;--home DIR;--project DIR;--pa
 static constexpr char SheetOptions[] = "--home DIR;--pdf FILE;--png DIR;--dpi N;--list FILE";
 
 static constexpr BatchJob Jobs[] = {
-    {"log", 2, 0, LogOptions, "FILE.BOR...", "the boring logs of saved borings"},
-    {"intro", 2, 1, IntroOptions, "FILE.BOR...", "the intro pages of saved borings, one each"},
-    {"guide", 9, 0, SheetOptions, "", "the Fill Pattern Guide"},
+    {"log", 2, 0, LogOptions, "FILE.BOR...", "draws the boring logs of saved borings"},
+    {"intro", 2, 1, IntroOptions, "FILE.BOR...", "draws the intro pages of saved borings, one each"},
+    {"guide", 9, 0, SheetOptions, "", "draws the Fill Pattern Guide"},
+    {"convert-txt", 0, 0, "--home DIR", "DIR",
+     "converts the GTGS text tables of a folder, a boring file for each boring"},
+    {"convert-general", 0, 0, "!--map FILE.GCV;--name NAME;--home DIR;--project DIR", "[DIR]",
+     "converts one boring of GTGS text tables by a map"},
+    {"convert-prt", 11, 0, "--home DIR", "FILE.PRT...", "converts GTGS print files, each to a boring file beside it"},
+    {"convert-log", 12, 0, "--template FILE.BOR;--home DIR", "FILE.LOG...",
+     "converts WinLog files, each to a boring file beside it"},
+    {"export-irpims", 10, 0, "!--out DIR;--home DIR", "FILE.BOR...", "writes the three IRPIMS tables of saved borings"},
 };
 
 static constexpr int SmallestDpi = 10, LargestDpi = 1200;
@@ -39,13 +47,27 @@ static constexpr Option Options[] = {
     {"--dpi", nullptr, false},
     {"--dxf", &CommandLine::Dxf, true},
     {"--list", &CommandLine::List, true},
+    {"--map", &CommandLine::Map, true},
+    {"--template", &CommandLine::Template, true},
+    {"--out", &CommandLine::Out, true},
+    {"--name", &CommandLine::Name, false},
 };
 
 static bool Knows(const BatchJob& job, std::string_view option)
 {
     const std::string_view options = job.Options;
     const size_t at = options.find(std::string(option) + " ");
-    return at != std::string_view::npos && (at == 0 || options[at - 1] == ';');
+    return at != std::string_view::npos && (at == 0 || options[at - 1] == ';' || options[at - 1] == '!');
+}
+
+// The first option that the job needs and the command line lacks; "" when it has all.
+static std::string Missing(const CommandLine& line)
+{
+    for (const Option& option : Options)
+        if (option.text && (line.*option.text).empty() &&
+            std::string_view(line.Job->Options).find(std::string("!") + option.name + " ") != std::string_view::npos)
+            return option.name;
+    return "";
 }
 
 static bool IsNumber(const std::string& word)
@@ -115,11 +137,16 @@ CommandLine ReadCommandLine(const std::vector<std::string>& words)
         else
             line.Files.push_back(FullPath(FromUtf8(word)));
     }
-    const bool takesFiles = *job->Files != '\0';
-    if (line.Wrong.empty() && takesFiles && line.Files.empty())
-        line.Wrong = std::string("no file given for ") + job->Name;
-    if (line.Wrong.empty() && !takesFiles && !line.Files.empty())
+    const std::string_view files = job->Files;
+    const bool folder = files.find("DIR") != std::string_view::npos;
+    if (line.Wrong.empty() && !files.empty() && files[0] != '[' && line.Files.empty())
+        line.Wrong = std::string("no ") + (folder ? "folder" : "file") + " given for " + job->Name;
+    if (line.Wrong.empty() && files.empty() && !line.Files.empty())
         line.Wrong = std::string(job->Name) + " takes no file";
+    if (line.Wrong.empty() && folder && line.Files.size() > 1)
+        line.Wrong = std::string(job->Name) + " takes one folder";
+    if (const std::string missing = Missing(line); line.Wrong.empty() && !missing.empty())
+        line.Wrong = std::string(job->Name) + " needs " + missing;
     if (line.Wrong.empty() && dpiGiven && line.Png.empty())
         line.Wrong = "--dpi goes with --png";
     if (!line.Wrong.empty())
@@ -139,6 +166,8 @@ std::string UsageText()
             at = end + 1;
             if (option == "--png DIR")
                 text += " [--png DIR [--dpi N]]";
+            else if (option[0] == '!')
+                text += " " + option.substr(1);
             else if (option != "--dpi N")
                 text += " [" + option + "]";
         }
@@ -148,8 +177,8 @@ std::string UsageText()
     }
     text += "Jobs:\n";
     for (const BatchJob& job : Jobs)
-        text += std::string("  ") + job.Name + std::string(15 - std::string_view(job.Name).size(), ' ') + "draws " +
-                job.ThatDraws + "\n";
+        text +=
+            std::string("  ") + job.Name + std::string(17 - std::string_view(job.Name).size(), ' ') + job.What + "\n";
     text += "Options:\n"
             "  --type 1|2     the arrangement of the intro pages (1)\n"
             "  --home DIR     the working folder, with the set-up and the stock files (the program's own folder)\n"
@@ -160,7 +189,11 @@ std::string UsageText()
             "  --png DIR      each page as a picture, --dpi N dots to the inch (150)\n"
             "  --dxf DIR      each page as a drawing\n"
             "  --list FILE    the objects of all pages as lines of text\n"
-            "Messages go to standard error, one line each. The exit status is 0 when every page was drawn and no\n"
-            "message appeared, 1 when one appeared, and 2 for a wrong command line.\n";
+            "  --map FILE     how the tables are converted, as the editor of the general conversion has saved it\n"
+            "  --name NAME    the new boring file, in the folder of the tables (the boring's own name)\n"
+            "  --template FILE the boring that gives prompts, report parts, layout and set-ups\n"
+            "  --out DIR      the folder of the tables that are written\n"
+            "Messages go to standard error, one line each. The exit status is 0 when all was done and no message\n"
+            "appeared but the one that says so, 1 when another appeared, and 2 for a wrong command line.\n";
     return text;
 }

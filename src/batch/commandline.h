@@ -6,12 +6,12 @@
 #include <vector>
 
 struct BatchJob {
-    const char* Name;      // the first word of the command line
-    int16_t JobCode;       // the job of the batch dialog that it runs
-    int16_t ReportOption;  // the dialog's report choice; intro pages have two, told by --type
-    const char* Options;   // the options that it knows, in the order of its usage line
-    const char* Files;     // what it takes besides, for the usage line; "" for none
-    const char* ThatDraws; // its line of the help
+    const char* Name;     // the first word of the command line
+    int16_t JobCode;      // the job of the batch dialog that it runs; 0 for one that has no dialog
+    int16_t ReportOption; // the dialog's report choice; intro pages have two, told by --type
+    const char* Options;  // the options that it knows, in the order of its usage line; "!": one that it needs
+    const char* Files;    // what it takes besides, for the usage line: "..." several, "[...]" or nothing; "" for none
+    const char* What;     // its line of the help
 };
 
 struct CommandLine {
@@ -19,7 +19,9 @@ struct CommandLine {
     bool Help = false;
     std::string Wrong;                       // what is wrong with it; empty when nothing is
     Text Home, Project, Pdf, Png, Dxf, List; // full paths; empty when not given
-    int16_t ReportOption = 0;                // the job's own, or what --type says
+    Text Map, Template, Out;                 // the same
+    Text Name;
+    int16_t ReportOption = 0; // the job's own, or what --type says
     Text Page, Date;
     bool DateGiven = false;
     int Dpi = 150;

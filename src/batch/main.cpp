@@ -6,6 +6,11 @@
 #include "canvas/pagelisting.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "convert/gtgsgeneral.h"
+#include "convert/gtgsprt.h"
+#include "convert/gtgstext.h"
+#include "convert/irpims.h"
+#include "convert/winlog.h"
 #include "logrender/intropage.h"
 #include "logrender/vlog.h"
 #include "platform/qt/headless.h"
@@ -32,7 +37,8 @@
 enum ExitStatus { AllDrawn = 0, MessageAppeared = 1, WrongCommandLine = 2 };
 
 static CommandLine Asked;
-static int MessageCount = 0;
+static int MessageCount = 0; // but for announcements
+static int AnnouncementCount = 0;
 static int PageCount = 0;           // pages drawn in this run
 static Text PageName;               // "B-1-2": names the files of the page in hand
 static std::map<Text, int> PagesOf; // pages drawn of each base name
@@ -45,7 +51,6 @@ static std::unique_ptr<PdfRun> Pdf; // from the first page on
 static void Say(const Text& words)
 {
     static std::set<std::pair<Text, Text>> said;
-    ++MessageCount;
     if (!said.insert({RunPages.pageFile, words}).second)
         return;
     Text line;
@@ -58,10 +63,21 @@ static void Say(const Text& words)
     std::fprintf(stderr, "%s\n", ToUtf8(line).c_str());
 }
 
-// Nobody answers: the answer that loses nothing.
-static int Box(const Text& words, Buttons buttons, Icon)
+static void SayWrong(const Text& words)
 {
+    ++MessageCount;
     Say(words);
+}
+
+// Nobody answers: the answer that loses nothing. An announcement is no trouble.
+static int Box(const Text& words, Buttons buttons, Icon icon)
+{
+    if (icon == Announcement) {
+        ++AnnouncementCount;
+        Say(words);
+    } else {
+        SayWrong(words);
+    }
     switch (buttons) {
     case OkOnly:
         return Ok;
@@ -145,7 +161,7 @@ static void PrintPage()
         return;
     StartWithoutScreen();
     if (PageCount == 1 && !PageFontThere())
-        Say("The font Liberation Sans is not installed: text is drawn in another font.");
+        SayWrong("The font Liberation Sans is not installed: text is drawn in another font.");
     // A page whose logo is damaged goes out without it everywhere, and is told once.
     int failure = 0;
     const auto attempt = [&](auto output) {
@@ -178,7 +194,7 @@ static void FillPlatform()
 {
     Platform.MsgBox = Box;
     Platform.InputBox = [](const Text& prompt, const Text&, const Text&) {
-        Say(prompt);
+        SayWrong(prompt);
         return Text();
     };
     Platform.PrinterSheet = DefaultSheet;
@@ -194,7 +210,7 @@ static void FillPlatform()
     Platform.ShowHelp = [] {};
     Platform.ClipboardText = [] { return Text(); };
     Platform.SetClipboardText = [](const Text&) {};
-    Platform.Notice = Say;
+    Platform.Notice = SayWrong;
     Platform.Breathe = [] {};
     Platform.ShortDate = [] { return Asked.DateGiven ? Asked.Date : ShortDateOfLocale(); };
     Platform.Unattended = true;
@@ -204,6 +220,9 @@ static void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
     JobTable[9] = patternstart;
+    JobTable[10] = Export2IRPIMS;
+    JobTable[11] = ConvertGTGS2BOR;
+    JobTable[12] = ConvertWinLog;
     IntroPages = VLOG::vlogintrostart;
 }
 
@@ -251,24 +270,26 @@ static void OutputFolder(const Text& folder)
 
 // What the batch dialog would hold: the files, all marked, and the report choice. The files may lie in several
 // folders, so the folder of the dialog is empty and its list has their full paths.
-static void FillDialog()
+static void FillDialog(const std::vector<Text>& files)
 {
     jobCode = Asked.Job->JobCode;
     singleFile = 1; // no folder is listed
     singleFileName = "";
     DrawPrintLoad();
-    if (!Asked.Files.empty())
+    if (!files.empty())
         singleFile = 0;
     frmDrawPrint::Record& dialog = frmDrawPrint::Dialog;
     dialog.Dir1 = "";
-    dialog.FileCount = int(Asked.Files.size());
+    dialog.FileCount = int(files.size());
     for (int i = 1; i <= dialog.FileCount; ++i) {
-        dialog.File1[i] = Asked.Files[size_t(i - 1)];
+        dialog.File1[i] = files[size_t(i - 1)];
         dialog.Selected[i] = true;
     }
     dialog.ReportOption = Asked.ReportOption;
     dialog.AllPages = Asked.Page.empty();
     dialog.Text1 = Asked.Page;
+    if (!Asked.Out.empty())
+        lastDir = Asked.Out;
 }
 
 // Where the set-up names no folders of its own: a project that brings its layouts along is drawn with them, and a home
@@ -285,6 +306,60 @@ static void FindStockFiles()
         fills = JoinPath(ExecutableFolder(), "fills/");
 }
 
+// Without "." and ".." among its folders: a converted boring is named by what stands before the first dot of the path.
+static Text WithoutDotFolders(const Text& file)
+{
+    const std::filesystem::path path = NativePath(file);
+    std::error_code ignored;
+    const std::filesystem::path folder = std::filesystem::canonical(path.parent_path(), ignored);
+    const std::string text = path.string();
+    if (folder.empty() || (text.find("/./") == std::string::npos && text.find("/../") == std::string::npos))
+        return file;
+    return FromUtf8((folder / path.filename()).string());
+}
+
+// The conversions that make a boring of each file take any number of files, as many at a time as the dialog does. One
+// that ends without saying that all are converted has failed, and the run ends.
+static void RunOnFiles()
+{
+    std::vector<Text> files = Asked.Files;
+    const bool each = Asked.Job->JobCode == 11 || Asked.Job->JobCode == 12;
+    if (each)
+        for (Text& file : files)
+            file = WithoutDotFolders(file);
+    while (each && files.size() > MaxRunFiles) {
+        const int announced = AnnouncementCount;
+        FillDialog({files.begin(), files.begin() + MaxRunFiles});
+        DrawPrintOk();
+        if (AnnouncementCount == announced)
+            return;
+        files.erase(files.begin(), files.begin() + MaxRunFiles);
+    }
+    FillDialog(files);
+    DrawPrintOk();
+}
+
+static void RunGeneralConversion()
+{
+    OpenGTGSConversionFile(Asked.Map);
+    if (MessageCount != 0)
+        return;
+    if (!Asked.Files.empty())
+        GtgsMapping.textPath = Asked.Files.front();
+    ConvertGTGSGeneral(Asked.Name.empty() ? NameFromHeaders : NewBoringFile(Asked.Name));
+}
+
+// The project folder: that of the command line, else where the job's files are.
+static void FindProject()
+{
+    if (!Asked.Project.empty())
+        ProjectPath = Asked.Project;
+    else if (!Asked.Files.empty())
+        ProjectPath = Asked.Job->JobCode == 0 ? Asked.Files.front() : FolderName(Asked.Files.front());
+    else if (!Asked.Map.empty())
+        ProjectPath = FolderName(Asked.Map);
+}
+
 // Runs the job. The listing grows in a temporary file and takes its place when it is whole.
 static void RunJob()
 {
@@ -292,17 +367,21 @@ static void RunJob()
     WorkingFolder = Asked.Home.empty() ? ExecutableFolder() : Asked.Home;
     TintsInMemory = true;
     LoadDevice();
-    if (!Asked.Project.empty())
-        ProjectPath = Asked.Project;
-    else if (!Asked.Files.empty())
-        ProjectPath = FolderName(Asked.Files.front());
+    FindProject();
     FindStockFiles();
     OutputFolder(Asked.Png);
     OutputFolder(Asked.Dxf);
+    OutputFolder(Asked.Out);
     OpenListing();
     FillJobTable();
-    FillDialog();
-    DrawPrintOk();
+    WinLogTemplate = Asked.Template;
+    if (!Asked.Map.empty())
+        RunGeneralConversion();
+    else if (Asked.Job->JobCode == 0) {
+        lastDir = Asked.Files.front();
+        ConvertGTGSText();
+    } else
+        RunOnFiles();
     ClosePdf();
     CloseListing();
 }
@@ -322,7 +401,7 @@ int main(int argc, char** argv)
     try {
         RunJob();
     } catch (...) {
-        Say("Run-time error" + NumberText(FailureInHand()));
+        SayWrong("Run-time error" + NumberText(FailureInHand()));
     }
     Pdf.reset();
     std::fflush(stderr);

@@ -143,7 +143,7 @@ static void WriteLineBlock(LineWriter& out, const Slots<Text, Rows>& lines, int 
 }
 
 // BoringData as it is, in the newest form, to the file; Style and Draft by their texts.
-static void WriteBoring(const Text& name, const Text& style, const Text& draft)
+void WriteBoring(const Text& name, const Text& style, const Text& draft)
 {
     LineWriter out(name);
     out.Line("5.0.12");

@@ -8,6 +8,8 @@ void SaveBoringFile();                       // the boxes into BoringData, and t
 void TakeBoringBoxes();                      // the boxes into BoringData as for a save, unchecked; failures by number
 void boringcheck();                          // warns about the scale; changes nothing and blocks nothing
 void WriteConvertedBoring(const Text& name); // BoringData as it is, no boxes and no checks
+// The same with the texts of Style and Draft given; failures by number.
+void WriteBoring(const Text& name, const Text& style, const Text& draft);
 
 // Readers of the forms before 5.0, by procedure: they are built above this folder. 0 OpenSV3, 1 OpenSV4, 2 OpenSV46.
 extern void (*OlderForms[3])();
