@@ -146,12 +146,10 @@ static void ReadSampleRanges(LineReader& in)
         ;
     for (;;) {
         Text line = WithoutMargin(in.Line());
-        if (IsBlank(line)) {
+        while (IsBlank(line)) {
             if (UpperCase(in.Line()).find("SAMP") == Text::npos)
                 return;
             line = WithoutMargin(in.Line());
-            if (IsBlank(line))
-                continue;
         }
         Slots<Text, 21>& sample = BoringData.Samples[BoringData.SampleCount + 1];
         sample[1] = Columns(line, 0, 13);

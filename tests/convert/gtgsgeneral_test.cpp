@@ -380,7 +380,7 @@ TEST_CASE("the new boring is opened in the log tool, and unsaved work there is a
     frmBorinput::Text1 = "typed";
     FileChanged = 1;
     Messages.clear();
-    Answers = {Yes, Cancel};
+    Answers = {Yes, Ok, Cancel}; // overwrite, created, save first
     frmGTGSGenEditor::Command1();
     CHECK(Told().back() == "Would you like to save the current file before opening another file?");
     CHECK(frmBorinput::Text1 == "typed");
