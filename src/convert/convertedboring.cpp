@@ -2,7 +2,9 @@
 #include "convert/convertedboring.h"
 
 #include "boring/boringdata.h"
+#include "boring/boringfile.h"
 #include "canvas/batch.h"
+#include "session/files.h"
 #include "session/platform.h"
 
 void ClearForConversion()
@@ -23,15 +25,13 @@ void SetReportPart(int row, const FixedPart& part)
     BoringData.RepPartCount = row;
 }
 
-void DropBlankReportParts()
+void WriteBesideSource(const Text& source, const Text& style, const Text& draft)
 {
     while (BoringData.RepPartCount > 0 && IsBlank(BoringData.RepParts[BoringData.RepPartCount].Item))
         --BoringData.RepPartCount;
-}
-
-Text ConvertedName(const Text& file)
-{
-    return Text(Before(file, '.')) + ".bor";
+    const Text name = Text(Before(source, '.')) + ".bor";
+    // A new file can be made again from its source; waiting for the disk after each one would be most of a long run.
+    WriteBoring(name, style, draft, FileExists(name) ? Durability::Saved : Durability::Scratch);
 }
 
 ConversionProgress::ConversionProgress(int total)

@@ -8,16 +8,17 @@
 // that has failed leaves them; they must not show up in the next boring. Columns 10 to 21 of Params stay as they are.
 void ClearForConversion();
 
-// Text column of so many Info prompts from row 1 on, and names of the report parts: the fixed ones of a conversion.
+// A report part that a conversion gives every boring.
 struct FixedPart {
     const char* Item;
     const char* Width;
 };
 void SetReportPart(int row, const FixedPart& part); // RepPartCount becomes the row
-void DropBlankReportParts();                        // at the end of the list
 
-// Beside the foreign file. Kept: the path ends at its first ".", also where that stands in the name of a folder.
-Text ConvertedName(const Text& file);
+// Writes BoringData beside its source, with the texts of Style and Draft given and without blank report parts at the
+// end. Failures by number. Kept: the name is the path up to its first ".", also where that stands in the name of a
+// folder.
+void WriteBesideSource(const Text& source, const Text& style, const Text& draft);
 
 // The progress window from here to the end of the scope, a step for each file.
 class ConversionProgress

@@ -11,7 +11,6 @@
 #include "convert/gtgsprt.h"
 
 #include "boring/boringdata.h"
-#include "boring/boringfile.h"
 #include "canvas/batch.h"
 #include "convert/convertedboring.h"
 #include "convert/tablefile.h"
@@ -300,8 +299,7 @@ static void ConvertPrintFile(const Text& name)
         if (error.Number != InputPastEnd)
             throw;
     }
-    DropBlankReportParts();
-    WriteBoring(ConvertedName(name), "3", IntegerField(BoringData.Draft));
+    WriteBesideSource(name, "3", IntegerField(BoringData.Draft));
 }
 
 void ConvertGTGS2BOR()

@@ -10,7 +10,6 @@
 #include "convert/winlog.h"
 
 #include "boring/boringdata.h"
-#include "boring/boringfile.h"
 #include "canvas/batch.h"
 #include "convert/convertedboring.h"
 #include "convert/tablefile.h"
@@ -331,8 +330,7 @@ static void ConvertLogFile(const Text& name)
     ClearForConversion();
     ReadTemplate();
     ReadLogFile(name);
-    DropBlankReportParts();
-    WriteBoring(ConvertedName(name), "2", "0");
+    WriteBesideSource(name, "2", "0");
 }
 
 void ConvertWinLog()

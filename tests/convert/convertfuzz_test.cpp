@@ -50,7 +50,7 @@ static void FuzzFiles(void (*job)(), const Text& folder, const std::vector<Text>
     std::vector<std::string> bytes;
     for (const Text& source : sources)
         bytes.push_back(ConvertData(folder + source));
-    const int count = MutantCount(600);
+    const int count = MutantCount(150);
     for (int seed = 1; seed <= count; ++seed) {
         INFO("seed ", seed);
         Damage("x" + ending, bytes[size_t(seed) % bytes.size()], seed);
@@ -86,7 +86,7 @@ TEST_CASE("fuzz: damaged templates")
     const std::set<Text> known{"All .LOG Files Converted", "This boring file has an invalid format.",
                                Error(6, "ConvertWinLog"), Error(9, "ConvertWinLog"), Error(62, "ConvertWinLog")};
     WinLogTemplate = Scratch("t.BOR");
-    const int count = MutantCount(300);
+    const int count = MutantCount(100);
     for (int seed = 1; seed <= count; ++seed) {
         INFO("seed ", seed);
         Damage("t.BOR", bytes, seed);
@@ -113,7 +113,7 @@ TEST_CASE("fuzz: damaged text tables in their fixed form")
     std::map<Text, std::string> bytes;
     for (const char* table : tables)
         bytes[table] = ConvertData(Text("txt/") + table);
-    const int count = MutantCount(600);
+    const int count = MutantCount(150);
     for (int seed = 1; seed <= count; ++seed) {
         INFO("seed ", seed);
         // The headers name the files: a damaged name may be none, or one in a folder that is not there.
@@ -158,7 +158,7 @@ TEST_CASE("fuzz: damaged text tables, maps and templates of the general conversi
                                "The Boring File to be used as a template has an invalid format, please use another.",
                                Error(6, "OpenGTGSConversionFile"),
                                Error(62, "OpenGTGSConversionFile")};
-    const int count = MutantCount(600);
+    const int count = MutantCount(150);
     for (int seed = 1; seed <= count; ++seed) {
         INFO("seed ", seed);
         const Text source = sources[seed % 6];

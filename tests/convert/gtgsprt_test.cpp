@@ -124,7 +124,7 @@ TEST_CASE("contacts beyond 100 take the place of the last one")
 
 TEST_CASE("description lines join with a blank, a line with a dot forces marks on both sides, and notes are lines")
 {
-    ConvertChanged("ordinary.PRT", {});
+    ConvertChanged("ordinary.PRT", {{".L=5.0", ". Dense"}, {"second", ". second"}});
     REQUIRE(BoringData.DesCount == 7);
     CHECK(BoringData.Des[1] == "SOFT CLAY ");
     CHECK(BoringData.Des[2] == "MOIST\xB6");
