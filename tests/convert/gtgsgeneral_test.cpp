@@ -96,10 +96,10 @@ TEST_CASE("well lines begin with cap, case, seal or fseal, and the value takes t
 
 TEST_CASE("fields are separated by commas, tabs, or blanks for any other number")
 {
-    for (const auto& [spec, line] : {std::pair<int, const char*>(1, "a b,c"), {0, "a b\tc"}, {2, "a c"}, {3, "a c"}}) {
+    for (const auto& [separator, line] : {std::pair<int, const char*>(1, "a b,c"), {0, "a b\tc"}, {2, "a c"}, {3, "a c"}}) {
         OwnMap();
         GtgsMapping.fixedFields = 0;
-        GtgsMapping.fieldSpec = int16_t(spec);
+        GtgsMapping.fieldSpec = int16_t(separator);
         WriteScratch("headers.txt", line);
         ConvertGTGSGeneral(Scratch("x.bor"));
         Open("x.bor");
@@ -288,16 +288,16 @@ TEST_CASE("the separator shown is comma for 1, space for 2, tab for others, and 
 {
     CopyData("general");
     frmGTGSGenEditor::Load();
-    for (const auto& [spec, shown] : {std::pair<int, int>(1, 0), {2, 1}, {0, 2}, {3, 2}}) {
+    for (const auto& [separator, shown] : {std::pair<int, int>(1, 0), {2, 1}, {0, 2}, {3, 2}}) {
         GtgsMapping.templateFile = "template";
         GtgsMapping.fixedFields = 0;
-        GtgsMapping.fieldSpec = int16_t(spec);
+        GtgsMapping.fieldSpec = int16_t(separator);
         SaveGTGSConversionFile(Scratch("s.GCV"));
         Choose(Scratch("s.GCV"));
         frmGTGSGenEditor::mnuOpenGTGSConvFile();
         CHECK(Dialog.Combo1 == shown);
         frmGTGSGenEditor::mnuSaveGTGSConvFile();
-        CHECK(GtgsMapping.fieldSpec == spec);
+        CHECK(GtgsMapping.fieldSpec == separator);
     }
     // Blanks separate in the conversion, though the box shows "Tab".
     SS1.Cell(1, 1) = "boring info";
