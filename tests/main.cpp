@@ -25,6 +25,10 @@
 #include "report/layoutedit.h"
 #include "report/logo.h"
 #include "report/prompts.h"
+#include "sections/crossfile.h"
+#include "sections/crossrun.h"
+#include "sections/fencefile.h"
+#include "sections/layershapes.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -100,7 +104,7 @@ static void EmptyBoxes()
     MemoWcon = {"", 3249, 1750};
     MemoRemarks = {"", 2223, 1750};
     MemoBottNotes = {"", 8010, 1750};
-    frmSoil::MemoNotes = {"", 6800, 1550};
+    frmSoil::MemoSoil = {"", 6800, 1550};
     txtClient = Text1 = Text2 = cmbLayFile = lblWidthtot = Title = "";
     List = {};
     LayFiles.clear();
@@ -137,6 +141,16 @@ struct Fresh : doctest::IReporter {
         frmOpenSave::SS.Clear();
         frmOpenSave::HiddenFolder = "";
         frmOpenSave::HiddenFiles.clear();
+        CrossData = CrossRecord();
+        frmCross::FileName = "";
+        frmCross::SS1 = Grid(CrossRecord::FormBorings, 5);
+        for (Grid* grid : {&frmCross::SS2, &frmCross::SS3, &frmCross::SS4})
+            *grid = Grid(grid->rows, grid->columns);
+        VCROSS::ResetCrossRun();
+        FenceData = FenceRecord();
+        frmFence::FileName = "";
+        for (Grid* grid : {&frmFence::SS1, &frmFence::SS2, &frmFence::SS3, &frmFence::SS4, &frmFence::SS5})
+            *grid = Grid(grid->rows, grid->columns);
         frmCross::Title = frmFence::Title = frmSoil::Title = "";
         frmPrinterSetup::Dialog = frmPrinterSetup::Record();
         frmPrinterSetup::SSMainFilePath.Clear();
@@ -164,6 +178,7 @@ struct Fresh : doctest::IReporter {
         LogPage = LogPageRecord();
         LogBoring = LogBoringRecord();
         LogGeometry = LogGeometryRecord();
+        VCROSS::LayerFill = VCROSS::LayerFillRecord();
         ForgetPatterns();
         TintsInMemory = false;
         WinLogTemplate = "";

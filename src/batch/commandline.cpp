@@ -14,6 +14,8 @@ static constexpr char SheetOptions[] = "--home DIR;--pdf FILE;--png DIR;--dpi N;
 static constexpr BatchJob Jobs[] = {
     {"log", 2, 0, LogOptions, "FILE.BOR...", "draws the boring logs of saved borings"},
     {"intro", 2, 1, IntroOptions, "FILE.BOR...", "draws the intro pages of saved borings, one each"},
+    {"section", 4, 0, LogOptions, "FILE.CRO...", "draws cross sections, a page each"},
+    {"fence", 6, 0, LogOptions, "FILE.FEN...", "draws fence diagrams, a page each"},
     {"guide", 9, 0, SheetOptions, "", "draws the Fill Pattern Guide"},
     {"convert-txt", 0, 0, "--home DIR", "DIR",
      "converts the GTGS text tables of a folder, a boring file for each boring"},
@@ -183,7 +185,7 @@ std::string UsageText()
             "  --type 1|2     the arrangement of the intro pages (1)\n"
             "  --home DIR     the working folder, with the set-up and the stock files (the program's own folder)\n"
             "  --project DIR  the project folder (the folder of the first file)\n"
-            "  --page N       only page N of each boring; an intro page is a single page\n"
+            "  --page N       only page N of each boring; any other job's page is a single one\n"
             "  --date TEXT    the text of the date line (today)\n"
             "  --pdf FILE     all pages as one PDF\n"
             "  --png DIR      each page as a picture, --dpi N dots to the inch (150)\n"

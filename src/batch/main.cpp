@@ -17,6 +17,8 @@
 #include "platform/qt/pagepainter.h"
 #include "platform/qt/pdfrun.h"
 #include "platform/qt/pngpages.h"
+#include "sections/crossrun.h"
+#include "sections/fencerun.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -219,6 +221,8 @@ static void FillPlatform()
 static void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
+    JobTable[3] = JobTable[4] = VCROSS::vcrossstart;
+    JobTable[5] = JobTable[6] = VCROSS::vfencestart;
     JobTable[9] = patternstart;
     JobTable[10] = Export2IRPIMS;
     JobTable[11] = ConvertGTGS2BOR;

@@ -85,6 +85,19 @@ TEST_CASE("intro pages run as the print job with the report choice of their type
     CHECK(line.Files.size() == 1);
 }
 
+TEST_CASE("cross sections run as the print job, with the options of a log")
+{
+    const CommandLine line =
+        ReadCommandLine({"section", "--home", "/h",    "--project", "/p",    "--page",   "2",
+                         "--date",  "x",      "--pdf", "/o/p",      "--png", "/o",       "--dpi",
+                         "72",      "--dxf",  "/o",    "--list",    "/o/l",  "/a/A.CRO", "/a/B.CRO"});
+    CHECK(line.Wrong == "");
+    CHECK(line.Job->JobCode == 4);
+    CHECK(line.ReportOption == 0);
+    CHECK(line.Files.size() == 2);
+    CHECK(ReadCommandLine({"section"}).Wrong == "no file given for section");
+}
+
 TEST_CASE("a file whose name begins with a hyphen goes behind two hyphens")
 {
     const CommandLine line = ReadCommandLine({"log", "--", "-1.BOR"});
@@ -99,6 +112,8 @@ TEST_CASE("the help has a usage line for each job")
     CHECK(text.find("stratavue-batch log [--home DIR] [--project DIR] [--page N] [--date TEXT] [--pdf FILE] "
                     "[--png DIR [--dpi N]] [--dxf DIR] [--list FILE] FILE.BOR...\n") != std::string::npos);
     CHECK(text.find("stratavue-batch intro [--type 1|2] [--home DIR]") != std::string::npos);
+    CHECK(text.find("stratavue-batch section [--home DIR] [--project DIR] [--page N] [--date TEXT] [--pdf FILE] "
+                    "[--png DIR [--dpi N]] [--dxf DIR] [--list FILE] FILE.CRO...\n") != std::string::npos);
     CHECK(text.find("stratavue-batch guide [--home DIR] [--pdf FILE] [--png DIR [--dpi N]] [--list FILE]\n") !=
           std::string::npos);
 }

@@ -192,6 +192,54 @@ class Batch(unittest.TestCase):
                 with open(self.path(f"{i}.{ending}"), "rb") as file:
                     self.assertEqual(file.read(), alone)
 
+    def section(self, name, borings, layers="N", page="L"):
+        """A cross section of sample borings in the folder of the test, with copies of them beside it."""
+        lines = [f" {len(borings)} "]
+        for number, boring in enumerate(borings):
+            lines += [str(100 * number + 100), boring, "4", "B", "", "0,0", ""]
+            if os.path.exists(sample(boring)):
+                shutil.copy(sample(boring), self.folder)
+        lines += ["", "0", "500", "100", "Feet", "620", "520", "-20", "Feet", "", "Main of " + name, "", "", "A", "A'",
+                  layers] + [";"] * 8 + [page, "", "", ""] + [";"] * 22
+        with open(self.path(name), "w", encoding="cp1252", newline="") as file:
+            file.write("".join(line + "\r\n" for line in lines))
+        return name
+
+    def test_cross_sections_go_to_all_outputs_on_a_page_each(self):
+        borings = ["TC-101.BOR", "TC-102.BOR", "TC-103.BOR"]
+        done = self.run_batch("section", "--pdf", "a.pdf", "--png", "png", "--dpi", "20", "--dxf", "dxf", "--list",
+                              "a.jsonl", "--date", "1 May 2001", self.section("A.CRO", borings, "Y"),
+                              self.section("B.CRO", borings, "I", "T"))
+        self.assertEqual(done.stderr, "")
+        pages = listing(self.path("a.jsonl"))
+        self.assertEqual([(head["source"], head["mode"]) for head, _ in pages], [("A.CRO", "L"), ("B.CRO", "T")])
+        for page, name in zip(pages, ("A", "B")):
+            words = texts(page)
+            self.assertIn(f" Main of {name}.CRO ", words)
+            self.assertIn(" SECTION A-A' ", words)
+            self.assertIn("1 May 2001    " + os.path.realpath(self.folder) + f"/{name}.CRO", words)
+            for boring in borings:
+                self.assertIn(f" {boring[:6]} ", words)
+        self.assertEqual(sorted(os.listdir(self.path("png"))), ["A-1.png", "B-1.png"])
+        self.assertEqual(sorted(os.listdir(self.path("dxf"))), ["A-1.dxf", "B-1.dxf"])
+        info = subprocess.run(["pdfinfo", self.path("a.pdf")], capture_output=True, text=True).stdout
+        self.assertIn("Pages:           2\n", info)
+
+    def test_a_cross_section_that_is_not_there_is_told_and_the_others_are_drawn(self):
+        self.section("A.CRO", ["TC-101.BOR"])
+        self.section("C.CRO", ["TC-101.BOR"])
+        done = self.run_batch("section", "--list", "a.jsonl", "A.CRO", "B.CRO", "C.CRO", status=1)
+        self.assertEqual(done.stderr.count("\n"), 1)
+        self.assertTrue(done.stderr.startswith("File Not Found: " + os.path.realpath(self.folder) + "/B.CRO.  "))
+        self.assertEqual([page[0]["source"] for page in listing(self.path("a.jsonl"))], ["A.CRO", "C.CRO"])
+
+    def test_a_cross_section_with_a_missing_boring_is_a_page_and_so_is_the_one_behind_it(self):
+        self.section("A.CRO", ["TC-101.BOR", "NONE.BOR"])
+        self.section("B.CRO", ["TC-101.BOR"])
+        done = self.run_batch("section", "--list", "a.jsonl", "A.CRO", "B.CRO", status=1)
+        self.assertEqual(done.stderr, "Boring File Not Found: " + os.path.realpath(self.folder) + "/NONE.BOR\n")
+        self.assertEqual([page[0]["source"] for page in listing(self.path("a.jsonl"))], ["A.CRO", "B.CRO"])
+
     def test_intro_pages_are_one_page_a_boring_in_the_arrangement_asked_for(self):
         names = {}
         for arrangement in ("1", "2"):
@@ -207,6 +255,37 @@ class Batch(unittest.TestCase):
                 self.assertIn("LEGEND:", texts(page))
             names[arrangement] = [item["x"] for item in pages[0][1] if item.get("text") == "MW-108"]
         self.assertEqual(names, {"1": [420], "2": [2970]})
+
+    def test_fences_are_one_page_each_on_the_sheet_of_their_page_cell(self):
+        done = self.run_batch("fence", "--date", "1 May 2001", "--pdf", "f.pdf", "--png", "png", "--dpi", "20", "--dxf",
+                              "dxf", "--list", "f.jsonl", sample("TC-F1.FEN"), sample("TC-F2.FEN"), sample("TC-F3.FEN"))
+        self.assertEqual(done.stderr, "")
+        pages = listing(self.path("f.jsonl"))
+        self.assertEqual([page[0]["source"] for page in pages], ["TC-F1.FEN", "TC-F2.FEN", "TC-F3.FEN"])
+        for page, number in zip(pages, "123"):
+            self.assertIn(f" Fence Diagram {number} ", texts(page))
+            self.assertIn("1 May 2001    " + sample(f"TC-F{number}.FEN"), texts(page))
+        self.assertEqual(sorted(os.listdir(self.path("png"))), ["TC-F1-1.png", "TC-F2-1.png", "TC-F3-1.png"])
+        self.assertEqual(sorted(os.listdir(self.path("dxf"))), ["TC-F1-1.dxf", "TC-F2-1.dxf", "TC-F3-1.dxf"])
+        info = subprocess.run(["pdfinfo", "-l", "3", self.path("f.pdf")], capture_output=True, text=True).stdout
+        sizes = [line.split(":")[1].split("(")[0].split() for line in info.splitlines()
+                 if line.startswith("Page ") and " size:" in line]
+        self.assertEqual([(size[0], size[2]) for size in sizes], [("792", "612"), ("1224", "792"), ("1224", "792")])
+
+    def test_a_fence_or_a_boring_of_it_that_is_not_there_is_told_and_the_other_fences_are_drawn(self):
+        for name in ("TC-F1.FEN", "TC-101.BOR"):
+            shutil.copy(sample(name), self.folder)
+        gone, alone = self.path("GONE.FEN"), self.path("TC-F1.FEN")
+        done = self.run_batch("fence", "--project", self.folder, "--list", "f.jsonl", gone, alone, sample("TC-F2.FEN"),
+                              alone, status=1)
+        hint = "Possible solution: Use 'Project: Select Project' to select your project before opening files."
+        boring = "Boring File Not Found: " + self.path("TC-102.bor")
+        self.assertEqual(done.stderr.splitlines(), [f"File Not Found: {gone}.  {hint}", boring,
+                                                    "Boring File Not Found: " + self.path("MW-109.bor")])
+        pages = listing(self.path("f.jsonl"))
+        self.assertEqual([page[0]["source"] for page in pages], ["TC-F1.FEN", "TC-F2.FEN", "TC-F1.FEN"])
+        self.assertIn(" TC-101 ", texts(pages[0]))
+        self.assertNotIn(" TC-102 ", texts(pages[0]))
 
     def test_the_guide_is_one_page_with_all_patterns(self):
         done = self.run_batch("guide", "--pdf", "g.pdf", "--png", "png", "--list", "g.jsonl")

@@ -18,6 +18,8 @@
 #include "report/desitems.h"
 #include "report/fontprofile.h"
 #include "report/oldboring.h"
+#include "sections/crossrun.h"
+#include "sections/fencerun.h"
 #include "session/platform.h"
 
 #include <QApplication>
@@ -125,6 +127,8 @@ void UseDesktopPlatform()
 void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
+    JobTable[3] = JobTable[4] = VCROSS::vcrossstart;
+    JobTable[5] = JobTable[6] = VCROSS::vfencestart;
     JobTable[9] = patternstart;
     JobTable[10] = Export2IRPIMS;
     JobTable[11] = ConvertGTGS2BOR;
