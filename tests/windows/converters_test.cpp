@@ -140,9 +140,10 @@ TEST_CASE("the conversion editor: a map is opened, typed in and saved, and Begin
         CHECK(fields->model()->headerData(0, Qt::Horizontal).toString() == "Maps to Vesklog");
         CHECK(fields->model()->data(fields->model()->index(3, 0)).toString() == "Boring Info");
         Picture(window, "frmGTGSGenEditor");
-        // A kind is picked from the list of its cell: the letter opens it, the arrow moves in it.
+        // A kind is picked from the list of its cell, in which the arrows move.
         fields->setFocus();
         fields->setCurrentIndex(fields->model()->index(9, 0));
+        Settle(); // the menu's leaving has given the focus back
         QTest::keyClick(window->focusWidget(), Qt::Key_F2);
         Settle();
         auto* list = fields->findChild<QComboBox*>();
