@@ -11,6 +11,7 @@
 #include "convert/gtgstext.h"
 #include "convert/irpims.h"
 #include "convert/winlog.h"
+#include "gis/gisfile.h"
 #include "logrender/intropage.h"
 #include "logrender/vlog.h"
 #include "platform/qt/headless.h"
@@ -19,6 +20,7 @@
 #include "platform/qt/pngpages.h"
 #include "sections/crossrun.h"
 #include "sections/fencerun.h"
+#include "sections/soiltable.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -53,6 +55,7 @@ static std::unique_ptr<PdfRun> Pdf; // from the first page on
 static void Say(const Text& words)
 {
     static std::set<std::pair<Text, Text>> said;
+    ++MessageCount;
     if (!said.insert({RunPages.pageFile, words}).second)
         return;
     Text line;
@@ -65,20 +68,13 @@ static void Say(const Text& words)
     std::fprintf(stderr, "%s\n", ToUtf8(line).c_str());
 }
 
-static void SayWrong(const Text& words)
-{
-    ++MessageCount;
-    Say(words);
-}
-
-// Nobody answers: the answer that loses nothing. An announcement is no trouble.
+// Nobody answers: the answer that loses nothing. That all is done is told too, but does not count.
 static int Box(const Text& words, Buttons buttons, Icon icon)
 {
-    if (icon == Announcement) {
+    Say(words);
+    if (icon == Announcement || words.starts_with("Done ")) {
+        --MessageCount;
         ++AnnouncementCount;
-        Say(words);
-    } else {
-        SayWrong(words);
     }
     switch (buttons) {
     case OkOnly:
@@ -163,7 +159,7 @@ static void PrintPage()
         return;
     StartWithoutScreen();
     if (PageCount == 1 && !PageFontThere())
-        SayWrong("The font Liberation Sans is not installed: text is drawn in another font.");
+        Say("The font Liberation Sans is not installed: text is drawn in another font.");
     // A page whose logo is damaged goes out without it everywhere, and is told once.
     int failure = 0;
     const auto attempt = [&](auto output) {
@@ -196,7 +192,7 @@ static void FillPlatform()
 {
     Platform.MsgBox = Box;
     Platform.InputBox = [](const Text& prompt, const Text&, const Text&) {
-        SayWrong(prompt);
+        Say(prompt);
         return Text();
     };
     Platform.PrinterSheet = DefaultSheet;
@@ -212,7 +208,7 @@ static void FillPlatform()
     Platform.ShowHelp = [] {};
     Platform.ClipboardText = [] { return Text(); };
     Platform.SetClipboardText = [](const Text&) {};
-    Platform.Notice = SayWrong;
+    Platform.Notice = Say;
     Platform.Breathe = [] {};
     Platform.ShortDate = [] { return Asked.DateGiven ? Asked.Date : ShortDateOfLocale(); };
     Platform.Unattended = true;
@@ -223,6 +219,7 @@ static void FillJobTable()
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
     JobTable[3] = JobTable[4] = VCROSS::vcrossstart;
     JobTable[5] = JobTable[6] = VCROSS::vfencestart;
+    JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
     JobTable[9] = patternstart;
     JobTable[10] = Export2IRPIMS;
     JobTable[11] = ConvertGTGS2BOR;
@@ -327,7 +324,7 @@ static Text WithoutDotFolders(const Text& file)
 static void RunOnFiles()
 {
     std::vector<Text> files = Asked.Files;
-    const bool each = Asked.Job->JobCode == 11 || Asked.Job->JobCode == 12;
+    const bool each = Asked.Job->Work == BatchWork::Converts && Asked.Out.empty();
     if (each)
         for (Text& file : files)
             file = WithoutDotFolders(file);
@@ -343,8 +340,45 @@ static void RunOnFiles()
     DrawPrintOk();
 }
 
-static void RunGeneralConversion()
+// The working folder and its set-up, and the project folder: that of the command line, else the one that is given.
+static void SetFolders(const Text& project)
 {
+    WorkingFolder = Asked.Home.empty() ? ExecutableFolder() : Asked.Home;
+    LoadDevice();
+    if (!Asked.Project.empty())
+        ProjectPath = Asked.Project;
+    else if (!project.empty())
+        ProjectPath = project;
+}
+
+// Runs the job. The listing grows in a temporary file and takes its place when it is whole.
+static void RunJob()
+{
+    const PrivateFolder privateFolder;
+    TintsInMemory = true;
+    SetFolders(Asked.Files.empty() ? Text() : FolderName(Asked.Files.front()));
+    FindStockFiles();
+    OutputFolder(Asked.Png);
+    OutputFolder(Asked.Dxf);
+    OutputFolder(Asked.Out);
+    OpenListing();
+    FillJobTable();
+    WinLogTemplate = Asked.Template;
+    RunOnFiles();
+    ClosePdf();
+    CloseListing();
+}
+
+static void ConvertTables()
+{
+    SetFolders(Asked.Files.front());
+    lastDir = Asked.Files.front();
+    ConvertGTGSText();
+}
+
+static void ConvertByMap()
+{
+    SetFolders(Asked.Files.empty() ? FolderName(Asked.Map) : Asked.Files.front());
     OpenGTGSConversionFile(Asked.Map);
     if (MessageCount != 0)
         return;
@@ -353,41 +387,37 @@ static void RunGeneralConversion()
     ConvertGTGSGeneral(Asked.Name.empty() ? NameFromHeaders : NewBoringFile(Asked.Name));
 }
 
-// The project folder: that of the command line, else where the job's files are.
-static void FindProject()
+// The table of a GIS file into the workbench's grids. False: it could not be read whole.
+static bool OpenTable(const Text& file)
 {
-    if (!Asked.Project.empty())
-        ProjectPath = Asked.Project;
-    else if (!Asked.Files.empty())
-        ProjectPath = Asked.Job->JobCode == 0 ? Asked.Files.front() : FolderName(Asked.Files.front());
-    else if (!Asked.Map.empty())
-        ProjectPath = FolderName(Asked.Map);
+    RunPages.pageFile = file;
+    OpenGISFile(file);
+    FillGISForm();
+    return MessageCount == 0;
 }
 
-// Runs the job. The listing grows in a temporary file and takes its place when it is whole.
-static void RunJob()
+// A table that cannot be read is left as it is; a boring that cannot be read has its row with its name alone.
+static void AddToGis()
 {
-    const PrivateFolder privateFolder;
-    WorkingFolder = Asked.Home.empty() ? ExecutableFolder() : Asked.Home;
-    TintsInMemory = true;
-    LoadDevice();
-    FindProject();
-    FindStockFiles();
-    OutputFolder(Asked.Png);
-    OutputFolder(Asked.Dxf);
-    OutputFolder(Asked.Out);
-    OpenListing();
-    FillJobTable();
-    WinLogTemplate = Asked.Template;
-    if (!Asked.Map.empty())
-        RunGeneralConversion();
-    else if (Asked.Job->JobCode == 0) {
-        lastDir = Asked.Files.front();
-        ConvertGTGSText();
-    } else
-        RunOnFiles();
-    ClosePdf();
-    CloseListing();
+    const Text table = HasEnding(Asked.Gis) ? Asked.Gis : Asked.Gis + ".GIS";
+    ClearGISForm();
+    if (FileExists(table) && !OpenTable(table))
+        return;
+    for (const Text& boring : Asked.Files) {
+        RunPages.pageFile = boring;
+        frmGIS::AddBoring(boring, BaseName(boring));
+    }
+    SaveGISFile(table);
+}
+
+static void ExportGis()
+{
+    if (!OpenTable(Asked.Files.front()))
+        return;
+    if (!Asked.ArcView.empty())
+        ExportGIS2ArcView(Asked.ArcView);
+    else
+        ExportGIS2EVS(Asked.Evs);
 }
 
 int main(int argc, char** argv)
@@ -403,9 +433,26 @@ int main(int argc, char** argv)
     }
     FillPlatform();
     try {
-        RunJob();
+        switch (Asked.Job->Work) {
+        case BatchWork::Draws:
+        case BatchWork::Converts:
+            RunJob();
+            break;
+        case BatchWork::ConvertsTables:
+            ConvertTables();
+            break;
+        case BatchWork::ConvertsByMap:
+            ConvertByMap();
+            break;
+        case BatchWork::AddsToGis:
+            AddToGis();
+            break;
+        case BatchWork::ExportsGis:
+            ExportGis();
+            break;
+        }
     } catch (...) {
-        SayWrong("Run-time error" + NumberText(FailureInHand()));
+        Say("Run-time error" + NumberText(FailureInHand()));
     }
     Pdf.reset();
     std::fflush(stderr);

@@ -4,13 +4,17 @@
 
 #include "boring/boringboxes.h"
 #include "editors/fillform.h"
+#include "editors/toolcommands.h"
 #include "platform/qt/application.h"
 #include "platform/qt/gridview.h"
 #include "platform/qt/livepane.h"
 #include "platform/qt/memoview.h"
 #include "platform/qt/uitext.h"
+#include "platform/qt/windowparts.h"
 #include "platform/qt/windows.h"
 #include "session/files.h"
+#include "session/platform.h"
+#include "session/recovery.h"
 #include "session/session.h"
 
 #include <QAction>
@@ -31,7 +35,6 @@
 #include <QPointer>
 #include <QRadioButton>
 #include <QScreen>
-#include <QSettings>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
@@ -40,7 +43,9 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <functional>
+#include <memory>
 
 namespace
 {
@@ -49,6 +54,7 @@ class BorinputWindow : public QMainWindow
 public:
     BorinputWindow();
     void Refresh();
+    void Run(const std::function<void()>& command);
     bool ending = false; // the user has been asked; nothing holds the window any more
 
 protected:
@@ -61,11 +67,9 @@ private:
     QAction* Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
                    std::function<void()> command);
     void FillMenus();
-    void Run(const std::function<void()>& command);
     void UndoOrRedo(bool undo);
     void Typed(); // a box has changed: what stands elsewhere is shown anew
     void ShowState();
-    void ShowRecent();
     void Activates(QWidget* box, int number);
     QWidget* Titled(const Text& title, QWidget* box);
     QWidget* GridBox(const char* name, int number);
@@ -79,7 +83,7 @@ private:
     void AddPreview();
     void OrderTabs();
 
-    QMenu* recent = nullptr;
+    std::unique_ptr<RecentFiles> recent;
     QTabWidget* tabs = nullptr;
     LivePane* live = nullptr;
     QLabel* state;
@@ -89,24 +93,6 @@ private:
     std::vector<std::function<void()>> refreshers; // one for each box
     Text shownFile;                                // the boring that the boxes were last fitted to
 };
-
-// Boxes beside or above one another, with movable borders between them.
-QSplitter* Split(Qt::Orientation orientation, std::initializer_list<QWidget*> boxes, std::initializer_list<int> shares)
-{
-    auto* splitter = new QSplitter(orientation);
-    splitter->setChildrenCollapsible(false);
-    splitter->setHandleWidth(10);
-    for (QWidget* box : boxes)
-        splitter->addWidget(box);
-    int i = 0;
-    QList<int> sizes;
-    for (const int share : shares) {
-        splitter->setStretchFactor(i++, share);
-        sizes << share * 100;
-    }
-    splitter->setSizes(sizes);
-    return splitter;
-}
 
 QWidget* Tab(QWidget* content)
 {
@@ -157,6 +143,9 @@ BorinputWindow::BorinputWindow()
     state->setContentsMargins(8, 0, 8, 0);
     statusBar()->addWidget(project, 1);
     statusBar()->addPermanentWidget(state);
+    auto* copies = new QTimer(this);
+    connect(copies, &QTimer::timeout, this, KeepCopy);
+    copies->start(std::max(RecoveryInterval / 12, 1));
     resize(QSize(1180, 780).boundedTo(screen()->availableGeometry().size() * 0.95));
     CentreOnScreen(*this);
     Refresh();
@@ -174,7 +163,9 @@ void BorinputWindow::FillMenus()
     QMenu* file = part(menuBar(), "mnuFile", "&File");
     Entry(file, "mnuNew", "&New", QKeySequence::New, frmBorinput::mnuNew);
     Entry(file, "mnuOpen", "&Open...", QKeySequence::Open, frmBorinput::mnuOpen);
-    recent = part(file, "mnuRecent", "Open &Recent");
+    recent = std::make_unique<RecentFiles>(part(file, "mnuRecent", "Open &Recent"), "recent", [this](const Text& name) {
+        Run([&name] { frmBorinput::OpenNamed(name); });
+    });
     Entry(file, "mnuSave", "&Save", QKeySequence::Save, frmBorinput::mnuSave);
     Entry(file, "mnuSaveAs", "Save &As...", QKeySequence("Ctrl+Shift+S"), frmBorinput::mnuSaveAs);
     Entry(file, "mnuImport", "&Import Description Text...", {}, frmBorinput::mnuImport);
@@ -287,37 +278,6 @@ void BorinputWindow::dropEvent(QDropEvent* event)
     event->acceptProposedAction();
     // The program that the file comes from waits for the end of the drop, and not for the user's answers.
     QTimer::singleShot(0, this, [this, name] { Run([&name] { frmBorinput::OpenNamed(name); }); });
-}
-
-static constexpr int maxRecent = 9;
-
-static QStringList RecentFiles()
-{
-    return QSettings("Stratavue", "Stratavue").value("recent").toStringList();
-}
-
-// The boring that has a name now is the most recent one.
-void BorinputWindow::ShowRecent()
-{
-    QStringList files = RecentFiles();
-    if (!BoringFileName.empty()) {
-        const QString name = ToUi(BoringFileName);
-        if (files.value(0) != name) {
-            files.removeAll(name);
-            files.prepend(name);
-            files = files.mid(0, maxRecent);
-            QSettings("Stratavue", "Stratavue").setValue("recent", files);
-        }
-    }
-    recent->clear();
-    recent->setEnabled(!files.isEmpty());
-    int i = 0;
-    for (const QString& file : files) {
-        auto* action = recent->addAction(QString("&%1 %2").arg(++i).arg(QString(file).replace("&", "&&")));
-        action->setObjectName(QString("mnuRecent%1").arg(i));
-        connect(action, &QAction::triggered, this,
-                [this, name = FromUi(file)] { Run([&name] { frmBorinput::OpenNamed(name); }); });
-    }
 }
 
 // ---- Boxes
@@ -746,7 +706,7 @@ void BorinputWindow::Refresh()
         for (GridView* grid : grids)
             grid->Fit();
     }
-    ShowRecent();
+    recent->Show(BoringFileName);
     const auto dress = [this](const char* name, const Text& family) {
         auto* box = findChild<QWidget*>(name);
         if (family.empty() || box->font().family() == ToUi(family))
@@ -780,14 +740,26 @@ void ShowLogWindow()
         frmBorinput::Load();
         window = new BorinputWindow;
         window->show();
+        StartRecovery(JoinPath(Platform.DataFolder(), "Stratavue/recovery"));
+        WatchTool(LogTool);
         StartDone = true;
     } catch (...) {
         TellRunTimeError();
     }
 }
 
+void OfferRecovery()
+{
+    if (window)
+        window->Run([] {
+            OfferCopies();
+            ShowRecoveredTool();
+        });
+}
+
 void EndProgram()
 {
+    EndRecovery();
     if (window)
         window->ending = true;
     QApplication::quit();

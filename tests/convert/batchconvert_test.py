@@ -128,8 +128,8 @@ class Convert(unittest.TestCase):
     def test_a_wrong_command_line_ends_with_2(self):
         for words, wrong in ((["convert-txt"], "no folder given for convert-txt"),
                              (["convert-txt", "a", "b"], "convert-txt takes one folder"),
-                             (["convert-general", "general"], "convert-general needs --map"),
-                             (["export-irpims", "irpims/B-1.BOR"], "export-irpims needs --out"),
+                             (["convert-general", "general"], "convert-general takes --map FILE.GCV"),
+                             (["export-irpims", "irpims/B-1.BOR"], "export-irpims takes --out DIR"),
                              (["convert-prt", "--pdf", "x", "a.PRT"], "unknown option for convert-prt: --pdf"),
                              (["convert-log", "--template"], "nothing behind --template")):
             self.assertEqual(self.run_batch(*words, status=2),

@@ -174,6 +174,7 @@ void UseDesktop()
     UseDesktopPlatform();
     FillJobTable();
     Platform.ExecutableFolder = [] { return ScratchFolder(); };
+    Platform.DataFolder = [] { return Scratch("userdata"); };
     ChoosePrinter(PrintToPdfName);
     StartDone = false;
     steps.clear();

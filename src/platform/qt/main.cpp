@@ -11,5 +11,6 @@ int main(int argc, char** argv)
     Main();
     if (!StartDone)
         return 1;
+    OfferRecovery();
     return Application::exec();
 }

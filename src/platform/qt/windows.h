@@ -11,6 +11,11 @@ void ShowAboutBox(bool blocking);    // frmAbout5
 void ShowWelcomeWindow();            // frmWelcome
 void ShowLogWindow();                // frmBorinput
 void EndProgram();                   // the same: it goes, and the event loop with it
+void OfferRecovery();                // the same: asks about the copies that a crash has left
+void ShowCrossWindow();              // frmCross: blocking, as the tools below
+void ShowFenceWindow();              // frmFence
+void ShowSoilWindow();               // frmSoil
+void ShowGisWindow();                // frmGIS
 void ShowOpenSave();                 // frmOpenSave: by DialogMode; the path in DialogResult, "" when cancelled
 void ShowProjEdit();                 // frmProjEdit
 void ShowGraphicsSetup();            // frmPrinterSetup
