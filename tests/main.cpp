@@ -12,6 +12,9 @@
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "convert/gtgsgeneditor.h"
+#include "convert/gtgsgeneral.h"
+#include "convert/winlog.h"
 #include "editors/borinput.h"
 #include "gis/gisfile.h"
 #include "gis/gistool.h"
@@ -224,6 +227,11 @@ struct Fresh : doctest::IReporter {
         frmGIS::File1 = {};
         ForgetPatterns();
         TintsInMemory = false;
+        WinLogTemplate = "";
+        GtgsMapping = GtgsMappingRecord();
+        frmGTGSGenEditor::Dialog = frmGTGSGenEditor::Record();
+        frmGTGSGenEditor::SS1.Clear();
+        frmGTGSGenEditor::SS2.Clear();
         jobCode = runFileCount = singleFile = introType = dialogBusy = stopRequested = 0;
         progressValue = progressTotal = 0;
         runFiles = {};

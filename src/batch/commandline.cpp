@@ -22,6 +22,16 @@ static constexpr BatchJob Jobs[] = {
      BatchWork::AddsToGis, "--gis FILE"},
     {"gis-export", 0, 0, "", "FILE.GIS", "writes the table of a GIS file for another program", BatchWork::ExportsGis,
      "--arcview OUT | --evs OUT"},
+    {"convert-txt", 0, 0, "--home DIR", "DIR",
+     "converts the GTGS text tables of a folder, a boring file for each boring", BatchWork::ConvertsTables},
+    {"convert-general", 0, 0, "--name NAME;--home DIR;--project DIR", "[DIR]",
+     "converts one boring of GTGS text tables by a map", BatchWork::ConvertsByMap, "--map FILE.GCV"},
+    {"convert-prt", 11, 0, "--home DIR", "FILE.PRT...", "converts GTGS print files, each to a boring file beside it",
+     BatchWork::Converts},
+    {"convert-log", 12, 0, "--template FILE.BOR;--home DIR", "FILE.LOG...",
+     "converts WinLog files, each to a boring file beside it", BatchWork::Converts},
+    {"export-irpims", 10, 0, "--home DIR", "FILE.BOR...", "writes the three IRPIMS tables of saved borings",
+     BatchWork::Converts, "--out DIR"},
 };
 
 static constexpr int SmallestDpi = 10, LargestDpi = 1200;
@@ -49,6 +59,10 @@ static constexpr Option Options[] = {
     {"--gis", &CommandLine::Gis, true},
     {"--arcview", &CommandLine::ArcView, true},
     {"--evs", &CommandLine::Evs, true},
+    {"--map", &CommandLine::Map, true},
+    {"--template", &CommandLine::Template, true},
+    {"--out", &CommandLine::Out, true},
+    {"--name", &CommandLine::Name, false},
 };
 
 // Whether the option stands in a list of them.
@@ -144,14 +158,15 @@ CommandLine ReadCommandLine(const std::vector<std::string>& words)
             line.Files.push_back(FullPath(FromUtf8(word)));
     }
     const bool takesFiles = *job->Files != '\0';
-    if (line.Wrong.empty() && takesFiles && line.Files.empty())
-        line.Wrong = std::string("no file given for ") + job->Name;
+    const char* const what = std::string_view(job->Files).find("DIR") == std::string_view::npos ? "file" : "folder";
+    if (line.Wrong.empty() && takesFiles && *job->Files != '[' && line.Files.empty())
+        line.Wrong = std::string("no ") + what + " given for " + job->Name;
     if (line.Wrong.empty() && !takesFiles && !line.Files.empty())
         line.Wrong = std::string(job->Name) + " takes no file";
     if (line.Wrong.empty())
         line.Wrong = MissingOption(line);
     if (line.Wrong.empty() && takesFiles && !std::string_view(job->Files).ends_with("...") && line.Files.size() > 1)
-        line.Wrong = std::string(job->Name) + " takes one file";
+        line.Wrong = std::string(job->Name) + " takes one " + what;
     if (line.Wrong.empty() && dpiGiven && line.Png.empty())
         line.Wrong = "--dpi goes with --png";
     if (!line.Wrong.empty())
@@ -182,7 +197,7 @@ std::string UsageText()
     }
     text += "Jobs:\n";
     for (const BatchJob& job : Jobs)
-        text += std::string("  ") + job.Name + std::string(15 - std::string_view(job.Name).size(), ' ') +
+        text += std::string("  ") + job.Name + std::string(17 - std::string_view(job.Name).size(), ' ') +
                 (job.Work == BatchWork::Draws ? "draws " : "") + job.ThatDraws + "\n";
     text +=
         "Options:\n"
@@ -200,6 +215,10 @@ std::string UsageText()
         "  --gis FILE     the table that borings are added to\n"
         "  --arcview OUT  the table as ArcView reads it\n"
         "  --evs OUT      the table as EVS reads it\n"
+        "  --map FILE     how the tables are converted, as the editor of the general conversion has saved it\n"
+        "  --name NAME    the new boring file, in the folder of the tables (the boring's own name)\n"
+        "  --template FILE the boring that gives prompts, report parts, layout and set-ups\n"
+        "  --out DIR      the folder of the tables that are written\n"
         "Messages go to standard error, one line each. The exit status is 0 when all was done and no message but one\n"
         "that says so appeared, 1 when another appeared, and 2 for a wrong command line.\n";
     return text;

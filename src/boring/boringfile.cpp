@@ -143,9 +143,9 @@ static void WriteLineBlock(LineWriter& out, const Slots<Text, Rows>& lines, int 
 }
 
 // BoringData as it is, in the newest form, to the file; Style and Draft by their texts.
-static void WriteBoring(const Text& name, const Text& style, const Text& draft)
+void WriteBoring(const Text& name, const Text& style, const Text& draft, Durability durability)
 {
-    LineWriter out(name);
+    LineWriter out(name, durability);
     out.Line("5.0.12");
     out.Line(Trim(BoringData.Name));
     out.Line(Trim(BoringData.MapFile));

@@ -207,8 +207,9 @@ void BorinputWindow::FillMenus()
     Entry(utilities, "mnuFillPatt", "Fill Pattern &Guide", {}, frmBorinput::mnuFillPatt);
     utilities->addSeparator();
     Entry(utilities, "mnuConvertFeetMeters", "Convert &Feet to Meters...", {}, Commands.mnuConvertFeetMeters);
-    Entry(utilities, "mnuConvertGTGStxt", "Convert GTGS &Text...", {}, Commands.mnuConvertGTGStxt);
-    Entry(utilities, "mnuConvertGTGSgeneral", "Convert GTGS, G&eneral...", {}, Commands.mnuConvertGTGSgeneral);
+    Entry(utilities, "mnuConvertGTGStxt", "Convert GTGS .TXT Files - spe&cific format", {}, Commands.mnuConvertGTGStxt);
+    Entry(utilities, "mnuConvertGTGSgeneral", "Convert GTGS .TXT Files - g&eneral format", {},
+          Commands.mnuConvertGTGSgeneral);
     Entry(utilities, "mnuGTGS", "Convert GTGS &Print File...", {}, Commands.mnuGTGS);
     Entry(utilities, "mnuConvertWinLog", "Convert &WinLog...", {}, Commands.mnuConvertWinLog);
     Entry(utilities, "mnuExp2IRPIMS", "Export to &IRPIMS...", {}, Commands.mnuExp2IRPIMS);

@@ -7,7 +7,8 @@
 #include "session/text.h"
 
 enum Buttons { OkOnly, OkCancel, YesNo, YesNoCancel };
-enum Icon { NoIcon, Question, Exclamation };
+// Announcement has no icon: it tells that what was asked for begins or is done, and nothing is wrong.
+enum Icon { NoIcon, Question, Exclamation, Announcement };
 enum Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 
 // The tools of the program. The log tool stays open under the others, of which one at a time is open.

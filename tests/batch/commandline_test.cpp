@@ -149,8 +149,8 @@ TEST_CASE("the help has a usage line for each job")
           std::string::npos);
     CHECK(text.find("stratavue-batch gis-add --gis FILE FILE.BOR...\n") != std::string::npos);
     CHECK(text.find("stratavue-batch gis-export --arcview OUT | --evs OUT FILE.GIS\n") != std::string::npos);
-    CHECK(text.find("soil           draws the soil analysis tables") != std::string::npos);
-    CHECK(text.find("gis-add        adds borings") != std::string::npos);
+    CHECK(text.find("soil             draws the soil analysis tables") != std::string::npos);
+    CHECK(text.find("gis-add          adds borings") != std::string::npos);
 }
 
 TEST_CASE("without windows the set-up is read and never written, and a missing one is no message")

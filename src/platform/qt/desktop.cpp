@@ -1,6 +1,10 @@
 // desktop.cpp -- the seam of the desktop program: each procedure of Platform, and the window or box behind it.
 #include "canvas/batch.h"
 #include "canvas/patterns.h"
+#include "convert/gtgsprt.h"
+#include "convert/gtgstext.h"
+#include "convert/irpims.h"
+#include "convert/winlog.h"
 #include "editors/borinput.h"
 #include "editors/fillform.h"
 #include "gis/gistool.h"
@@ -82,6 +86,11 @@ static void FillCommandTable()
     commands.mnuConvertFeetMeters = frmBorinput::mnuConvertFeetMeters;
     commands.mnuGraphicSetup = frmBorinput::mnuGraphicSetup;
     commands.mnuCreateLogo = frmBorinput::mnuCreateLogo;
+    commands.mnuConvertGTGStxt = frmBorinput::mnuConvertGTGStxt;
+    commands.mnuConvertGTGSgeneral = ShowGTGSGenEditor;
+    commands.mnuGTGS = frmBorinput::mnuGTGS;
+    commands.mnuConvertWinLog = frmBorinput::mnuConvertWinLog;
+    commands.mnuExp2IRPIMS = frmBorinput::mnuExp2IRPIMS;
     commands.mnuvcross = frmBorinput::mnuvcross;
     commands.mnuvfence = frmBorinput::mnuvfence;
     commands.mnuvsoil = frmBorinput::mnuvsoil;
@@ -172,5 +181,8 @@ void FillJobTable()
     JobTable[5] = JobTable[6] = VCROSS::vfencestart;
     JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
     JobTable[9] = patternstart;
+    JobTable[10] = Export2IRPIMS;
+    JobTable[11] = ConvertGTGS2BOR;
+    JobTable[12] = ConvertWinLog;
     IntroPages = VLOG::vlogintrostart;
 }

@@ -5,6 +5,7 @@
 #include "session/gridedit.h"
 
 #include <QAbstractTableModel>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QSettings>
@@ -137,8 +138,33 @@ namespace
 class CellDelegate : public QStyledItemDelegate
 {
 public:
-    CellDelegate(bool& goUp, QObject* parent) : QStyledItemDelegate(parent), up(goUp)
+    CellDelegate(const Grid& shown, bool& goUp, QObject* parent) : QStyledItemDelegate(parent), grid(shown), up(goUp)
     {
+    }
+    // A column with choices has a list to pick from.
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const size_t column = size_t(index.column()) + 1;
+        if (column >= grid.choices.size() || grid.choices[column].empty())
+            return QStyledItemDelegate::createEditor(parent, option, index);
+        auto* list = new QComboBox(parent);
+        for (const Text& choice : grid.choices[column])
+            list->addItem(ToUi(choice));
+        return list;
+    }
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override
+    {
+        if (auto* list = qobject_cast<QComboBox*>(editor))
+            list->setCurrentText(index.data(Qt::EditRole).toString());
+        else
+            QStyledItemDelegate::setEditorData(editor, index);
+    }
+    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override
+    {
+        if (const auto* list = qobject_cast<QComboBox*>(editor))
+            model->setData(index, list->currentText());
+        else
+            QStyledItemDelegate::setModelData(editor, model, index);
     }
 
 protected:
@@ -157,7 +183,8 @@ protected:
     {
         if (event->type() == QEvent::KeyPress) {
             const int key = static_cast<QKeyEvent*>(event)->key();
-            if (key == Qt::Key_Up || key == Qt::Key_Down) {
+            const bool list = qobject_cast<QComboBox*>(editor); // they move in it
+            if (!list && (key == Qt::Key_Up || key == Qt::Key_Down)) {
                 auto* box = static_cast<QWidget*>(editor);
                 up = key == Qt::Key_Up;
                 emit commitData(box);
@@ -169,6 +196,7 @@ protected:
     }
 
 private:
+    const Grid& grid;
     bool& up; // the edit ended by the arrow up
 };
 } // namespace
@@ -180,7 +208,7 @@ GridView::GridView(const char* name, Grid& shown, QWidget* parent, const QString
     setAccessibleName(ToUi(shown.title));
     model = new GridModel(shown, this);
     setModel(model);
-    setItemDelegate(new CellDelegate(up, this));
+    setItemDelegate(new CellDelegate(grid, up, this));
     setAlternatingRowColors(true);
     setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
     setSelectionMode(ContiguousSelection);

@@ -26,6 +26,7 @@ void ShowDescLegendWindow();            // frmDescLegend
 void ShowLayoutWindow();                // frmLayout
 void ShowPromptWindow();                // frmPrompt
 void ShowDesItemsWindow();              // frmDesItems
+void ShowGTGSGenEditor();               // frmGTGSGenEditor
 void ShowDrawArea();                    // frmDrawArea
 void ShowDrawPrintDialog();             // frmDrawPrint
 void ShowPrintingNotice();              // frmPrinting
