@@ -7,6 +7,7 @@
 #include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QSettings>
 #include <QStyledItemDelegate>
 #include <algorithm>
@@ -244,6 +245,18 @@ void GridView::FinishEdit()
     }
     model->TakeTyped();
     Done();
+}
+
+void GridView::AsTyped(void (*work)())
+{
+    const auto* box = qobject_cast<QLineEdit*>(indexWidget(currentIndex()));
+    if (!box)
+        return work();
+    const int row = currentIndex().row() + 1, column = currentIndex().column() + 1;
+    const Text before = grid.Cell(row, column);
+    grid.Cell(row, column) = FromUi(box->text());
+    work();
+    grid.Cell(row, column) = before;
 }
 
 // Enter, Tab and the arrows take what was typed and go on.
