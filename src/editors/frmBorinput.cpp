@@ -574,6 +574,7 @@ QWidget* BorinputWindow::ClientBox()
     QWidget* whole = Titled(client, [] { return PromptLabel(2, "Client/Project Information"); });
     auto* styles = new QHBoxLayout;
     auto* style = new QLabel(whole);
+    style->setObjectName("lblStyle");
     Labelled(3, "Style:", [style](const Text& words) { style->setText(ToUi(words)); });
     styles->addWidget(style);
     const std::pair<int, const char*> names[] = {{4, "Open"}, {5, "1 Line A"}, {7, "2 Line"}, {6, "1 Line B"}};
@@ -661,6 +662,10 @@ QWidget* BorinputWindow::Tabs()
     using namespace frmBorinput;
     tabs = new QTabWidget;
     tabs->setObjectName("SSTab1");
+    tabs->tabBar()->setAccessibleName("Parts of the boring");
+    // The bar takes the focus by itself; by way of the whole, Tab would go round without what stands above.
+    tabs->setFocusProxy(nullptr);
+    tabs->setFocusPolicy(Qt::NoFocus);
     tabs->setDocumentMode(false);
 
     // The boxes are made in the order in which Tab goes through them.
