@@ -201,6 +201,13 @@ void SaveDocument(void (*save)())
         Remove(run.tool);
         return;
     }
+    OweCopy();
+}
+
+void OweCopy()
+{
+    if (run.tool == 0)
+        return;
     WriteCopy();
     run.copy[run.tool].owed = true;
 }
