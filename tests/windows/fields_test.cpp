@@ -250,3 +250,41 @@ TEST_CASE("the check list follows what is typed, and each entry leads to its cel
     CHECK_FALSE(dock->isVisible());
     FileChanged = 0;
 }
+
+TEST_CASE("clicks down a landscape page lead from layer to layer, each to its row")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-102.BOR");
+    Find<QWidget>(log, "dckPreview")->show();
+    Settle(400);
+    auto* pane = Find<QWidget>(log, "LivePage");
+    auto* grid = Find<QTableView>(log, "SSLith");
+    REQUIRE(Find<QLabel>(log, "lblLivePage")->text() == "Page 1 of 2");
+    std::set<int> rows;
+    int before = 0;
+    Focus();
+    for (int y = 0; y < pane->height(); ++y) {
+        grid->setCurrentIndex(grid->model()->index(99, 0));
+        QTest::mouseClick(pane, Qt::LeftButton, {}, QPoint(pane->width() / 2, y));
+        if (frmBorinput::SSLith.row == 100) // beside the layers
+            continue;
+        CHECK(frmBorinput::SSLith.row >= before);
+        before = frmBorinput::SSLith.row;
+        rows.insert(before);
+    }
+    // All layers of the first 20 feet, and no other.
+    std::set<int> expected;
+    double top = 0;
+    for (int row = 1; row <= frmBorinput::SSLith.DataRowCount() && top < 20; ++row) {
+        expected.insert(row);
+        top = TextNumber(frmBorinput::SSLith.Cell(row, 1));
+    }
+    std::string found, wanted;
+    for (const int row : rows)
+        found += std::to_string(row) + " ";
+    for (const int row : expected)
+        wanted += std::to_string(row) + " ";
+    CHECK(found == wanted);
+    CHECK(QApplication::focusWidget() == Find<QWidget>(log, "SSLith"));
+    CHECK(Find<QTabWidget>(log, "SSTab1")->currentIndex() == 1);
+}
