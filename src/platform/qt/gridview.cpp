@@ -205,10 +205,13 @@ void GridView::Refresh()
 void GridView::Fit()
 {
     fitting = true;
+    const int rows = grid.DataRowCount(); // asking for the width of each empty cell made the start slow
     for (int column = 0; column < grid.columns; ++column) {
-        const int wanted = std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column)) + 8;
-        if (!widthSet[size_t(column)])
-            setColumnWidth(column, std::clamp(wanted, 62, 260));
+        if (widthSet[size_t(column)])
+            continue;
+        const int cells = rows > 0 ? sizeHintForColumn(column) : 0;
+        const int wanted = std::max(cells, horizontalHeader()->sectionSizeHint(column)) + 8;
+        setColumnWidth(column, std::clamp(wanted, 62, 260));
     }
     fitting = false;
 }
