@@ -326,5 +326,8 @@ std::vector<CheckEntry> CheckBoring()
         CheckDescriptionRoom();
     } catch (...) { // a layout that cannot be read is told of by the page
     }
+    // Samples are often taken with gaps on purpose, so those stand behind the rest.
+    std::stable_partition(found.begin(), found.end(),
+                          [](const CheckEntry& entry) { return entry.Words.find(" leave a gap from ") == Text::npos; });
     return found;
 }

@@ -149,6 +149,10 @@ TEST_CASE("gaps and overlaps of samples are flagged against the one that reaches
     CHECK(Has("Sample rows 1 and 2 overlap: 1.5 lies above 2.", 7, 2, 1));
     SSSamp.Cell(2, 1) = "3";
     CHECK(Has("Sample rows 1 and 2 leave a gap from 2 to 3.", 7, 2, 1));
+    frmBorinput::SSLith.Cell(2, 1) = "4";
+    REQUIRE(CheckBoring().size() == 2);
+    CHECK(CheckBoring()[1].Box == 7); // gaps, often meant, stand behind the rest
+    frmBorinput::SSLith.Cell(2, 1) = "12.5";
     SSSamp.Cell(2, 2) = "2.5";
     CHECK(Has("Sample row 2 ends at 2.5, above its start at 3.", 7, 2, 2));
     SSSamp.Cell(2, 2) = "";
