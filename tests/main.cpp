@@ -13,6 +13,8 @@
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
 #include "editors/borinput.h"
+#include "gis/gisfile.h"
+#include "gis/gistool.h"
 #include "logrender/logdata.h"
 #include "report/desitems.h"
 #include "report/fontprofile.h"
@@ -22,6 +24,15 @@
 #include "report/layoutedit.h"
 #include "report/logo.h"
 #include "report/prompts.h"
+#include "sections/crossfile.h"
+#include "sections/crossrun.h"
+#include "sections/crosstool.h"
+#include "sections/fencefile.h"
+#include "sections/fencetool.h"
+#include "sections/layershapes.h"
+#include "sections/soilfile.h"
+#include "sections/soiltable.h"
+#include "sections/soiltool.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -29,6 +40,7 @@
 #include "session/session.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <unistd.h>
 
@@ -98,7 +110,7 @@ static void EmptyBoxes()
     MemoWcon = {"", 3249, 1750};
     MemoRemarks = {"", 2223, 1750};
     MemoBottNotes = {"", 8010, 1750};
-    frmSoil::MemoNotes = {"", 6800, 1550};
+    frmSoil::MemoSoil = {"", 6800, 1550};
     txtClient = Text1 = Text2 = cmbLayFile = lblWidthtot = Title = "";
     List = {};
     LayFiles.clear();
@@ -106,6 +118,27 @@ static void EmptyBoxes()
     Text1Font = txtClientFont = "";
     Check1 = NarrowNotes = false;
     Option = 0;
+}
+
+// The other tools as they are before one is opened.
+static void EmptyTools()
+{
+    SoilData = SoilRecord();
+    ClearGISForm();
+    frmGIS::File1 = {};
+    boringSummary = {};
+    boringLithology = {};
+    for (ToolRecord* tool : {&CrossForm, &FenceForm, &SoilForm, &GisForm}) {
+        tool->FileName = tool->Title = "";
+        tool->active = nullptr;
+        tool->ShowForm = nullptr;
+        tool->Unload = nullptr;
+        for (Grid* grid : tool->grids) {
+            *grid = Grid(grid->maxRows > 0 ? grid->minRows : grid->rows, grid->columns);
+            grid->title.clear();
+        }
+    }
+    NextTool = Tool::Log;
 }
 
 namespace
@@ -138,6 +171,17 @@ struct Fresh : doctest::IReporter {
         frmOpenSave::SS.Clear();
         frmOpenSave::HiddenFolder = "";
         frmOpenSave::HiddenFiles.clear();
+        CrossData = CrossRecord();
+        frmCross::FileName = "";
+        frmCross::SS1 = Grid(CrossRecord::FormBorings, 5);
+        for (Grid* grid : {&frmCross::SS2, &frmCross::SS3, &frmCross::SS4})
+            *grid = Grid(grid->rows, grid->columns);
+        VCROSS::ResetCrossRun();
+        EmptyTools();
+        FenceData = FenceRecord();
+        frmFence::FileName = "";
+        for (Grid* grid : {&frmFence::SS1, &frmFence::SS2, &frmFence::SS3, &frmFence::SS4, &frmFence::SS5})
+            *grid = Grid(grid->rows, grid->columns);
         frmCross::Title = frmFence::Title = frmSoil::Title = "";
         frmPrinterSetup::Dialog = frmPrinterSetup::Record();
         frmPrinterSetup::SSMainFilePath.Clear();
@@ -165,6 +209,19 @@ struct Fresh : doctest::IReporter {
         LogPage = LogPageRecord();
         LogBoring = LogBoringRecord();
         LogGeometry = LogGeometryRecord();
+        VCROSS::LayerFill = VCROSS::LayerFillRecord();
+        VCROSS::SoilRun = VCROSS::SoilRunRecord();
+        SoilData = SoilRecord();
+        frmSoil::FileName = "";
+        frmSoil::SS1 = Grid(MaxSoilCells, 1);
+        ClearGISArrays();
+        boringSummary = {};
+        boringLithology = {};
+        frmGIS::SSGISLayers = Grid(MaxGisLayers, 2);
+        frmGIS::SSGISInfo = Grid(MaxGisBorings, GisColumns);
+        frmGIS::SSBoringData = Grid(MaxLith, 2);
+        frmGIS::Title = frmGIS::FileName = "";
+        frmGIS::File1 = {};
         ForgetPatterns();
         TintsInMemory = false;
         jobCode = runFileCount = singleFile = introType = dialogBusy = stopRequested = 0;
@@ -217,6 +274,9 @@ REGISTER_LISTENER("fresh", 1, Fresh);
 int main(int argc, char** argv)
 {
     scratch = std::filesystem::temp_directory_path().string() + "/stratavue-test-" + std::to_string(::getpid());
+    // Pictures of windows show it, and shall not change with the number of a process.
+    if (const char* name = std::getenv("STRATAVUE_SCRATCH"))
+        scratch = name;
     doctest::Context context(argc, argv);
     return context.run();
 }

@@ -5,6 +5,8 @@
 
 #include <vector>
 
+enum class BatchWork { Draws, AddsToGis, ExportsGis };
+
 struct BatchJob {
     const char* Name;      // the first word of the command line
     int16_t JobCode;       // the job of the batch dialog that it runs
@@ -12,6 +14,8 @@ struct BatchJob {
     const char* Options;   // the options that it knows, in the order of its usage line
     const char* Files;     // what it takes besides, for the usage line; "" for none
     const char* ThatDraws; // its line of the help
+    BatchWork Work = BatchWork::Draws;
+    const char* Needs = ""; // what it cannot do without: one of these options, as its usage line has them
 };
 
 struct CommandLine {
@@ -19,6 +23,7 @@ struct CommandLine {
     bool Help = false;
     std::string Wrong;                       // what is wrong with it; empty when nothing is
     Text Home, Project, Pdf, Png, Dxf, List; // full paths; empty when not given
+    Text Gis, ArcView, Evs;                  // likewise
     int16_t ReportOption = 0;                // the job's own, or what --type says
     Text Page, Date;
     bool DateGiven = false;

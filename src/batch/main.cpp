@@ -6,17 +6,22 @@
 #include "canvas/pagelisting.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "gis/gisfile.h"
 #include "logrender/intropage.h"
 #include "logrender/vlog.h"
 #include "platform/qt/headless.h"
 #include "platform/qt/pagepainter.h"
 #include "platform/qt/pdfrun.h"
 #include "platform/qt/pngpages.h"
+#include "sections/crossrun.h"
+#include "sections/fencerun.h"
+#include "sections/soiltable.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/stockfiles.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -58,10 +63,12 @@ static void Say(const Text& words)
     std::fprintf(stderr, "%s\n", ToUtf8(line).c_str());
 }
 
-// Nobody answers: the answer that loses nothing.
+// Nobody answers: the answer that loses nothing. That an export is done is told too, but does not count.
 static int Box(const Text& words, Buttons buttons, Icon)
 {
     Say(words);
+    if (words.starts_with("Done "))
+        --MessageCount;
     switch (buttons) {
     case OkOnly:
         return Ok;
@@ -174,6 +181,12 @@ static void ShowPage()
     NextPage();
 }
 
+static Text ExecutableFolder()
+{
+    std::error_code ignored;
+    return FromUtf8(std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path().string());
+}
+
 static void FillPlatform()
 {
     Platform.MsgBox = Box;
@@ -196,6 +209,8 @@ static void FillPlatform()
     Platform.SetClipboardText = [](const Text&) {};
     Platform.Notice = Say;
     Platform.Breathe = [] {};
+    Platform.ExecutableFolder = ExecutableFolder;
+    Platform.DataFolder = UserDataFolder;
     Platform.ShortDate = [] { return Asked.DateGiven ? Asked.Date : ShortDateOfLocale(); };
     Platform.Unattended = true;
 }
@@ -203,6 +218,9 @@ static void FillPlatform()
 static void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
+    JobTable[3] = JobTable[4] = VCROSS::vcrossstart;
+    JobTable[5] = JobTable[6] = VCROSS::vfencestart;
+    JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
     JobTable[9] = patternstart;
     IntroPages = VLOG::vlogintrostart;
 }
@@ -231,12 +249,6 @@ struct PrivateFolder {
     std::string path;
 };
 } // namespace
-
-static Text ExecutableFolder()
-{
-    std::error_code ignored;
-    return FromUtf8(std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path().string());
-}
 
 // The folder of an option, made if it is not there.
 static void OutputFolder(const Text& folder)
@@ -282,14 +294,22 @@ static void FindStockFiles()
                 layouts = ProjectPath;
     Text& fills = DeviceConfig.SystemFiles[FillFolder];
     if (fills == JoinPath(WorkingFolder, "fills/") && FilesIn(fills, ".bmp").empty())
-        fills = JoinPath(ExecutableFolder(), "fills/");
+        fills = JoinPath(StockFolder(), "fills/");
+}
+
+// The working folder where none is asked for: the desktop program's. A user of an installed program who has never
+// started that one is served from the stock files themselves.
+static Text Home()
+{
+    const Text home = HomeFolder();
+    return FileExists(JoinPath(home, "stock.lst")) || !Installed() ? home : StockFolder();
 }
 
 // Runs the job. The listing grows in a temporary file and takes its place when it is whole.
 static void RunJob()
 {
     const PrivateFolder privateFolder;
-    WorkingFolder = Asked.Home.empty() ? ExecutableFolder() : Asked.Home;
+    WorkingFolder = Asked.Home.empty() ? Home() : Asked.Home;
     TintsInMemory = true;
     LoadDevice();
     if (!Asked.Project.empty())
@@ -307,6 +327,39 @@ static void RunJob()
     CloseListing();
 }
 
+// The table of a GIS file into the workbench's grids. False: it could not be read whole.
+static bool OpenTable(const Text& file)
+{
+    RunPages.pageFile = file;
+    OpenGISFile(file);
+    FillGISForm();
+    return MessageCount == 0;
+}
+
+// A table that cannot be read is left as it is; a boring that cannot be read has its row with its name alone.
+static void AddToGis()
+{
+    const Text table = HasEnding(Asked.Gis) ? Asked.Gis : Asked.Gis + ".GIS";
+    ClearGISForm();
+    if (FileExists(table) && !OpenTable(table))
+        return;
+    for (const Text& boring : Asked.Files) {
+        RunPages.pageFile = boring;
+        frmGIS::AddBoring(boring, BaseName(boring));
+    }
+    SaveGISFile(table);
+}
+
+static void ExportGis()
+{
+    if (!OpenTable(Asked.Files.front()))
+        return;
+    if (!Asked.ArcView.empty())
+        ExportGIS2ArcView(Asked.ArcView);
+    else
+        ExportGIS2EVS(Asked.Evs);
+}
+
 int main(int argc, char** argv)
 {
     Asked = ReadCommandLine({argv + 1, argv + argc});
@@ -320,7 +373,17 @@ int main(int argc, char** argv)
     }
     FillPlatform();
     try {
-        RunJob();
+        switch (Asked.Job->Work) {
+        case BatchWork::Draws:
+            RunJob();
+            break;
+        case BatchWork::AddsToGis:
+            AddToGis();
+            break;
+        case BatchWork::ExportsGis:
+            ExportGis();
+            break;
+        }
     } catch (...) {
         Say("Run-time error" + NumberText(FailureInHand()));
     }

@@ -33,4 +33,4 @@ Grid* BoxGrid(int activeBox)
 }
 } // namespace frmBorinput
 
-Memo frmSoil::MemoNotes{"", 6800, 1550};
+Memo frmSoil::MemoSoil{"", 6800, 1550};

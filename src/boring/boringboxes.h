@@ -26,5 +26,5 @@ Grid* BoxGrid(int activeBox);            // the grid of that number; null for th
 
 namespace frmSoil
 {
-extern Memo MemoNotes; // the soil table's notes box
+extern Memo MemoSoil; // the soil table's notes box
 }

@@ -17,7 +17,7 @@ static const Memo& TextBox(int kind)
     case 3:
         return frmBorinput::MemoRemarks;
     case 4:
-        return frmSoil::MemoNotes;
+        return frmSoil::MemoSoil;
     default:
         return frmBorinput::MemoBottNotes;
     }

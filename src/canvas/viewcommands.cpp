@@ -68,6 +68,7 @@ void ExportPdf()
     const Kept kept;
     Platform.PrintToPdf(true);
     Platform.ShowPage = PageToPdf;
+    RunPages.printing = 1; // every entry of the list is a page, also one that Next on the screen would leave out
     stopRequested = 0;
     run();
     Platform.EndPrintRun();

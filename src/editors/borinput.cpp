@@ -287,9 +287,39 @@ void frmBorinput::mnuHelp()
     Platform.ShowHelp();
 }
 
+static const char* const quitting = "Would you like to save the current file before quitting?";
+
+static void HandOver(Tool tool)
+{
+    if (!SaveFirst(quitting))
+        return;
+    FileChanged = 0; // Kept: after a No too, though the boring that stays in the boxes is still the changed one
+    Platform.ShowTool(tool);
+}
+
+void frmBorinput::mnuvcross()
+{
+    HandOver(Tool::Cross);
+}
+
+void frmBorinput::mnuvfence()
+{
+    HandOver(Tool::Fence);
+}
+
+void frmBorinput::mnuvsoil()
+{
+    HandOver(Tool::Soil);
+}
+
+void frmBorinput::mnuvGIS()
+{
+    HandOver(Tool::GIS);
+}
+
 bool frmBorinput::mnuExit()
 {
-    if (!SaveFirst("Would you like to save the current file before quitting?"))
+    if (!SaveFirst(quitting))
         return false;
     FileChanged = 0;
     if (DeviceChanged == 1)

@@ -44,6 +44,11 @@ void mnuPreview();
 void mnuBatchDraw();
 void mnuPrint();
 void mnuPrintSetup();
+// Hand-over to another tool, which opens on top.
+void mnuvcross();
+void mnuvfence();
+void mnuvsoil();
+void mnuvGIS();
 bool mnuExit(); // also at the closing of the window; false: the user stays
 // Edit, by ActiveBox: the box last entered.
 void mnuUndo();

@@ -250,7 +250,7 @@ void ResetTextBoxes()
 try {
     BorTextChange();
     changebottnotewidth();
-    frmSoil::MemoNotes.widthTwips = std::min(6800 + DeviceConfig.TextAdjust[5], 10000);
+    frmSoil::MemoSoil.widthTwips = std::min(6800 + DeviceConfig.TextAdjust[5], 10000);
 } catch (...) {
     ReportFailure(__func__);
 }

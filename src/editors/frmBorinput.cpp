@@ -6,11 +6,13 @@
 #include "editors/checklist.h"
 #include "editors/fillform.h"
 #include "editors/hush.h"
+#include "editors/toolcommands.h"
 #include "platform/qt/application.h"
 #include "platform/qt/gridview.h"
 #include "platform/qt/livepane.h"
 #include "platform/qt/memoview.h"
 #include "platform/qt/uitext.h"
+#include "platform/qt/windowparts.h"
 #include "platform/qt/windows.h"
 #include "report/prompts.h"
 #include "session/files.h"
@@ -36,7 +38,6 @@
 #include <QPointer>
 #include <QRadioButton>
 #include <QScreen>
-#include <QSettings>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
@@ -47,6 +48,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <functional>
+#include <memory>
 
 namespace
 {
@@ -56,7 +58,8 @@ public:
     BorinputWindow();
     void Refresh();
     void Run(const std::function<void()>& command);
-    bool ending = false; // the user has been asked; nothing holds the window any more
+    void OpenSoon(const Text& name); // by a turn of the event loop, as a command of the window
+    bool ending = false;             // the user has been asked; nothing holds the window any more
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -71,7 +74,6 @@ private:
     void UndoOrRedo(bool undo);
     void Typed(); // a box has changed: what stands elsewhere is shown anew
     void ShowState();
-    void ShowRecent();
     void Activates(QWidget* box, int number);
     void Labelled(int slot, const char* design, const std::function<void(const Text&)>& show);
     QWidget* Titled(QWidget* box, const std::function<Text()>& title);
@@ -90,7 +92,7 @@ private:
     void GoTo(const CheckEntry& entry);
     void OrderTabs();
 
-    QMenu* recent = nullptr;
+    std::unique_ptr<RecentFiles> recent;
     QTabWidget* tabs = nullptr;
     LivePane* live = nullptr;
     QListWidget* checks = nullptr;
@@ -109,24 +111,6 @@ constexpr int checkPauseMs = 120;
 QString Caption(const Text& words)
 {
     return ToUi(words).replace("&", "&&");
-}
-
-// Boxes beside or above one another, with movable borders between them.
-QSplitter* Split(Qt::Orientation orientation, std::initializer_list<QWidget*> boxes, std::initializer_list<int> shares)
-{
-    auto* splitter = new QSplitter(orientation);
-    splitter->setChildrenCollapsible(false);
-    splitter->setHandleWidth(10);
-    for (QWidget* box : boxes)
-        splitter->addWidget(box);
-    int i = 0;
-    QList<int> sizes;
-    for (const int share : shares) {
-        splitter->setStretchFactor(i++, share);
-        sizes << share * 100;
-    }
-    splitter->setSizes(sizes);
-    return splitter;
 }
 
 QWidget* Tab(QWidget* content)
@@ -205,7 +189,9 @@ void BorinputWindow::FillMenus()
     QMenu* file = part(menuBar(), "mnuFile", "&File");
     Entry(file, "mnuNew", "&New", QKeySequence::New, frmBorinput::mnuNew);
     Entry(file, "mnuOpen", "&Open...", QKeySequence::Open, frmBorinput::mnuOpen);
-    recent = part(file, "mnuRecent", "Open &Recent");
+    recent = std::make_unique<RecentFiles>(part(file, "mnuRecent", "Open &Recent"), "recent", [this](const Text& name) {
+        Run([&name] { frmBorinput::OpenNamed(name); });
+    });
     Entry(file, "mnuSave", "&Save", QKeySequence::Save, frmBorinput::mnuSave);
     Entry(file, "mnuSaveAs", "Save &As...", QKeySequence("Ctrl+Shift+S"), frmBorinput::mnuSaveAs);
     Entry(file, "mnuImport", "&Import Description Text...", {}, frmBorinput::mnuImport);
@@ -313,41 +299,14 @@ void BorinputWindow::dragEnterEvent(QDragEnterEvent* event)
 
 void BorinputWindow::dropEvent(QDropEvent* event)
 {
-    const Text name = FromUi(event->mimeData()->urls().value(0).toLocalFile());
     event->acceptProposedAction();
     // The program that the file comes from waits for the end of the drop, and not for the user's answers.
+    OpenSoon(FromUi(event->mimeData()->urls().value(0).toLocalFile()));
+}
+
+void BorinputWindow::OpenSoon(const Text& name)
+{
     QTimer::singleShot(0, this, [this, name] { Run([&name] { frmBorinput::OpenNamed(name); }); });
-}
-
-static constexpr int maxRecent = 9;
-
-static QStringList RecentFiles()
-{
-    return QSettings("Stratavue", "Stratavue").value("recent").toStringList();
-}
-
-// The boring that has a name now is the most recent one.
-void BorinputWindow::ShowRecent()
-{
-    QStringList files = RecentFiles();
-    if (!BoringFileName.empty()) {
-        const QString name = ToUi(BoringFileName);
-        if (files.value(0) != name) {
-            files.removeAll(name);
-            files.prepend(name);
-            files = files.mid(0, maxRecent);
-            QSettings("Stratavue", "Stratavue").setValue("recent", files);
-        }
-    }
-    recent->clear();
-    recent->setEnabled(!files.isEmpty());
-    int i = 0;
-    for (const QString& file : files) {
-        auto* action = recent->addAction(QString("&%1 %2").arg(++i).arg(QString(file).replace("&", "&&")));
-        action->setObjectName(QString("mnuRecent%1").arg(i));
-        connect(action, &QAction::triggered, this,
-                [this, name = FromUi(file)] { Run([&name] { frmBorinput::OpenNamed(name); }); });
-    }
 }
 
 // ---- Boxes
@@ -889,7 +848,7 @@ void BorinputWindow::Refresh()
         for (GridView* grid : grids)
             grid->Fit();
     }
-    ShowRecent();
+    recent->Show(BoringFileName);
     const auto dress = [this](const char* name, const Text& family) {
         auto* box = findChild<QWidget*>(name);
         if (family.empty() || box->font().family() == ToUi(family))
@@ -934,7 +893,16 @@ void ShowLogWindow()
 void OfferRecovery()
 {
     if (window)
-        window->Run(OfferCopies);
+        window->Run([] {
+            OfferCopies();
+            ShowRecoveredTool();
+        });
+}
+
+void OpenInLogWindow(const Text& name)
+{
+    if (window)
+        window->OpenSoon(name);
 }
 
 void EndProgram()

@@ -1,40 +1,93 @@
-// gisfile.h -- GisData: the borings of a site with their layers, and the .GIS file.
+// gisfile.h -- GisData: the borings of a site with their layers, the .GIS file, and the workbench on them.
 //
 // Filled by OpenGISFile, for the workbench as well as for a section or fence that names the file, and by the
-// workbench's commands. Slots are numbered from 1, all cells are text as typed.
+// workbench's commands. Stale while the user types: then the grids hold the truth. Slots are numbered from 1, all cells
+// are text as typed. No widget is known here.
 #pragma once
 
 #include "session/controls.h"
 #include "session/slots.h"
 #include "session/text.h"
 
+#include <vector>
+
 constexpr int MaxGisBorings = 200, MaxGisLayers = 100;
+enum GisColumn { GisBoringName = 1, GisX, GisY, GisElevation, GisFileName, GisColumns = GisFileName };
 
 struct GisRecord {
     int32_t layerCount = 0;
     Slots<Text, MaxGisLayers> layerName, layerColor;
     int32_t boringCount = 0;
-    Slots<Slots<Text, 5>, MaxGisBorings> boringCells; // boring, X, Y, surface elevation, file name
+    Slots<Slots<Text, GisColumns>, MaxGisBorings> boringCells; // boring, X, Y, surface elevation, file name
     Slots<Slots<Text, MaxGisLayers>, MaxGisBorings> layerCells;
     Text trailerLine; // a last line kept as it stands
 };
 extern GisRecord GisData;
-// Of the boring last read: name, X, Y, surface elevation, file, greatest ends of the outer and inner table, screens.
-extern Slots<Text, 9> boringSummary;
 
-void OpenGISFile(const Text& path); // ".gis" behind a name with no "."; box "GIS File Not Found: ", then no rows
-void SaveGISFile(const Text& path); // takes the workbench's grids first
+// Of the boring last read: name, X, Y, surface elevation, file, greatest ends of the outer and inner table, and the
+// tops and the bottoms of the screens.
+extern Slots<Text, 9> boringSummary;
+// Its lithology. The workbench has a table of its own for it: the log tool, which stays open below, shows another one.
+struct GisLithology {
+    int32_t count = 0;
+    Slots<Text, MaxGisLayers> depth, code;
+};
+extern GisLithology boringLithology;
+
+// The file into GisData, which is emptied first, also when the file turns out to be missing: ".gis" behind a name
+// with no "."; box "GIS File Not Found: ".
+void OpenGISFile(const Text& path);
+// Takes the list and the table as they stand, also layers that have no column yet, then writes the file. False: nothing
+// was written, and the report has told why.
+bool SaveGISFile(const Text& path);
+// The boring file into boringSummary, all but its file name, and boringLithology; both are emptied first.
 void OpenBoringGIS(const Text& path);
 void ClearGISArrays();
+// GisData into SSGISLayers and SSGISInfo, which gets a column for each layer, and the title by FileName. Leaves
+// FileChanged as it is.
 void FillGISForm();
-// The two exports, to a file that is known; both end in their box. False: nothing was written.
+// The clearing of New, and of the window's opening: no file name, empty grids and record, the title; FileChanged 0. It
+// does not ask.
+void ClearGISForm();
+
+// The two exports, to a file that is known; both end in their box. False: the report has told why. They take the table
+// as it stands in SSGISInfo, and the layers by GisData.
 bool ExportGIS2ArcView(const Text& path);
 bool ExportGIS2EVS(const Text& path);
 
-// The boxes of the workbench.
+// The workbench.
 namespace frmGIS
 {
-extern Grid SSGISLayers;  // layer, colour
-extern Grid SSGISInfo;    // five columns, then one for each layer, headed with its name
-extern Grid SSBoringData; // depth and code of the boring looked at
+void LabelBoxes();              // the grids' labels: those by design, or those that the prompts have set
+extern Grid SSGISLayers;        // layer, colour
+extern Grid SSGISInfo;          // five columns, then one for each layer, headed with its name; its width changes
+extern Grid SSBoringData;       // depth and code of the boring looked at
+Text LayerCell(int row, int k); // of SSGISInfo; a layer without a column has none
+extern Text Title;              // of the window
+extern Text FileName;           // the open .GIS file; empty: it was never saved
+
+// The list of boring files: the *.bor files of the project folder, by name, and which of them are marked.
+struct FileList {
+    std::vector<Text> names;
+    std::vector<bool> selected; // as long as names
+    bool SelectAll = false;     // Option1 is checked
+};
+extern FileList File1;
+void RefreshFileList();                    // read anew; what was marked and is still there stays marked
+void SelectFile(int index, bool selected); // from 0. "Select All" is let go
+void Option1();                            // "Select All": marks every file
+void Command1();                           // "Add to GIS": a row for each marked file; nothing is marked then
+void Command2();                           // "Update Layers": the columns by the layer list
+void Command3();                           // "View Data ->": the first marked file
+// Into SSGISInfo, a row below the last with data: the boring, with its depths by the layer list. path is the file, name
+// what stands in its "Filename" cell. Failures by number: 9 when the table is full.
+void AddBoring(const Text& path, const Text& name);
+// At the current cell of SSGISInfo. The column commands do nothing in the first five columns. All set FileChanged.
+void mnuInsertRow();
+void mnuDeleteRow();
+void mnuInsertColumn();
+void mnuDeleteColumn();
+// Ask for a name, and whether a file that is there may be replaced.
+void mnuExportArcView();
+void mnuExp2EVS();
 } // namespace frmGIS

@@ -28,7 +28,7 @@ try {
         DeviceConfig.FontName = "Arial";
     const Text& font = DeviceConfig.FontName;
     Text1Font = txtClientFont = font;
-    for (Memo* box : {&MemoDes, &MemoWcon, &MemoRemarks, &MemoBottNotes, &frmSoil::MemoNotes})
+    for (Memo* box : {&MemoDes, &MemoWcon, &MemoRemarks, &MemoBottNotes, &frmSoil::MemoSoil})
         box->fontName = font;
     for (Grid* grid : {&SSInfo, &SSScale, &SSRepParts, &SSP1Setup, &SSP2Setup, &SSPar, &SSSamp, &SSLith, &SSGenWellInfo,
                        &SSOuterLay, &SSInnerLay, &SSW, &SSCuttings, &SSFormations, &SSLegend})

@@ -1,7 +1,17 @@
 // fencerun.h -- FenceRun: the fence diagram in drawing, beside the fields that it shares with CrossRun.
 //
-// The base plane is an oblique view: X runs along the page at true scale, Y up and to the right at 45 degrees, both
-// foreshortened by 0.7071. All numbers are 32-bit, the plan coordinates too.
+// Filled by getfencedata, which reads the saved file and never what the editor holds; drawfenceframe puts in what a GIS
+// file says instead and turns the coordinates, drawfenceborings adds what the borings say. Unlike a section's, both
+// records are emptied before every file: slots without a boring would otherwise be those of the file before.
+//
+//          +-------------------+          The base plane is an oblique view: X runs along the page at true scale,
+//      Y  /                   /           Y up and to the right at 45 degrees, both of its parts foreshortened by
+//        /                   /            0.7071. Elevations stand on a scale of their own: 2 inches from vEnd,
+//       +-------------------+             which is the plane, to vStart.
+//                 X
+//
+// The number of the base plane's units to an inch is xRange / baseWidth. All numbers are 32-bit, the plan coordinates
+// too.
 #pragma once
 
 #include "sections/crossrun.h"
@@ -22,19 +32,27 @@ struct FenceRunRecord {
     int16_t rotation = 0;                         // quarter turns, 0 to 3
     float baseWidth = 0, baseRise = 0;            // inches
     Slots<float, MaxFenceBorings> planX, planY;   // the ground point on the page, inches
+    Slots<bool, MaxFenceBorings> waterMark;       // the boring has a water mark on this page, at penX, penY
     Text title3;
 };
 extern FenceRunRecord FenceRun;
 void ResetFenceRun(); // as at the start of the program
 
+// A row of the file without a boring's name is an empty slot: no stake, no panel and no word about it.
+bool HasBoring(int i);
+// Units of the base plane to an inch.
+float BaseScale();
+
 // fencerun.cpp
-void vfencestart();
-void getfencedata();
+void vfencestart(); // draws every file of log.mas
+// fencedata.cpp
+bool getfencedata(); // the current file of the run into both records; false: it is not there, and a box has told so
 // fencedraw.cpp
 void drawfenceframe();
 void drawfenceborings();
 void drawwaterlevelfence();
 // fencelayers.cpp
+void fenceorigin(); // of stakes and panels: both scales 1, the pen at the level of vStart above the base's origin
 void fillfencelayers();
 void fillfenceGIS();
 } // namespace VCROSS

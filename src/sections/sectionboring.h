@@ -1,15 +1,29 @@
 // sectionboring.h -- what sections and fences take of a boring's file, line by line, by their own reader.
+//
+// A third reader of the boring file, on purpose: a section shows what is on disk, and takes so little of it that most
+// blocks are only counted past.
 #pragma once
 
+#include "session/files.h"
 #include "session/slots.h"
 #include "session/text.h"
 
 namespace VCROSS
 {
+Text BoringFileOf(const Text& name); // ".bor" behind a name with no "."
 // The whole path of a boring named in a definition file: the project folder in front of a name without a folder.
 Text SectionBoringPath(const Text& name);
 
-// What is read of the second pass: the well, its screens, and the words of the label.
+// True when the file is there and begins with "5."; else its box is shown: "Boring File Not Found: " or "This boring
+// file has the format of a previous version: ". The file counter of the run is the caller's, by StepOverEntry.
+bool SectionBoringThere(const Text& path);
+
+// Kept: at a boring that is missing or old the file counter of the run moves on by one, so that on the screen Next
+// leaves a file out and Previous shows this page again. Where every entry is to become a page, in a print run or
+// with nobody in front, nothing happens: only the run's own step counts there.
+void StepOverEntry();
+
+// What is read of the well, and the words of the label.
 struct SectionWell {
     Text Name, WellName;                  // the two names that a label can be
     float boreDepth = 0, casingDepth = 0; // greatest ends of the outer and the inner table, at least 0
@@ -17,12 +31,26 @@ struct SectionWell {
     int16_t screenCount = 0; // a sixth screen overwrites the fifth
 };
 
-// True when the file is there and begins with "5."; else its box is shown: "Boring File Not Found: " or "This boring
-// file has the format of a previous version: ". The file counter of the run is the caller's.
-bool SectionBoringThere(const Text& path);
-// The lithology of the boring at path into layerCount, layerDepth, layerCode and deepestLayer of slot i.
+// All three take a file that SectionBoringThere has let pass, and fail by number: 9 for a layer above 100, 62 for an
+// end of the file within what they read. withClient: also the client block that drawclient prints (LogBoring.Client,
+// Style), as far as the file lasts; lines that are not there are empty, a missing style is 1.
+// The lithology into layerCount, layerDepth, layerCode and deepestLayer of slot i.
 void ReadSectionLayers(const Text& path, int i);
-// The well of the boring at path: refElevation and stickUp of slot i, and well. withClient: also the client block that
-// drawclient prints (LogBoring.Client, Style), as far as the file lasts.
+// refElevation and stickUp of slot i, and the well as far as the inner table.
 void ReadSectionWell(const Text& path, int i, SectionWell& well, bool withClient);
+// For a fence, both in one go: the layers, and of the well the names and the elevations alone.
+void ReadFenceBoring(const Text& path, int i, SectionWell& well, bool withClient);
+
+// A boring's file under way, opened behind its version line: its blocks are taken or passed over in their order.
+struct BoringBlocks {
+    explicit BoringBlocks(const Text& path);
+    Text ToSamples();       // passes over all in front of the samples' count; the boring's name
+    void Pass(int cells);   // a counted block; no bound
+    int ParamCells() const; // of a row of general parameters, its depth among them
+    void GenWell(int i, SectionWell& well);
+    void OuterLayers(SectionWell& well);
+    void ClientBlock(); // behind the inner table: what drawclient prints, as far as the file lasts
+    LineReader in;
+    Text version;
+};
 } // namespace VCROSS

@@ -10,6 +10,9 @@ enum Buttons { OkOnly, OkCancel, YesNo, YesNoCancel };
 enum Icon { NoIcon, Question, Exclamation };
 enum Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 
+// The tools of the program. The log tool stays open under the others, of which one at a time is open.
+enum class Tool { Log, Cross, Fence, Soil, GIS };
+
 // What a printer says of its sheet: the printable size, in inches and in device units.
 struct Sheet {
     float WidthInches = 0, HeightInches = 0, WidthUnits = 0, HeightUnits = 0;
@@ -50,6 +53,7 @@ struct PlatformRecord {
     void (*ShowLogWindow)();          // the log window, loaded and shown when this returns
     void (*ShowWelcome)();            // blocking
     void (*EndProcess)();             // the log window goes, and with it the program
+    void (*ShowTool)(Tool tool);      // blocking: until the user is back in the log tool, or leaves the program
     // The clipboard, lines ended by CR LF; and a word in passing: a beep, and the words where they hold up nobody.
     Text (*ClipboardText)();
     void (*SetClipboardText)(const Text& text);

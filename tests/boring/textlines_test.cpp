@@ -53,7 +53,7 @@ TEST_CASE("each kind is a text box of its own")
     frmBorinput::MemoDes.text = "description";
     frmBorinput::MemoWcon.text = "well";
     frmBorinput::MemoRemarks.text = "remark";
-    frmSoil::MemoNotes.text = "soil";
+    frmSoil::MemoSoil.text = "soil";
     frmBorinput::MemoBottNotes.text = "general";
     const char* const expected[] = {"general", "description", "well", "remark", "soil", "general", "general"};
     for (int kind = 0; kind <= 6; ++kind) {

@@ -390,13 +390,13 @@ TEST_CASE("adjustments widen the notes boxes up to their limits")
     DeviceConfig.TextAdjust[5] = 250;
     ResetTextBoxes();
     CHECK(MemoBottNotes.widthTwips == 8460);
-    CHECK(frmSoil::MemoNotes.widthTwips == 7050);
+    CHECK(frmSoil::MemoSoil.widthTwips == 7050);
     NarrowNotes = true;
     DeviceConfig.TextAdjust[4] = 550;
     DeviceConfig.TextAdjust[5] = 4000;
     ResetTextBoxes();
     CHECK(MemoBottNotes.widthTwips == 6700);
-    CHECK(frmSoil::MemoNotes.widthTwips == 10000);
+    CHECK(frmSoil::MemoSoil.widthTwips == 10000);
     NarrowNotes = false;
     DeviceConfig.TextAdjust[4] = 1000;
     ResetTextBoxes();

@@ -49,7 +49,7 @@ TEST_CASE("the font of the set-up goes to every box whose text reaches the drawi
         CHECK(DeviceConfig.FontName == font);
         CHECK(Text1Font == font);
         CHECK(txtClientFont == font);
-        for (const Memo* box : {&MemoDes, &MemoWcon, &MemoRemarks, &MemoBottNotes, &frmSoil::MemoNotes})
+        for (const Memo* box : {&MemoDes, &MemoWcon, &MemoRemarks, &MemoBottNotes, &frmSoil::MemoSoil})
             CHECK(box->fontName == font);
         for (const Grid* grid : {&SSInfo, &SSScale, &SSRepParts, &SSP1Setup, &SSP2Setup, &SSPar, &SSSamp, &SSLith,
                                  &SSGenWellInfo, &SSOuterLay, &SSInnerLay, &SSW, &SSCuttings, &SSFormations, &SSLegend})

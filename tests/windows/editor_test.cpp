@@ -532,10 +532,10 @@ TEST_CASE("every entry of the menu is there; those that need a tool which is not
         {"mnuConvertGTGStxt", false},
         {"mnuConvertGTGSgeneral", false},
         {"mnuConvertWinLog", false},
-        {"mnuvcross", false},
-        {"mnuvfence", false},
-        {"mnuvsoil", false},
-        {"mnuvGIS", false},
+        {"mnuvcross", true},
+        {"mnuvfence", true},
+        {"mnuvsoil", true},
+        {"mnuvGIS", true},
     };
     for (const auto& [name, enabled] : entries) {
         CAPTURE(name);

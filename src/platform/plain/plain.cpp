@@ -85,6 +85,7 @@ void UsePlainPlatform()
     Platform.ShowLogWindow = [] {};
     Platform.ShowWelcome = [] {};
     Platform.EndProcess = [] {};
+    Platform.ShowTool = [](Tool) {};
     Platform.ClipboardText = [] { return PlainClipboard; };
     Platform.SetClipboardText = [](const Text& text) { PlainClipboard = text; };
     Platform.Notice = [](const Text& words) { Notices.push_back(words); };

@@ -1,0 +1,117 @@
+// crosspage.cpp -- the files of a cross section run, and what was drawn from them.
+#include "crosspage.h"
+
+#include "canvas/batch.h"
+#include "canvas/metaugl.h"
+#include "canvas/pageobjects.h"
+#include "canvas/screenview.h"
+#include "report/heading.h"
+#include "sections/crossrun.h"
+#include "session/files.h"
+
+#include <cmath>
+
+static void AddLines(std::string& bytes, const std::vector<Text>& lines, size_t count, const Text& empty)
+{
+    for (size_t line = 0; line < count; ++line)
+        bytes += (line < lines.size() ? lines[line] : empty) + "\r\n";
+}
+
+std::string SectionText::Bytes() const
+{
+    std::string bytes = " " + std::to_string(Borings.size()) + " \r\n";
+    for (const std::vector<Text>& row : Borings)
+        AddLines(bytes, row, 7, "");
+    AddLines(bytes, {"", HStart, HEnd, HInc, HUnit, VStart, VEnd, VInc, VUnit, ""}, 10, "");
+    AddLines(bytes, {MainTitle, Title1, Title2, Left, Right, Layers}, 6, "");
+    AddLines(bytes, Legend, 8, ";");
+    AddLines(bytes, Tail, Tail.size(), "");
+    return bytes;
+}
+
+void WriteSection(const Text& file, const SectionText& section)
+{
+    WriteScratch(file, section.Bytes());
+}
+
+void WriteSectionList(std::initializer_list<const char*> files)
+{
+    LineWriter out(MasFile(), Durability::Scratch);
+    out.Line(std::to_string(files.size()));
+    for (const char* file : files)
+        out.Line(Scratch(file));
+    out.Close();
+}
+
+bool ReadSection(const SectionText& section)
+{
+    WriteSection("A.CRO", section);
+    RunPages.pageFile = Scratch("A.CRO");
+    return VCROSS::getcrossdata();
+}
+
+BoringText SectionBoring(const Text& name, const BoringText::Rows& layers)
+{
+    BoringText boring;
+    boring.Name = name;
+    boring.Lith = layers;
+    boring.GenWell = {"MW-" + name, "", "", "", "90", "0"};
+    boring.OuterLayers = {{"0", "10", "Sand"}};
+    boring.InnerLayers = {{"0", "4", "Casing"}};
+    return boring;
+}
+
+void StartSection()
+{
+    for (int slot = 1; slot <= MaxHeadings; ++slot)
+        HeadingWords[slot] = "W" + std::to_string(slot);
+    PageList = PageListRecord();
+    canvasstart(VCROSS::CrossRun.pageMode);
+}
+
+static Drawing DrawnFrom(double xInches, double yInches, size_t skip)
+{
+    const auto x = static_cast<int32_t>(std::lround(600 * xInches)),
+               y = static_cast<int32_t>(std::lround(600 * yInches));
+    const PageListRecord kept = PageList;
+    for (PageObject& object : PageList.Objects) {
+        object.X1 += ColumnX - x;
+        object.X2 += ColumnX - x;
+        object.Y1 += ColumnY + 60 - y;
+        object.Y2 += ColumnY + 60 - y;
+        for (PagePoint& point : object.Vertices) {
+            point.X += ColumnX - x;
+            point.Y += ColumnY + 60 - y;
+        }
+    }
+    const Drawing drawing = Drawn(skip);
+    PageList = kept;
+    return drawing;
+}
+
+// The margins of the sheet are 0.25 wide: the frame's corner is 0.45 from the printable sheet's left edge and from its
+// upper one.
+Drawing SectionDrawn(size_t skip)
+{
+    return DrawnFrom(1.05, 0.95, skip);
+}
+
+Drawing SheetDrawn(size_t skip)
+{
+    return DrawnFrom(0.45, 0.45, skip);
+}
+
+size_t Objects()
+{
+    return PageList.Objects.size();
+}
+
+Drawing DrawBorings(const SectionText& section)
+{
+    REQUIRE(ReadSection(section));
+    StartSection();
+    VCROSS::drawcrossframe();
+    const size_t first = Objects();
+    VCROSS::drawcrossborings();
+    return SectionDrawn(first + 7);
+}

@@ -1,0 +1,102 @@
+// fencepage.cpp -- the files of a fence run, and what was drawn from them.
+#include "fencepage.h"
+
+#include "canvas/batch.h"
+#include "canvas/metaugl.h"
+#include "canvas/pageobjects.h"
+#include "canvas/screenview.h"
+#include "sections/fencerun.h"
+#include "session/files.h"
+#include "session/session.h"
+
+#include <algorithm>
+
+static void AddRows(std::string& bytes, const std::vector<Text>& rows, size_t count, const Text& empty)
+{
+    for (size_t row = 0; row < count; ++row)
+        bytes += (row < rows.size() ? rows[row] : empty) + "\r\n";
+}
+
+std::string FenceText::Bytes() const
+{
+    std::string bytes = "\r\n";
+    AddRows(bytes, Borings, 15, ",,,,,");
+    bytes += "\r\n";
+    AddRows(bytes, Panels, 20, "");
+    bytes += "\r\n";
+    AddRows(bytes, {XStart, XEnd, XInc, XUnit, YStart, VStart, VEnd, VInc, VUnit, ""}, 10, "");
+    AddRows(bytes, {MainTitle, Title1, Title2, Title3, Layers, Direction}, 6, "");
+    AddRows(bytes, Legend, 8, ";");
+    AddRows(bytes, Tail, Tail.size(), "");
+    return bytes;
+}
+
+void WriteFence(const Text& file, const FenceText& fence)
+{
+    WriteScratch(file, fence.Bytes());
+}
+
+void WriteFenceList(std::initializer_list<const char*> fences)
+{
+    LineWriter out(MasFile(), Durability::Scratch);
+    out.Line(std::to_string(fences.size()));
+    for (const char* fence : fences)
+        out.Line(Scratch(fence));
+    out.Close();
+}
+
+bool ReadFence(const FenceText& fence)
+{
+    WriteFence("A.FEN", fence);
+    RunPages.pageFile = Scratch("A.FEN");
+    return VCROSS::getfencedata();
+}
+
+BoringText FenceBoring(const Text& name, const BoringText::Rows& layers)
+{
+    BoringText boring;
+    boring.Name = name;
+    boring.Lith = layers;
+    boring.GenWell = {"MW-" + name, "", "", "", "600", "2"};
+    return boring;
+}
+
+static void Shift(int32_t x, int32_t y)
+{
+    for (PageObject& object : PageList.Objects) {
+        object.X1 += x;
+        object.X2 += x;
+        object.Y1 += y;
+        object.Y2 += y;
+        for (PagePoint& point : object.Vertices) {
+            point.X += x;
+            point.Y += y;
+        }
+    }
+}
+
+// Where the base plane starts is (0.6, 2.45) inches from the corner of the printable sheet.
+static int32_t BaseY()
+{
+    return static_cast<int32_t>(PageCanvas.pageHeightUnits) - 1470;
+}
+
+Drawing FenceDrawn()
+{
+    const auto& objects = PageList.Objects;
+    const auto foot = std::find_if(objects.begin(), objects.end(), [](const PageObject& object) {
+        return object.Kind == ObjectKind::Text && object.String.ends_with(RunPages.pageFile) && object.HAlign == 0;
+    });
+    const size_t skip = foot == objects.end() ? 0 : size_t(foot - objects.begin()) + 1;
+    const int32_t x = ColumnX - 360, y = ColumnY + 60 - BaseY();
+    Shift(x, y);
+    const Drawing drawing = Drawn(skip);
+    Shift(-x, -y);
+    return drawing;
+}
+
+Text FencePen()
+{
+    return std::to_string(RoundInt32(double(PageCanvas.penX)) - 360) + "," +
+           std::to_string(RoundInt32(double(PageCanvas.penY)) - BaseY());
+}
