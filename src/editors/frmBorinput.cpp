@@ -759,7 +759,9 @@ void OfferRecovery()
 void EndProgram()
 {
     EndRecovery();
-    if (window)
+    if (window) {
         window->ending = true;
+        window->close(); // from another tool's Exit it is still there
+    }
     QApplication::quit();
 }
