@@ -14,6 +14,7 @@
 #include <QTimer>
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <map>
 
 static unsigned seed;
@@ -177,10 +178,12 @@ TEST_CASE("random events in the tools and from tool to tool end with no failure,
         const auto before = FilesOf(Scratch("samples"));
         QStringList told;
         int left = 300;
-        // Events go on in the loop of whatever is open; a box or a dialog is answered, a tool is disturbed.
-        QTimer events;
+        // Events go on in the loop of whatever is open: each sets the next one first. A box or a dialog is answered, a
+        // tool is disturbed.
+        QObject events;
         bool busy = false;
-        QObject::connect(&events, &QTimer::timeout, [&] {
+        std::function<void()> next = [&] {
+            QTimer::singleShot(1, &events, next);
             QWidget* front = QApplication::activeModalWidget();
             QWidget* tool = OpenTool();
             if (front && front != tool) {
@@ -197,12 +200,11 @@ TEST_CASE("random events in the tools and from tool to tool end with no failure,
                 tool->close();
             }
             busy = false;
-        });
-        events.start(1);
+        };
+        next();
         const char* const doors[] = {"mnuvcross", "mnuvfence", "mnuvsoil", "mnuvGIS"};
         while (left > 0)
             log->findChild<QAction*>(doors[(round + left) % 4])->trigger();
-        events.stop();
         CHECK(OpenTool() == nullptr);
         CHECK(log->isVisible());
         CHECK((FilesOf(Scratch("samples")) == before));
