@@ -13,6 +13,7 @@
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
 #include "editors/borinput.h"
+#include "gis/gisfile.h"
 #include "gis/gistool.h"
 #include "logrender/logdata.h"
 #include "report/desitems.h"
@@ -29,6 +30,8 @@
 #include "sections/fencefile.h"
 #include "sections/fencetool.h"
 #include "sections/layershapes.h"
+#include "sections/soilfile.h"
+#include "sections/soiltable.h"
 #include "sections/soiltool.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
@@ -206,6 +209,18 @@ struct Fresh : doctest::IReporter {
         LogBoring = LogBoringRecord();
         LogGeometry = LogGeometryRecord();
         VCROSS::LayerFill = VCROSS::LayerFillRecord();
+        VCROSS::SoilRun = VCROSS::SoilRunRecord();
+        SoilData = SoilRecord();
+        frmSoil::FileName = "";
+        frmSoil::SS1 = Grid(MaxSoilCells, 1);
+        ClearGISArrays();
+        boringSummary = {};
+        boringLithology = {};
+        frmGIS::SSGISLayers = Grid(MaxGisLayers, 2);
+        frmGIS::SSGISInfo = Grid(MaxGisBorings, GisColumns);
+        frmGIS::SSBoringData = Grid(MaxLith, 2);
+        frmGIS::Title = frmGIS::FileName = "";
+        frmGIS::File1 = {};
         ForgetPatterns();
         TintsInMemory = false;
         jobCode = runFileCount = singleFile = introType = dialogBusy = stopRequested = 0;

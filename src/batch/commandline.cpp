@@ -14,9 +14,9 @@ static constexpr char SheetOptions[] = "--home DIR;--pdf FILE;--png DIR;--dpi N;
 static constexpr BatchJob Jobs[] = {
     {"log", 2, 0, LogOptions, "FILE.BOR...", "the boring logs of saved borings"},
     {"intro", 2, 1, IntroOptions, "FILE.BOR...", "the intro pages of saved borings, one each"},
-    {"soil", 8, 0, LogOptions, "FILE.SOI...", "the soil analysis tables of saved definitions"},
     {"section", 4, 0, LogOptions, "FILE.CRO...", "cross sections, a page each"},
     {"fence", 6, 0, LogOptions, "FILE.FEN...", "fence diagrams, a page each"},
+    {"soil", 8, 0, LogOptions, "FILE.SOI...", "the soil analysis tables of saved definitions"},
     {"guide", 9, 0, SheetOptions, "", "the Fill Pattern Guide"},
     {"gis-add", 0, 0, "", "FILE.BOR...", "adds borings to the table of a GIS file, which is made if it is not there",
      BatchWork::AddsToGis, "--gis FILE"},

@@ -13,9 +13,9 @@
 #include "platform/qt/pagepainter.h"
 #include "platform/qt/pdfrun.h"
 #include "platform/qt/pngpages.h"
-#include "sections/soiltable.h"
 #include "sections/crossrun.h"
 #include "sections/fencerun.h"
+#include "sections/soiltable.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -209,9 +209,9 @@ static void FillPlatform()
 static void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
-    JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
     JobTable[3] = JobTable[4] = VCROSS::vcrossstart;
     JobTable[5] = JobTable[6] = VCROSS::vfencestart;
+    JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
     JobTable[9] = patternstart;
     IntroPages = VLOG::vlogintrostart;
 }

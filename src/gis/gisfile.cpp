@@ -71,9 +71,24 @@ void frmGIS::LabelBoxes()
 
 // ------------------------------------------------------------------------------------------------------ the file
 
+template <int Rows>
+static void Empty(Slots<Text, Rows>& cells)
+{
+    for (Text& cell : cells.slot)
+        cell.clear();
+}
+
+// In place: the record is large, and every section that names a GIS file clears it.
 void ClearGISArrays()
 {
-    GisData = GisRecord();
+    GisData.layerCount = GisData.boringCount = 0;
+    Empty(GisData.layerName);
+    Empty(GisData.layerColor);
+    for (auto& cells : GisData.boringCells.slot)
+        Empty(cells);
+    for (auto& cells : GisData.layerCells.slot)
+        Empty(cells);
+    GisData.trailerLine.clear();
 }
 
 void OpenGISFile(const Text& path)

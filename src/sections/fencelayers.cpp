@@ -24,7 +24,7 @@ void VCROSS::fenceorigin()
 static void planborings()
 {
     using namespace VCROSS;
-    const float perInch = Over(FenceRun.xRange, FenceRun.baseWidth);
+    const float perInch = BaseScale();
     for (int i = 1; i <= CrossRun.boringCount; ++i) {
         const double back = double(Foreshortening) * FenceRun.siteY[i];
         FenceRun.planX[i] = Over(FenceRun.siteX[i] + back, perInch);
@@ -110,7 +110,7 @@ try {
     startpanels();
     LayerFill.pinchTolerance = 10;
     for (int i = 1; i <= CrossRun.boringCount; ++i)
-        for (int k = 1; k <= CrossRun.layerCount[i]; ++k)
+        for (int k = 1; k <= MaxSectionLayers; ++k)
             CrossRun.layerDepth[i][k] = Over(double(CrossRun.layerDepth[i][k]) * 2, CrossRun.vRange);
     eachpanel(fillpanel);
 } catch (...) {

@@ -122,7 +122,7 @@ static void Swatch(const Text& code, double pitch)
 }
 
 // The row "code,colour;text" at the pen, which steps down behind it. One without a code takes no room.
-static void LegendEntry(char kind, const Text& row, double pitch)
+static void LegendEntry(const Text& row, bool individual, double pitch)
 {
     const char separator = Holds(row, ';') ? ';' : ',';
     if (!Holds(row, separator))
@@ -131,7 +131,6 @@ static void LegendEntry(char kind, const Text& row, double pitch)
     const std::string_view front = Before(row, separator);
     Text code(Before(front, ','));
     const Text color(Holds(front, ',') ? Behind(front, ',') : front);
-    const bool individual = kind == 'C' && CrossRun.individualColumns == 1;
     if (individual)
         text = color + ": " + text;
     else if (CrossRun.drawLayers == 0)
@@ -170,7 +169,8 @@ static void Legend(char kind)
     for (int column = 1; column <= legendColumns && column * legendPitch - 0.2 <= room; ++column) {
         moveto((column - 1) * legendPitch + 0.1, -0.25);
         for (int row = (column - 1) * columnRows + 1; row <= column * columnRows; ++row)
-            LegendEntry(kind, LegendRow(kind, row), pitch);
+            if (const Text cell = LegendRow(kind, row); !Empty(cell))
+                LegendEntry(cell, kind == 'C' && CrossRun.individualColumns == 1, pitch);
     }
 }
 

@@ -4,7 +4,6 @@
 // depth 0, from which a depth of depthMax reaches 4.4 inches down.
 #include "sections/soiltable.h"
 
-#include "boring/boringblocks.h"
 #include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
@@ -12,6 +11,8 @@
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
 #include "report/heading.h"
+#include "sections/sectionboring.h"
+#include "sections/sheetrun.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -23,7 +24,7 @@
 
 VCROSS::SoilRunRecord VCROSS::SoilRun;
 
-using VCROSS::SoilRun;
+using namespace VCROSS;
 
 // ---- The definition file and its boring
 
@@ -53,13 +54,11 @@ static void ReadDefinition(LineReader& in)
         SoilRun.notes[row] = Before(in.Line(), ParagraphMark);
 }
 
-// The path of the boring; a name with a folder or a drive is taken as it is.
+// The path of the boring. One without a name is nowhere.
 static Text BoringPath()
 {
-    Text name(Trim(SoilRun.boringFile));
-    if (!name.empty() && !HasEnding(name))
-        name += ".bor";
-    return name.find_first_of(":\\/") == Text::npos ? JoinPath(ProjectPath, name) : name;
+    const Text name(Trim(SoilRun.boringFile));
+    return SectionBoringPath(name.empty() ? name : BoringFileOf(name));
 }
 
 // A sample counts once it is whole.
@@ -89,23 +88,10 @@ static void ReadLayers(LineReader& in)
     }
 }
 
-// The client block, as far as the file has one.
-static void ReadClient(LineReader& in)
-{
-    for (int i = 1; i <= MaxClient && !in.AtEnd(); ++i)
-        LogBoring.Client[i] = in.Line();
-    if (!in.AtEnd())
-        LogBoring.Style = RoundInt16(TextNumber(in.Line()));
-}
-
 static void ReadBoring(const Text& path)
 {
-    LineReader in(path);
-    const Text version = in.Line();
-    if (!version.starts_with("5.")) {
-        MsgBox("This boring file has the format of a previous version: " + path, OkOnly, Exclamation);
-        return;
-    }
+    BoringBlocks boring(path);
+    LineReader& in = boring.in;
     SoilRun.boringName = in.Line();
     in.Skip(1 + 2 * MaxInfo); // the map file and the information
     SoilRun.depthMax = TextNumber(in.Line());
@@ -113,12 +99,12 @@ static void ReadBoring(const Text& path)
     in.Skip(1);
     SoilRun.depthUnit = Before(in.Line(), ',');
     in.Skip(3);
-    SkipBlock(in, 2); // report parts
+    boring.Pass(2); // report parts
     in.Skip(1);
     ReadSamples(in);
     ReadLayers(in);
-    SkipBlock(in, 1); // description
-    SkipBlock(in, version == "5.0" ? 9 : 1 + GenParams);
+    boring.Pass(1); // description
+    boring.Pass(boring.ParamCells());
     for (int n = 1; n <= SampleParams; ++n) {
         in.Skip(3);
         for (Slots<Text, SampleParams>* words : {&SoilRun.split1, &SoilRun.split2, &SoilRun.split3, &SoilRun.standard1,
@@ -126,40 +112,30 @@ static void ReadBoring(const Text& path)
             (*words)[n] = in.Line();
     }
     in.Skip(8 * GenParams);
-    SkipBlock(in, 2); // well information
-    SkipBlock(in, 1); // well notes
+    boring.Pass(2); // well information
+    boring.Pass(1); // well notes
     in.Skip(MaxGenWell);
-    SkipBlock(in, 5); // outer and inner layers
-    SkipBlock(in, 5);
-    SkipBlock(in, 1); // remarks
-    SkipBlock(in, 4); // cuttings
-    SkipBlock(in, 2); // legend and formations
-    SkipBlock(in, 2);
-    in.Skip(MaxBottNotes);
-    ReadClient(in);
+    boring.Pass(5); // outer and inner layers
+    boring.Pass(5);
+    boring.ClientBlock();
 }
 
-void VCROSS::getsoildata()
+bool VCROSS::getsoildata()
 try {
     SoilRun = SoilRunRecord();
     LogBoring.Client = {};
     LogBoring.Style = 1;
-    if (!FileExists(RunPages.pageFile)) {
-        MsgBox("File Not Found: " + RunPages.pageFile +
-                   ".  Possible solution: Use 'Project: Select Project' to select your project before opening files.",
-               OkOnly, Exclamation);
-        return;
-    }
-    SoilRun.there = true;
+    if (!DefinitionThere())
+        return false;
     LineReader in(RunPages.pageFile);
     ReadDefinition(in);
     const Text boring = BoringPath();
-    if (FileExists(boring))
+    if (SectionBoringThere(boring))
         ReadBoring(boring);
-    else
-        MsgBox("Boring File Not Found: " + boring, OkOnly, Exclamation);
+    return true;
 } catch (...) {
     ReportFailure(__func__);
+    return true; // the page is drawn with what was read
 }
 
 // ---- The head and the foot
@@ -441,28 +417,16 @@ try {
 
 // ---- The run
 
+static void DrawPage()
+{
+    canvasstart("L");
+    VCROSS::drawsoilframe();
+    VCROSS::drawsoilmain();
+}
+
 void VCROSS::vsoilstart()
 try {
-    RunPages.pageCount = 0; // a list that cannot be read is an empty one, not the run before
-    getsvfiles();
-    getclientlogo(3);
-    RunPages.pageIndex = 1;
-    while (RunPages.pageIndex <= RunPages.pageCount) {
-        stopRequested = 0;
-        Platform.ShowProgress(true);
-        RunPages.pageFile = runFiles[RunPages.pageIndex];
-        getsoildata();
-        if (!SoilRun.there) {
-            ++RunPages.pageIndex; // there is no page to steer the run from
-            continue;
-        }
-        canvasstart("L");
-        drawsoilframe();
-        drawsoilmain();
-        Platform.ShowProgress(false);
-        ShowOrPrint();
-    }
-    Platform.ShowProgress(false);
+    RunSheets(3, getsoildata, DrawPage);
 } catch (...) {
     Platform.ShowProgress(false);
     ReportFailure(__func__);

@@ -14,7 +14,6 @@
 namespace VCROSS
 {
 struct SoilRunRecord {
-    bool there = false; // the definition file
     // From the definition file.
     Text boringFile;
     std::vector<int> columnParam; // sample parameters, a table column each, from index 0
@@ -39,7 +38,7 @@ struct SoilRunRecord {
 extern SoilRunRecord SoilRun;
 
 void vsoilstart();    // draws every file of log.mas
-void getsoildata();   // RunPages.pageFile and its boring into SoilRun
+bool getsoildata();   // RunPages.pageFile and its boring into SoilRun; false: it is not there, and a box has told so
 void drawsoilframe(); // the head and the foot of the page
 void drawsoilmain();  // the log of the boring and the table
 } // namespace VCROSS

@@ -192,6 +192,54 @@ class Batch(unittest.TestCase):
                 with open(self.path(f"{i}.{ending}"), "rb") as file:
                     self.assertEqual(file.read(), alone)
 
+    def section(self, name, borings, layers="N", page="L"):
+        """A cross section of sample borings in the folder of the test, with copies of them beside it."""
+        lines = [f" {len(borings)} "]
+        for number, boring in enumerate(borings):
+            lines += [str(100 * number + 100), boring, "4", "B", "", "0,0", ""]
+            if os.path.exists(sample(boring)):
+                shutil.copy(sample(boring), self.folder)
+        lines += ["", "0", "500", "100", "Feet", "620", "520", "-20", "Feet", "", "Main of " + name, "", "", "A", "A'",
+                  layers] + [";"] * 8 + [page, "", "", ""] + [";"] * 22
+        with open(self.path(name), "w", encoding="cp1252", newline="") as file:
+            file.write("".join(line + "\r\n" for line in lines))
+        return name
+
+    def test_cross_sections_go_to_all_outputs_on_a_page_each(self):
+        borings = ["TC-101.BOR", "TC-102.BOR", "TC-103.BOR"]
+        done = self.run_batch("section", "--pdf", "a.pdf", "--png", "png", "--dpi", "20", "--dxf", "dxf", "--list",
+                              "a.jsonl", "--date", "1 May 2001", self.section("A.CRO", borings, "Y"),
+                              self.section("B.CRO", borings, "I", "T"))
+        self.assertEqual(done.stderr, "")
+        pages = listing(self.path("a.jsonl"))
+        self.assertEqual([(head["source"], head["mode"]) for head, _ in pages], [("A.CRO", "L"), ("B.CRO", "T")])
+        for page, name in zip(pages, ("A", "B")):
+            words = texts(page)
+            self.assertIn(f" Main of {name}.CRO ", words)
+            self.assertIn(" SECTION A-A' ", words)
+            self.assertIn("1 May 2001    " + os.path.realpath(self.folder) + f"/{name}.CRO", words)
+            for boring in borings:
+                self.assertIn(f" {boring[:6]} ", words)
+        self.assertEqual(sorted(os.listdir(self.path("png"))), ["A-1.png", "B-1.png"])
+        self.assertEqual(sorted(os.listdir(self.path("dxf"))), ["A-1.dxf", "B-1.dxf"])
+        info = subprocess.run(["pdfinfo", self.path("a.pdf")], capture_output=True, text=True).stdout
+        self.assertIn("Pages:           2\n", info)
+
+    def test_a_cross_section_that_is_not_there_is_told_and_the_others_are_drawn(self):
+        self.section("A.CRO", ["TC-101.BOR"])
+        self.section("C.CRO", ["TC-101.BOR"])
+        done = self.run_batch("section", "--list", "a.jsonl", "A.CRO", "B.CRO", "C.CRO", status=1)
+        self.assertEqual(done.stderr.count("\n"), 1)
+        self.assertTrue(done.stderr.startswith("File Not Found: " + os.path.realpath(self.folder) + "/B.CRO.  "))
+        self.assertEqual([page[0]["source"] for page in listing(self.path("a.jsonl"))], ["A.CRO", "C.CRO"])
+
+    def test_a_cross_section_with_a_missing_boring_is_a_page_and_so_is_the_one_behind_it(self):
+        self.section("A.CRO", ["TC-101.BOR", "NONE.BOR"])
+        self.section("B.CRO", ["TC-101.BOR"])
+        done = self.run_batch("section", "--list", "a.jsonl", "A.CRO", "B.CRO", status=1)
+        self.assertEqual(done.stderr, "Boring File Not Found: " + os.path.realpath(self.folder) + "/NONE.BOR\n")
+        self.assertEqual([page[0]["source"] for page in listing(self.path("a.jsonl"))], ["A.CRO", "B.CRO"])
+
     def test_intro_pages_are_one_page_a_boring_in_the_arrangement_asked_for(self):
         names = {}
         for arrangement in ("1", "2"):
@@ -207,6 +255,141 @@ class Batch(unittest.TestCase):
                 self.assertIn("LEGEND:", texts(page))
             names[arrangement] = [item["x"] for item in pages[0][1] if item.get("text") == "MW-108"]
         self.assertEqual(names, {"1": [420], "2": [2970]})
+
+    def test_fences_are_one_page_each_on_the_sheet_of_their_page_cell(self):
+        done = self.run_batch("fence", "--date", "1 May 2001", "--pdf", "f.pdf", "--png", "png", "--dpi", "20", "--dxf",
+                              "dxf", "--list", "f.jsonl", sample("TC-F1.FEN"), sample("TC-F2.FEN"), sample("TC-F3.FEN"))
+        self.assertEqual(done.stderr, "")
+        pages = listing(self.path("f.jsonl"))
+        self.assertEqual([page[0]["source"] for page in pages], ["TC-F1.FEN", "TC-F2.FEN", "TC-F3.FEN"])
+        for page, number in zip(pages, "123"):
+            self.assertIn(f" Fence Diagram {number} ", texts(page))
+            self.assertIn("1 May 2001    " + sample(f"TC-F{number}.FEN"), texts(page))
+        self.assertEqual(sorted(os.listdir(self.path("png"))), ["TC-F1-1.png", "TC-F2-1.png", "TC-F3-1.png"])
+        self.assertEqual(sorted(os.listdir(self.path("dxf"))), ["TC-F1-1.dxf", "TC-F2-1.dxf", "TC-F3-1.dxf"])
+        info = subprocess.run(["pdfinfo", "-l", "3", self.path("f.pdf")], capture_output=True, text=True).stdout
+        sizes = [line.split(":")[1].split("(")[0].split() for line in info.splitlines()
+                 if line.startswith("Page ") and " size:" in line]
+        self.assertEqual([(size[0], size[2]) for size in sizes], [("792", "612"), ("1224", "792"), ("1224", "792")])
+
+    def test_a_fence_or_a_boring_of_it_that_is_not_there_is_told_and_the_other_fences_are_drawn(self):
+        for name in ("TC-F1.FEN", "TC-101.BOR"):
+            shutil.copy(sample(name), self.folder)
+        gone, alone = self.path("GONE.FEN"), self.path("TC-F1.FEN")
+        done = self.run_batch("fence", "--project", self.folder, "--list", "f.jsonl", gone, alone, sample("TC-F2.FEN"),
+                              alone, status=1)
+        hint = "Possible solution: Use 'Project: Select Project' to select your project before opening files."
+        boring = "Boring File Not Found: " + self.path("TC-102.bor")
+        self.assertEqual(done.stderr.splitlines(), [f"File Not Found: {gone}.  {hint}", boring,
+                                                    "Boring File Not Found: " + self.path("MW-109.bor")])
+        pages = listing(self.path("f.jsonl"))
+        self.assertEqual([page[0]["source"] for page in pages], ["TC-F1.FEN", "TC-F2.FEN", "TC-F1.FEN"])
+        self.assertIn(" TC-101 ", texts(pages[0]))
+        self.assertNotIn(" TC-102 ", texts(pages[0]))
+
+    def test_soil_tables_are_one_page_each(self):
+        done = self.run_batch("soil", "--pdf", "a.pdf", "--png", "png", "--dpi", "20", "--list", "a.jsonl", "--date",
+                              "1 May 2001", sample("MW-108.SOI"), sample("SB-111.SOI"))
+        self.assertEqual(done.stderr, "")
+        pages = listing(self.path("a.jsonl"))
+        self.assertEqual([page[0]["source"] for page in pages], ["MW-108.SOI", "SB-111.SOI"])
+        self.assertEqual([page[0]["mode"] for page in pages], ["L", "L"])
+        self.assertIn("Sample Source: MW-108", texts(pages[0]))
+        self.assertEqual(texts(pages[1])[-1], "1 May 2001   " + sample("SB-111.SOI"))
+        bars = [item for item in pages[1][1] if item["kind"] == "polygon" and "F01" in item["brush"].get("fill", "")]
+        self.assertGreater(len(bars), 20)
+        self.assertEqual(sorted(os.listdir(self.path("png"))), ["MW-108-1.png", "SB-111-1.png"])
+        info = subprocess.run(["pdfinfo", self.path("a.pdf")], capture_output=True, text=True).stdout
+        self.assertIn("Pages:           2\n", info)
+
+    def test_a_soil_table_or_its_boring_that_is_not_there_is_told_and_the_others_are_drawn(self):
+        with open(sample("MW-108.SOI"), "rb") as file:
+            lines = file.read().split(b"\r\n")
+        with open(self.path("A.SOI"), "wb") as file:
+            file.write(b"\r\n".join([b"NO-1"] + lines[1:]))
+        done = self.run_batch("soil", "--list", "a.jsonl", "none.SOI", "A.SOI", sample("SB-111.SOI"), status=1)
+        folder = os.path.realpath(self.folder)
+        self.assertEqual(done.stderr.splitlines(), [
+            f"File Not Found: {folder}/none.SOI.  Possible solution: Use 'Project: Select Project' to select your "
+            "project before opening files.",
+            f"Boring File Not Found: {folder}/NO-1.bor",
+            f"Boring File Not Found: {folder}/SB-111.BOR"])
+        self.assertEqual([page[0]["source"] for page in listing(self.path("a.jsonl"))], ["A.SOI", "SB-111.SOI"])
+
+    def gis_lines(self, name):
+        with open(self.path(name), "rb") as file:
+            data = file.read()
+        self.assertTrue(data.endswith(b"\r\n"))
+        return data.decode("cp1252").split("\r\n")[:-1]
+
+    def write(self, name, *lines):
+        with open(self.path(name), "wb") as file:
+            file.write("".join(line + "\r\n" for line in lines).encode("cp1252"))
+
+    def test_borings_are_added_to_a_new_gis_table(self):
+        done = self.run_batch("gis-add", "--gis", "SITE", sample("MW-108.BOR"), sample("TC-101.BOR"))
+        self.assertEqual(done.stderr, "")
+        self.assertEqual(self.gis_lines("SITE.GIS"),
+                         [" 0 ", " 2 ", "MW-108", "2930", "1160", "415.8", "MW-108.BOR",
+                          "TC-101", "2410", "1180", "412.6", "TC-101.BOR", ""])
+        self.assertEqual(sorted(os.listdir(self.folder)), ["SITE.GIS", "tmp"])
+
+    def test_borings_are_added_below_the_rows_of_a_gis_table_by_its_layers(self):
+        self.write("site.gis", " 3 ", "GM", "", "AR", "GRAY", "CL", "", " 1 ", "B-1", "1", "2", "3", "b-1", "4", "X",
+                   "5-6", "kept")
+        done = self.run_batch("gis-add", "--gis", "SITE", sample("MW-108.BOR"), sample("MW-109.BOR"))
+        self.assertEqual(done.stderr, "")
+        self.assertEqual(self.gis_lines("site.gis"),
+                         [" 3 ", "GM", "", "AR", "GRAY", "CL", "", " 3 ", "B-1", "1", "2", "3", "b-1", "4", "X", "5-6",
+                          "MW-108", "2930", "1160", "415.8", "MW-108.BOR", "0.7", "4.9", "4.9",
+                          "MW-109", "2960", "1205", "416.2", "MW-109.BOR", "0", "5.4", "5.4", "kept"])
+
+    def test_borings_that_cannot_be_read_are_told_and_have_their_row(self):
+        self.write("SITE.GIS", " 1 ", "AR", "", " 0 ", "")
+        self.write("OLD.BOR", "4.6")
+        self.write("OLD2.BOR", "4.6")
+        done = self.run_batch("gis-add", "--gis", "SITE.GIS", "OLD.BOR", "OLD2.BOR", "none.BOR", status=1)
+        self.assertEqual(done.stderr.splitlines(), ["This boring file has an invalid format."] * 2 +
+                         ["Error 53 in OpenBoringGIS.  Please contact Norvane"])
+        self.assertEqual(self.gis_lines("SITE.GIS"), [" 1 ", "AR", "", " 3 ", "", "", "", "", "OLD.BOR", "0",
+                                                      "", "", "", "", "OLD2.BOR", "0", "", "", "", "", "none.BOR", "0",
+                                                      ""])
+
+    def test_a_gis_table_that_cannot_be_read_is_left_as_it_is(self):
+        self.write("SITE.GIS", " 1 ", "AR", "", " 5 ", "B-1")
+        done = self.run_batch("gis-add", "--gis", "SITE.GIS", sample("MW-108.BOR"), status=1)
+        self.assertEqual(done.stderr, "Error 62 in OpenGISFile.  Please contact Norvane\n")
+        self.assertEqual(self.gis_lines("SITE.GIS"), [" 1 ", "AR", "", " 5 ", "B-1"])
+        done = self.run_batch("gis-export", "--evs", "e.txt", "SITE.GIS", status=1)
+        self.assertEqual(done.stderr, "Error 62 in OpenGISFile.  Please contact Norvane\n")
+        self.assertFalse(os.path.exists(self.path("e.txt")))
+
+    def test_more_than_200_borings_are_refused_and_nothing_is_written(self):
+        row = ["B", "", "", "", ""]
+        self.write("SITE.GIS", " 0 ", " 200 ", *row * 200, "")
+        done = self.run_batch("gis-add", "--gis", "SITE.GIS", sample("MW-108.BOR"), status=1)
+        self.assertEqual(done.stderr, "Run-time error 9\n")
+        self.assertEqual(self.gis_lines("SITE.GIS"), [" 0 ", " 200 ", *row * 200, ""])
+
+    def test_a_gis_table_goes_out_to_both_programs(self):
+        done = self.run_batch("gis-export", "--arcview", "a.txt", sample("WIREWICK.GIS"))
+        self.assertEqual(done.stderr, "Done Creating ArcView Export File.\n")
+        lines = self.gis_lines("a.txt")
+        self.assertEqual(len(lines), 42)
+        self.assertEqual(lines[0], "MW-108,2930,1160,4.9,AR")
+        self.assertEqual(lines[8], "MW-109,2960,1205,16.6,CL")
+        done = self.run_batch("gis-export", "--evs", "e.txt", sample("WIREWICK.GIS"))
+        self.assertEqual(done.stderr, "Done Creating EVS Export File.\n")
+        self.assertEqual(self.gis_lines("e.txt")[:4],
+                         ["Easting/X   Northing/Y   Surf_Elev.   @@AR   @@CL   @@SP   @@GW   @@GT   @@SH   Boring",
+                          "-1", " 7   7", "2930   1160   415.8   4.9   15.2   32.2   35   X-35   X-35   MW-108"])
+
+    def test_a_gis_table_that_is_not_there_and_an_export_that_cannot_be_written_are_told(self):
+        done = self.run_batch("gis-export", "--evs", "e.txt", "none", status=1)
+        self.assertEqual(done.stderr, f"GIS File Not Found: {os.path.realpath(self.folder)}/none.gis\n")
+        done = self.run_batch("gis-export", "--evs", "none/e.txt", sample("WIREWICK.GIS"), status=1)
+        self.assertEqual(done.stderr, "Error 76 in ExportGIS2ArcView.  Please contact Norvane\n")
+        self.assertEqual(os.listdir(self.folder), ["tmp"])
 
     def test_the_guide_is_one_page_with_all_patterns(self):
         done = self.run_batch("guide", "--pdf", "g.pdf", "--png", "png", "--list", "g.jsonl")

@@ -8,6 +8,9 @@
 #include "canvas/screenview.h"
 #include "logrender/intropage.h"
 #include "logrender/vlog.h"
+#include "sections/crossrun.h"
+#include "sections/fencerun.h"
+#include "sections/soiltable.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"
@@ -36,19 +39,22 @@ void LayOutFolder(const std::string& folder)
         }
 }
 
-// The run that Preview makes of each boring, with this report choice of the batch dialog.
-static std::string DrawBorings(const std::string& folder, const std::vector<Text>& borings, int reportOption)
+// The run that Preview makes of each file, with this report choice of the batch dialog.
+static std::string DrawFiles(const std::string& folder, int16_t job, const std::vector<Text>& files, int reportOption)
 {
     LayOutFolder(folder);
     TintsInMemory = true;
     JobTable[2] = VLOG::vlogstart;
+    JobTable[4] = VCROSS::vcrossstart;
+    JobTable[6] = VCROSS::vfencestart;
+    JobTable[8] = VCROSS::vsoilstart;
     IntroPages = VLOG::vlogintrostart;
     std::string listing;
     Listings.clear();
-    for (const Text& boring : borings) {
-        jobCode = 2;
+    for (const Text& file : files) {
+        jobCode = job;
         singleFile = 1;
-        singleFileName = boring;
+        singleFileName = file;
         frmDrawPrint::Dialog = frmDrawPrint::Record();
         DrawPrintLoad();
         frmDrawPrint::Dialog.ReportOption = reportOption;
@@ -62,12 +68,17 @@ static std::string DrawBorings(const std::string& folder, const std::vector<Text
 
 std::string DrawLogs(const std::string& folder, const std::vector<Text>& borings)
 {
-    return DrawBorings(folder, borings, 0);
+    return DrawFiles(folder, 2, borings, 0);
 }
 
 std::string DrawIntro(const std::string& folder, const std::vector<Text>& borings, int arrangement)
 {
-    return DrawBorings(folder, borings, arrangement);
+    return DrawFiles(folder, 2, borings, arrangement);
+}
+
+std::string DrawSheets(const std::string& folder, int16_t job, const std::vector<Text>& files)
+{
+    return DrawFiles(folder, job, files, 0);
 }
 
 static std::vector<std::string> SplitLines(const std::string& text)

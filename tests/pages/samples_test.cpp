@@ -34,3 +34,18 @@ TEST_CASE("the intro pages of a sample boring with map and legend are the kept o
         CheckListing("samples/MW-108-intro" + std::to_string(arrangement), listing);
     }
 }
+
+TEST_CASE("the sample soil tables draw the kept pages, one with values and one with bars")
+{
+    const std::string folder = std::string(BUILD_DIR) + "/samples";
+    for (const Text& table : FilesIn(folder, ".SOI")) {
+        CAPTURE(table);
+        std::filesystem::remove_all(ScratchFolder());
+        std::filesystem::create_directories(ScratchFolder());
+        const std::string listing = DrawSheets(folder, 8, {table});
+        for (const PlainMessage& message : Messages)
+            FAIL_CHECK(message.words);
+        Messages.clear();
+        CheckListing("samples/" + table.substr(0, table.size() - 4) + "-soil", listing);
+    }
+}

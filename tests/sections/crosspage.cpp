@@ -113,5 +113,5 @@ Drawing DrawBorings(const SectionText& section)
     VCROSS::drawcrossframe();
     const size_t first = Objects();
     VCROSS::drawcrossborings();
-    return SectionDrawn(first + 6);
+    return SectionDrawn(first + 7);
 }

@@ -37,5 +37,5 @@ Drawing SectionDrawn(size_t skip = 0);
 Drawing SheetDrawn(size_t skip = 0); // the same from the corner of the sheet's frame
 size_t Objects();
 // A section of these borings read and its frame drawn; then drawcrossborings, and what that has drawn. The client block
-// in front is left out: it is 6 objects.
+// in front is left out: it is 7 objects.
 Drawing DrawBorings(const SectionText& section);

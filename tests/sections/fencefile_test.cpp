@@ -275,3 +275,19 @@ TEST_CASE("deleting a boring row moves the later ones up, and the panels mean ot
     CHECK(SS5.Cell(1, 1) == "2,3"); // as typed: row 3 is empty now
     CHECK(SavedAs("D.FEN") == FenceText({"2,2,B,,,", "3,3,C,,,"}, {"2,3"}, wholeTail));
 }
+
+TEST_CASE("the sample fences are opened, saved, opened and saved byte for byte")
+{
+    const std::vector<Text> fences = FilesIn(Text(SOURCE_DIR) + "/samples", ".FEN");
+    CHECK(fences.size() >= 3);
+    for (const Text& fence : fences) {
+        CAPTURE(fence);
+        const std::string bytes = ReadWholeFile(Text(SOURCE_DIR) + "/samples/" + fence);
+        Open(bytes);
+        FillFenceForm();
+        CHECK(SavedAs("B.FEN") == bytes);
+        OpenFenceFile();
+        FillFenceForm();
+        CHECK(SavedAs("C.FEN") == bytes);
+    }
+}

@@ -128,6 +128,11 @@ TEST_CASE("without layers a legend row is the letters behind the comma and its t
                   "text 3240,3960 8pt Peat"});
 }
 
+TEST_CASE("an empty legend row takes no room, with blanks in it neither")
+{
+    CHECK(LegendOf(WithLegend({" ; ", ",", "SM;Silty sand"}, "N"))[1] == "text 3060,3600 8pt SM");
+}
+
 TEST_CASE("of individual columns a legend row is the pattern, and letters and text behind it")
 {
     SetPatterns({27, 64});

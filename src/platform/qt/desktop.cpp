@@ -16,12 +16,12 @@
 #include "report/desitems.h"
 #include "report/fontprofile.h"
 #include "report/oldboring.h"
-#include "sections/crosstool.h"
-#include "sections/fencetool.h"
-#include "sections/soiltool.h"
-#include "sections/soiltable.h"
 #include "sections/crossrun.h"
+#include "sections/crosstool.h"
 #include "sections/fencerun.h"
+#include "sections/fencetool.h"
+#include "sections/soiltable.h"
+#include "sections/soiltool.h"
 #include "session/platform.h"
 #include "session/recovery.h"
 #include "session/session.h"
@@ -168,9 +168,9 @@ void UseDesktopPlatform()
 void FillJobTable()
 {
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
-    JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
     JobTable[3] = JobTable[4] = VCROSS::vcrossstart;
     JobTable[5] = JobTable[6] = VCROSS::vfencestart;
+    JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
     JobTable[9] = patternstart;
     IntroPages = VLOG::vlogintrostart;
 }

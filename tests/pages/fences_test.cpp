@@ -1,0 +1,23 @@
+// fences_test.cpp -- the golden pages of the sample fences.
+#include "pages/pages.h"
+
+#include "testing.h"
+
+#include "session/files.h"
+
+TEST_CASE("the sample fences draw the kept pages, object by object, and without a message")
+{
+    const std::string folder = std::string(BUILD_DIR) + "/samples";
+    const std::vector<Text> fences = FilesIn(folder, ".FEN");
+    CHECK(fences.size() == 3);
+    for (const Text& fence : fences) {
+        CAPTURE(fence);
+        std::filesystem::remove_all(ScratchFolder());
+        std::filesystem::create_directories(ScratchFolder());
+        const std::string listing = DrawSheets(folder, 6, {fence});
+        for (const PlainMessage& message : Messages)
+            FAIL_CHECK(message.words);
+        Messages.clear();
+        CheckListing("samples/" + fence.substr(0, fence.size() - 4), listing);
+    }
+}
