@@ -287,6 +287,18 @@ TEST_CASE("with a second label the compass stands a line higher")
     CHECK(DrawBorings(OneBoring("", "", "", "Inside|30|30", "Y"))[6] == "dot 600,283 6");
 }
 
+TEST_CASE("the direction of a hole without depth is a line of no length, drawn there and back")
+{
+    BoringText boring = SectionBoring("B-1", {{"10", "SM"}});
+    boring.OuterLayers = boring.InnerLayers = {};
+    WriteBoring("B-1.BOR", boring);
+    const Drawing drawing = DrawBorings(OneBoring("", "", "", "|90|60", "Y"));
+    CHECK(drawing[5] == "dot 600,367 6");
+    CHECK(drawing[6] == "line 600,367 600,367");
+    CHECK(drawing[7] == "line 600,367 600,367");
+    CHECK(Messages.empty());
+}
+
 TEST_CASE("half a degree is vertical, an azimuth alone is not")
 {
     WriteOne({{"10", "SM"}});
@@ -334,6 +346,13 @@ TEST_CASE("screens of an inclined column are hatched across it, a line each 0.05
     const Drawing drawing = From(DrawBorings(OneBoring("", "", "", "|90|60", "Y")), 18);
     CHECK(drawing == Drawing{"line 630,720 570,720", "line 630,750 570,750", "line 630,780 570,780",
                              "line 630,810 570,810", "line 630,840 570,840"});
+}
+
+TEST_CASE("a screen of more lines than a 16-bit number holds ends the borings as error 6")
+{
+    WriteOne({{"10", "SM"}}, {{"0", "40000", "Screen"}});
+    DrawBorings(OneBoring("", "", "", "|90|60", "Y"));
+    CHECK(OnlyMessage() == "Error 6 in drawcrossborings.  Please contact Norvane");
 }
 
 TEST_CASE("the water mark of an inclined column stands beside its right edge")
@@ -388,6 +407,26 @@ TEST_CASE("a boring that is missing draws none of the columns, and the counter o
     CHECK(OnlyMessage() == "Boring File Not Found: " + Scratch("NONE.bor"));
     CHECK(RunPages.pageIndex == 2);
     CHECK(CrossRun.layerCount[1] == 0);
+}
+
+TEST_CASE("behind a missing boring the water marks stand where the drawing before has left them")
+{
+    WriteOne();
+    DrawBorings(OneBoring("5"));
+    SectionText section = OneBoring("5");
+    section.Borings.push_back({"200", "NONE"});
+    DrawBorings(section);
+    const size_t first = Objects();
+    drawwaterlevels();
+    CHECK(SectionDrawn(first)[0] == "line 570,900 630,900");
+}
+
+TEST_CASE("a boring whose distance is off the sheet is drawn there all the same")
+{
+    WriteOne();
+    SectionText section = OneBoring();
+    section.Borings[0][0] = "2000";
+    CHECK(DrawBorings(section)[3] == "rectangle 11970,600 12030,1200");
 }
 
 TEST_CASE("a boring of an earlier form draws none of the columns")

@@ -105,6 +105,15 @@ TEST_CASE("boxes move with the width of the column")
     CHECK(Parameters(section)[2] == "rectangle 405,756 480,684");
 }
 
+TEST_CASE("a box off the sheet stands at the depth of the box before")
+{
+    WriteSamples({{"2", "12"}, {"500", "13"}});
+    const Drawing drawing = Parameters(OneBoring("P3"));
+    REQUIRE(drawing.size() == 8);
+    CHECK(drawing[2] == "rectangle 465,756 540,684");
+    CHECK(drawing[7] == "text 502,714 6pt  13  centred");
+}
+
 TEST_CASE("general values come from the cell of their number, in rows of either length")
 {
     for (const char* version : {"5.0", "5.0.12"}) {
