@@ -184,6 +184,7 @@ TEST_CASE("layer 101 is error 9")
     CHECK(FailureOfReading(boring.Bytes(), Layers) == 0);
     boring.Lith.assign(101, {"1", "SM"});
     CHECK(FailureOfReading(boring.Bytes(), Layers) == SubscriptOutOfRange);
+    CHECK(CrossRun.layerCount[1] == 101);
     CHECK(FailureOfReading(boring.Bytes(), Well) == 0);
     CHECK(FailureOfReading(boring.Bytes(), Fence) == SubscriptOutOfRange);
 }
