@@ -3,10 +3,12 @@
 
 #include "session/text.h"
 
-void OpenBoringFile2();                      // BoringFileName into BoringData, which has just been cleared
-void SaveBoringFile();                       // the boxes into BoringData, and that into BoringFileName, atomically
-void TakeBoringBoxes();                      // the boxes into BoringData as for a save, unchecked; failures by number
-void boringcheck();                          // warns about the scale; changes nothing and blocks nothing
+void OpenBoringFile2(); // BoringFileName into BoringData, which has just been cleared
+void SaveBoringFile();  // the boxes into BoringData, and that into BoringFileName, atomically
+void TakeBoringBoxes(); // the boxes into BoringData as for a save, unchecked; failures by number
+void boringcheck();     // warns about the scale; changes nothing and blocks nothing
+// The markers of the description in LineBuffer that are out of order or name no contact, each with its line.
+void CheckMarkers(int contacts, void (*tell)(const Text& words, int line));
 void WriteConvertedBoring(const Text& name); // BoringData as it is, no boxes and no checks
 
 // Readers of the forms before 5.0, by procedure: they are built above this folder. 0 OpenSV3, 1 OpenSV4, 2 OpenSV46.

@@ -104,6 +104,8 @@ static bool SaveFirst(const char* question)
     const int answer = MsgBox(question, YesNoCancel, Question);
     if (answer == Yes)
         frmBorinput::mnuSave();
+    if (answer == Yes && FileChanged == 1) // the user has thought better of the name, and the flow goes on all the same
+        OweCopy();
     if (answer == No)
         DropCopy();
     return answer != Cancel;
@@ -139,9 +141,13 @@ static void Open(Choose choose)
         return;
     choose();
     if (!DialogResult.empty()) {
+        // New may save, and with that choose another name.
+        const Text chosen = DialogResult;
+        const int16_t version = DialogMode;
         mnuNew();
         LeaveDocument();
-        BoringFileName = DialogResult;
+        BoringFileName = DialogResult = chosen;
+        DialogMode = version;
         FileChanged = 0;
         OpenBoringFile2();
         FillBoringForm();

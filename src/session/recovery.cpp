@@ -201,6 +201,13 @@ void SaveDocument(void (*save)())
         Remove(run.tool);
         return;
     }
+    OweCopy();
+}
+
+void OweCopy()
+{
+    if (run.tool == 0)
+        return;
     WriteCopy();
     run.copy[run.tool].owed = true;
 }
@@ -288,8 +295,8 @@ static bool Offer(const LeftCopy& left)
     const Text what = left.name.empty() ? "a new " + tool.Name + " file" : left.name;
     // The program may have ended at the end of a save, or another one may have saved it.
     const Text since = MarkOf(left.name) == left.mark ? "" : "  The file itself has been written since.";
-    const bool open = MsgBox("The program ended before " + what + " was saved.  A copy of " + left.time +
-                                 " was kept." + since + "  Would you like to open it?",
+    const bool open = MsgBox("The program ended before " + what + " was saved.  A copy of " + left.time + " was kept." +
+                                 since + "  Would you like to open it?",
                              YesNo, Question) == Yes;
     if (open) {
         tool.Open(JoinPath(run.folder, left.file), left.name);

@@ -37,6 +37,8 @@ void WatchTool(int tool);
 void KeepCopy();
 // A save of the tool in front. The copy goes if the file has been written, else it is made anew and stays.
 void SaveDocument(void (*save)());
+// The user wished to save and it did not come to it: the copy is made anew and stays, as after a save that failed.
+void OweCopy();
 // The user has dropped the changes: the answer No.
 void DropCopy();
 // Another document comes into the tool's boxes, or its window closes. The copy of a document whose save failed is left

@@ -195,3 +195,27 @@ TEST_CASE("a save that could not be written leaves the copy for the next start, 
     CHECK(BoringFileName == Scratch("no-such-folder/TC-101.BOR"));
     CHECK(FileChanged == 1);
 }
+
+TEST_CASE("a Yes that ends in a name not given leaves the copy for the next start, and the chosen file is opened")
+{
+    Start();
+    std::filesystem::copy_file(SOURCE_DIR "/samples/TC-103.BOR", Scratch("TC-103.BOR"));
+    frmBorinput::Text1 = "without a name";
+    FileChanged = 1;
+    // Asked by Open, No; asked by New, Yes; and then no name is given.
+    Platform.ShowChooser = [] {
+        DialogResult = DialogMode == 1 ? Scratch("TC-103.BOR") : Text();
+        DialogMode = DialogMode == 1 ? 2 : -1;
+    };
+    Answers = {No, Yes};
+    frmBorinput::mnuOpen();
+    CHECK(BoringFileName == Scratch("TC-103.BOR"));
+    CHECK(frmBorinput::Text1 == "TC-103");
+    CHECK(Messages.size() == 2);
+    CHECK(Copies() == 1);
+    EndRecovery();
+    Start();
+    Answers = {Yes};
+    OfferCopies();
+    CHECK(frmBorinput::Text1 == "without a name");
+}

@@ -121,7 +121,8 @@ TEST_CASE("the typist" * doctest::skip())
     }
 }
 
-TEST_CASE("the window killed in the middle of typing and of saving loses nothing older than the time between two copies")
+TEST_CASE(
+    "the window killed in the middle of typing and of saving loses nothing older than the time between two copies")
 {
     const int kills = std::getenv("STRATAVUE_SOAK") ? 200 : 4;
     const Text home = Scratch("home");
@@ -155,7 +156,8 @@ TEST_CASE("the window killed in the middle of typing and of saving loses nothing
         ::kill(child, SIGKILL);
         ::waitpid(child, &status, 0);
         CHECK(WIFSIGNALED(status)); // it has typed to the last
-        std::filesystem::remove_all(std::filesystem::temp_directory_path() / ("stratavue-test-" + std::to_string(child)));
+        std::filesystem::remove_all(std::filesystem::temp_directory_path() /
+                                    ("stratavue-test-" + std::to_string(child)));
     }
     CHECK(typed > 0);
     CHECK(told->offered > 0);

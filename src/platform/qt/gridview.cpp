@@ -7,6 +7,7 @@
 #include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QSettings>
 #include <QStyledItemDelegate>
 #include <algorithm>
@@ -247,10 +248,13 @@ void GridView::Refresh()
 void GridView::Fit()
 {
     fitting = true;
+    const int rows = grid.DataRowCount(); // asking for the width of each empty cell made the start slow
     for (int column = 0; column < model->columnCount({}); ++column) {
-        const int wanted = std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column)) + 8;
-        if (!widthSet[size_t(column)])
-            setColumnWidth(column, std::clamp(wanted, 62, 260));
+        if (widthSet[size_t(column)])
+            continue;
+        const int cells = rows > 0 ? sizeHintForColumn(column) : 0;
+        const int wanted = std::max(cells, horizontalHeader()->sectionSizeHint(column)) + 8;
+        setColumnWidth(column, std::clamp(wanted, 62, 260));
     }
     fitting = false;
 }
@@ -287,6 +291,18 @@ void GridView::FinishEdit()
     }
     model->TakeTyped();
     Done();
+}
+
+void GridView::AsTyped(void (*work)())
+{
+    const auto* box = qobject_cast<QLineEdit*>(indexWidget(currentIndex()));
+    if (!box)
+        return work();
+    const int row = currentIndex().row() + 1, column = currentIndex().column() + 1;
+    const Text before = grid.Cell(row, column);
+    grid.Cell(row, column) = FromUi(box->text());
+    work();
+    grid.Cell(row, column) = before;
 }
 
 // Enter, Tab and the arrows take what was typed and go on.
