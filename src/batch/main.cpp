@@ -73,7 +73,7 @@ static void Say(const Text& words)
 static int Box(const Text& words, Buttons buttons, Icon icon)
 {
     Say(words);
-    if (icon == Announcement || words.starts_with("Done ")) {
+    if (icon == Announcement) {
         --MessageCount;
         ++AnnouncementCount;
     }

@@ -909,7 +909,9 @@ void OpenInLogWindow(const Text& name)
 void EndProgram()
 {
     EndRecovery();
-    if (window)
+    if (window) {
         window->ending = true;
+        window->close(); // from another tool's Exit it is still there
+    }
     QApplication::quit();
 }

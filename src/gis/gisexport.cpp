@@ -22,7 +22,7 @@ try {
             out.Line(SSGISInfo.Cell(row, GisBoringName) + "," + SSGISInfo.Cell(row, GisX) + "," +
                      SSGISInfo.Cell(row, GisY) + "," + frmGIS::LayerCell(row, k) + "," + GisData.layerName[k]);
     out.Close();
-    MsgBox("Done Creating ArcView Export File.");
+    MsgBox("Done Creating ArcView Export File.", OkOnly, Announcement);
     return true;
 } catch (...) {
     ReportFailure(exportName);
@@ -50,7 +50,7 @@ try {
         out.Line(line + SSGISInfo.Cell(row, GisBoringName));
     }
     out.Close();
-    MsgBox("Done Creating EVS Export File.");
+    MsgBox("Done Creating EVS Export File.", OkOnly, Announcement);
     return true;
 } catch (...) {
     ReportFailure(exportName);

@@ -248,6 +248,7 @@ QWidget* ToolWindow::GridBox(const char* name, Grid& grid)
 {
     auto* view = new GridView(name, grid, this, QString("%1.%2").arg(tool.window, name));
     view->OnChange = [this] { Typed(); };
+    view->setMinimumWidth(grid.rowHeadings.size() > 1 ? 240 : 150); // with the page beside it cells stay in sight
     views.push_back(view);
     gridOf.push_back({view, &grid});
     view->installEventFilter(this);
