@@ -87,3 +87,55 @@ static void PageOfContacts(benchmark::State& state)
     state.SetComplexityN(contacts);
 }
 BENCHMARK(PageOfContacts)->Arg(10)->Arg(20)->Arg(40)->Arg(80)->Unit(benchmark::kMillisecond)->Complexity();
+
+// One page with a column of every kind, well diagram and data files included. Not a page that anybody would print: it
+// runs off the sheet.
+static void PageOfEveryColumn(benchmark::State& state)
+{
+    const Text catalogue = SOURCE_DIR "/tests/pages/columns";
+    WriteWholeFile("CONE.DAT", ReadWholeFile(JoinPath(catalogue, "CONE.DAT")), Durability::Scratch);
+    BoringData = BoringRecord();
+    DialogMode = -1;
+    BoringFileName = JoinPath(catalogue, "PAGE-1.BOR");
+    OpenBoringFile2();
+    static constexpr const char* Items[] = {"depth scale",
+                                            "elevation scale",
+                                            "formations",
+                                            "sample box-numbered",
+                                            "sample box-graphic",
+                                            "blow count",
+                                            "blow count graph",
+                                            "blow count graph-wide",
+                                            "lab number",
+                                            "graphic",
+                                            "USCS",
+                                            "descriptions",
+                                            "cuttings",
+                                            "cuttings-graph",
+                                            "remarks",
+                                            "well construction info",
+                                            "well diagram",
+                                            "well diagram-small",
+                                            "water level",
+                                            "P1",
+                                            "P1G",
+                                            "P12G",
+                                            "P34G",
+                                            "P1-4G",
+                                            "GP1",
+                                            "GP4",
+                                            "GPG1",
+                                            "GPG4",
+                                            "MPG1-2-3",
+                                            "MPG4-5"};
+    static_assert(std::size(Items) == MaxRepParts);
+    BoringData.RepPartCount = 0;
+    for (const char* item : Items) {
+        BoringData.RepParts[++BoringData.RepPartCount].Item = item;
+        BoringData.RepParts[BoringData.RepPartCount].Width = "1";
+    }
+    const Text boring = "bench-columns.BOR";
+    WriteConvertedBoring(boring);
+    DrawPages(state, boring);
+}
+BENCHMARK(PageOfEveryColumn)->Unit(benchmark::kMillisecond);

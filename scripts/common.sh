@@ -28,8 +28,10 @@ install_packages() {
     rm -f "$log"
 }
 
-BUILD_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev fonts-liberation fontconfig)
-CHECK_PACKAGES=(doctest-dev clang-format-14 python3-ezdxf librecad poppler-utils xvfb)
+BUILD_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev fonts-liberation fontconfig librsvg2-bin)
+CHECK_PACKAGES=(doctest-dev clang-format-14 python3-ezdxf librecad poppler-utils xvfb
+                appstream desktop-file-utils mandoc shared-mime-info)
+PACKAGE_PACKAGES=(dpkg-dev file lintian)
 BENCH_PACKAGES=(libbenchmark-dev)
 
 # build FOLDER [cmake options]: configures once, builds what changed. Quiet unless something is wrong.

@@ -12,7 +12,12 @@
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "convert/gtgsgeneditor.h"
+#include "convert/gtgsgeneral.h"
+#include "convert/winlog.h"
 #include "editors/borinput.h"
+#include "gis/gisfile.h"
+#include "gis/gistool.h"
 #include "logrender/logdata.h"
 #include "report/desitems.h"
 #include "report/fontprofile.h"
@@ -24,14 +29,21 @@
 #include "report/prompts.h"
 #include "sections/crossfile.h"
 #include "sections/crossrun.h"
+#include "sections/crosstool.h"
 #include "sections/fencefile.h"
+#include "sections/fencetool.h"
 #include "sections/layershapes.h"
+#include "sections/soilfile.h"
+#include "sections/soiltable.h"
+#include "sections/soiltool.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
+#include "session/recovery.h"
 #include "session/session.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <unistd.h>
 
@@ -111,6 +123,27 @@ static void EmptyBoxes()
     Option = 0;
 }
 
+// The other tools as they are before one is opened.
+static void EmptyTools()
+{
+    SoilData = SoilRecord();
+    ClearGISForm();
+    frmGIS::File1 = {};
+    boringSummary = {};
+    boringLithology = {};
+    for (ToolRecord* tool : {&CrossForm, &FenceForm, &SoilForm, &GisForm}) {
+        tool->FileName = tool->Title = "";
+        tool->active = nullptr;
+        tool->ShowForm = nullptr;
+        tool->Unload = nullptr;
+        for (Grid* grid : tool->grids) {
+            *grid = Grid(grid->maxRows > 0 ? grid->minRows : grid->rows, grid->columns);
+            grid->title.clear();
+        }
+    }
+    NextTool = Tool::Log;
+}
+
 namespace
 {
 // Between two tests: nothing of the one before is left in the records or on the disk.
@@ -120,6 +153,9 @@ struct Fresh : doctest::IReporter {
     }
     void test_case_start(const doctest::TestCaseData&) override
     {
+        EndRecovery();
+        RecoveryTools = {};
+        RecoveryInterval = 60000;
         std::filesystem::remove_all(scratch);
         std::filesystem::create_directories(scratch);
         UsePlainPlatform();
@@ -144,6 +180,7 @@ struct Fresh : doctest::IReporter {
         for (Grid* grid : {&frmCross::SS2, &frmCross::SS3, &frmCross::SS4})
             *grid = Grid(grid->rows, grid->columns);
         VCROSS::ResetCrossRun();
+        EmptyTools();
         FenceData = FenceRecord();
         frmFence::FileName = "";
         for (Grid* grid : {&frmFence::SS1, &frmFence::SS2, &frmFence::SS3, &frmFence::SS4, &frmFence::SS5})
@@ -176,8 +213,25 @@ struct Fresh : doctest::IReporter {
         LogBoring = LogBoringRecord();
         LogGeometry = LogGeometryRecord();
         VCROSS::LayerFill = VCROSS::LayerFillRecord();
+        VCROSS::SoilRun = VCROSS::SoilRunRecord();
+        SoilData = SoilRecord();
+        frmSoil::FileName = "";
+        frmSoil::SS1 = Grid(MaxSoilCells, 1);
+        ClearGISArrays();
+        boringSummary = {};
+        boringLithology = {};
+        frmGIS::SSGISLayers = Grid(MaxGisLayers, 2);
+        frmGIS::SSGISInfo = Grid(MaxGisBorings, GisColumns);
+        frmGIS::SSBoringData = Grid(MaxLith, 2);
+        frmGIS::Title = frmGIS::FileName = "";
+        frmGIS::File1 = {};
         ForgetPatterns();
         TintsInMemory = false;
+        WinLogTemplate = "";
+        GtgsMapping = GtgsMappingRecord();
+        frmGTGSGenEditor::Dialog = frmGTGSGenEditor::Record();
+        frmGTGSGenEditor::SS1.Clear();
+        frmGTGSGenEditor::SS2.Clear();
         jobCode = runFileCount = singleFile = introType = dialogBusy = stopRequested = 0;
         progressValue = progressTotal = 0;
         runFiles = {};
@@ -228,6 +282,9 @@ REGISTER_LISTENER("fresh", 1, Fresh);
 int main(int argc, char** argv)
 {
     scratch = std::filesystem::temp_directory_path().string() + "/stratavue-test-" + std::to_string(::getpid());
+    // Pictures of windows show it, and shall not change with the number of a process.
+    if (const char* name = std::getenv("STRATAVUE_SCRATCH"))
+        scratch = name;
     doctest::Context context(argc, argv);
     return context.run();
 }

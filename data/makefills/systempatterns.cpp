@@ -38,8 +38,8 @@ static void Grout(Tile& tile)
 // Bentonite.
 static void Seal(Tile& tile)
 {
-    Hatch(tile, 10, 1, 5, 1.5);
-    Hatch(tile, 10, -1, 5, 1.5);
+    Hatch(tile, 8, 1, 4, 1.5);
+    Hatch(tile, 8, -1, 4, 1.5);
 }
 
 static void FilterPackFine(Tile& tile)

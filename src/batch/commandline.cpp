@@ -16,7 +16,22 @@ static constexpr BatchJob Jobs[] = {
     {"intro", 2, 1, IntroOptions, "FILE.BOR...", "the intro pages of saved borings, one each"},
     {"section", 4, 0, LogOptions, "FILE.CRO...", "cross sections, a page each"},
     {"fence", 6, 0, LogOptions, "FILE.FEN...", "fence diagrams, a page each"},
+    {"soil", 8, 0, LogOptions, "FILE.SOI...", "the soil analysis tables of saved definitions"},
     {"guide", 9, 0, SheetOptions, "", "the Fill Pattern Guide"},
+    {"gis-add", 0, 0, "", "FILE.BOR...", "adds borings to the table of a GIS file, which is made if it is not there",
+     BatchWork::AddsToGis, "--gis FILE"},
+    {"gis-export", 0, 0, "", "FILE.GIS", "writes the table of a GIS file for another program", BatchWork::ExportsGis,
+     "--arcview OUT | --evs OUT"},
+    {"convert-txt", 0, 0, "--home DIR", "DIR",
+     "converts the GTGS text tables of a folder, a boring file for each boring", BatchWork::ConvertsTables},
+    {"convert-general", 0, 0, "--name NAME;--home DIR;--project DIR", "[DIR]",
+     "converts one boring of GTGS text tables by a map", BatchWork::ConvertsByMap, "--map FILE.GCV"},
+    {"convert-prt", 11, 0, "--home DIR", "FILE.PRT...", "converts GTGS print files, each to a boring file beside it",
+     BatchWork::Converts},
+    {"convert-log", 12, 0, "--template FILE.BOR;--home DIR", "FILE.LOG...",
+     "converts WinLog files, each to a boring file beside it", BatchWork::Converts},
+    {"export-irpims", 10, 0, "--home DIR", "FILE.BOR...", "writes the three IRPIMS tables of saved borings",
+     BatchWork::Converts, "--out DIR"},
 };
 
 static constexpr int SmallestDpi = 10, LargestDpi = 1200;
@@ -41,13 +56,38 @@ static constexpr Option Options[] = {
     {"--dpi", nullptr, false},
     {"--dxf", &CommandLine::Dxf, true},
     {"--list", &CommandLine::List, true},
+    {"--gis", &CommandLine::Gis, true},
+    {"--arcview", &CommandLine::ArcView, true},
+    {"--evs", &CommandLine::Evs, true},
+    {"--map", &CommandLine::Map, true},
+    {"--template", &CommandLine::Template, true},
+    {"--out", &CommandLine::Out, true},
+    {"--name", &CommandLine::Name, false},
 };
+
+// Whether the option stands in a list of them.
+static bool Lists(std::string_view options, std::string_view option)
+{
+    const size_t at = options.find(std::string(option) + " ");
+    return at != std::string_view::npos && (at == 0 || options[at - 1] == ';' || options[at - 1] == ' ');
+}
 
 static bool Knows(const BatchJob& job, std::string_view option)
 {
-    const std::string_view options = job.Options;
-    const size_t at = options.find(std::string(option) + " ");
-    return at != std::string_view::npos && (at == 0 || options[at - 1] == ';');
+    return Lists(job.Options, option) || Lists(job.Needs, option);
+}
+
+// What is wrong with the options that the job cannot do without; "" for nothing.
+static std::string MissingOption(const CommandLine& line)
+{
+    const BatchJob& job = *line.Job;
+    if (!*job.Needs)
+        return "";
+    int given = 0;
+    for (const Option& option : Options)
+        if (option.text && Lists(job.Needs, option.name) && !(line.*option.text).empty())
+            ++given;
+    return given == 1 ? "" : std::string(job.Name) + " takes " + job.Needs;
 }
 
 static bool IsNumber(const std::string& word)
@@ -118,10 +158,15 @@ CommandLine ReadCommandLine(const std::vector<std::string>& words)
             line.Files.push_back(FullPath(FromUtf8(word)));
     }
     const bool takesFiles = *job->Files != '\0';
-    if (line.Wrong.empty() && takesFiles && line.Files.empty())
-        line.Wrong = std::string("no file given for ") + job->Name;
+    const char* const what = std::string_view(job->Files).find("DIR") == std::string_view::npos ? "file" : "folder";
+    if (line.Wrong.empty() && takesFiles && *job->Files != '[' && line.Files.empty())
+        line.Wrong = std::string("no ") + what + " given for " + job->Name;
     if (line.Wrong.empty() && !takesFiles && !line.Files.empty())
         line.Wrong = std::string(job->Name) + " takes no file";
+    if (line.Wrong.empty())
+        line.Wrong = MissingOption(line);
+    if (line.Wrong.empty() && takesFiles && !std::string_view(job->Files).ends_with("...") && line.Files.size() > 1)
+        line.Wrong = std::string(job->Name) + " takes one " + what;
     if (line.Wrong.empty() && dpiGiven && line.Png.empty())
         line.Wrong = "--dpi goes with --png";
     if (!line.Wrong.empty())
@@ -134,7 +179,9 @@ std::string UsageText()
     std::string text = "Usage:\n";
     for (const BatchJob& job : Jobs) {
         text += std::string("  stratavue-batch ") + job.Name;
-        std::string options = job.Options;
+        if (*job.Needs)
+            text += std::string(" ") + job.Needs;
+        const std::string options = job.Options;
         for (size_t at = 0; at < options.size();) {
             const size_t end = std::min(options.find(';', at), options.size());
             const std::string option = options.substr(at, end - at);
@@ -150,19 +197,29 @@ std::string UsageText()
     }
     text += "Jobs:\n";
     for (const BatchJob& job : Jobs)
-        text += std::string("  ") + job.Name + std::string(15 - std::string_view(job.Name).size(), ' ') + "draws " +
-                job.ThatDraws + "\n";
-    text += "Options:\n"
-            "  --type 1|2     the arrangement of the intro pages (1)\n"
-            "  --home DIR     the working folder, with the set-up and the stock files (the program's own folder)\n"
-            "  --project DIR  the project folder (the folder of the first file)\n"
-            "  --page N       only page N of each boring; any other job's page is a single one\n"
-            "  --date TEXT    the text of the date line (today)\n"
-            "  --pdf FILE     all pages as one PDF\n"
-            "  --png DIR      each page as a picture, --dpi N dots to the inch (150)\n"
-            "  --dxf DIR      each page as a drawing\n"
-            "  --list FILE    the objects of all pages as lines of text\n"
-            "Messages go to standard error, one line each. The exit status is 0 when every page was drawn and no\n"
-            "message appeared, 1 when one appeared, and 2 for a wrong command line.\n";
+        text += std::string("  ") + job.Name + std::string(17 - std::string_view(job.Name).size(), ' ') +
+                (job.Work == BatchWork::Draws ? "draws " : "") + job.ThatDraws + "\n";
+    text +=
+        "Options:\n"
+        "  --type 1|2     the arrangement of the intro pages (1)\n"
+        "  --home DIR     the working folder, with the set-up and the stock files (the\n"
+        "                 program's own folder; that of an installed program is Stratavue\n"
+        "                 in the user's data folder)\n"
+        "  --project DIR  the project folder (the folder of the first file)\n"
+        "  --page N       only page N of each boring; any other job's page is a single one\n"
+        "  --date TEXT    the text of the date line (today)\n"
+        "  --pdf FILE     all pages as one PDF\n"
+        "  --png DIR      each page as a picture, --dpi N dots to the inch (150)\n"
+        "  --dxf DIR      each page as a drawing\n"
+        "  --list FILE    the objects of all pages as lines of text\n"
+        "  --gis FILE     the table that borings are added to\n"
+        "  --arcview OUT  the table as ArcView reads it\n"
+        "  --evs OUT      the table as EVS reads it\n"
+        "  --map FILE     how the tables are converted, as the editor of the general conversion has saved it\n"
+        "  --name NAME    the new boring file, in the folder of the tables (the boring's own name)\n"
+        "  --template FILE the boring that gives prompts, report parts, layout and set-ups\n"
+        "  --out DIR      the folder of the tables that are written\n"
+        "Messages go to standard error, one line each. The exit status is 0 when all was done and no message but one\n"
+        "that says so appeared, 1 when another appeared, and 2 for a wrong command line.\n";
     return text;
 }

@@ -5,13 +5,17 @@
 
 #include <vector>
 
+enum class BatchWork { Draws, Converts, ConvertsTables, ConvertsByMap, AddsToGis, ExportsGis };
+
 struct BatchJob {
     const char* Name;      // the first word of the command line
     int16_t JobCode;       // the job of the batch dialog that it runs
     int16_t ReportOption;  // the dialog's report choice; intro pages have two, told by --type
     const char* Options;   // the options that it knows, in the order of its usage line
-    const char* Files;     // what it takes besides, for the usage line; "" for none
+    const char* Files;     // what it takes besides, for the usage line; "" for none, "[...]" for one or none
     const char* ThatDraws; // its line of the help
+    BatchWork Work = BatchWork::Draws;
+    const char* Needs = ""; // what it cannot do without: one of these options, as its usage line has them
 };
 
 struct CommandLine {
@@ -19,7 +23,10 @@ struct CommandLine {
     bool Help = false;
     std::string Wrong;                       // what is wrong with it; empty when nothing is
     Text Home, Project, Pdf, Png, Dxf, List; // full paths; empty when not given
-    int16_t ReportOption = 0;                // the job's own, or what --type says
+    Text Gis, ArcView, Evs;                  // likewise
+    Text Map, Template, Out;                 // likewise
+    Text Name;
+    int16_t ReportOption = 0; // the job's own, or what --type says
     Text Page, Date;
     bool DateGiven = false;
     int Dpi = 150;

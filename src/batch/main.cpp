@@ -6,6 +6,12 @@
 #include "canvas/pagelisting.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "convert/gtgsgeneral.h"
+#include "convert/gtgsprt.h"
+#include "convert/gtgstext.h"
+#include "convert/irpims.h"
+#include "convert/winlog.h"
+#include "gis/gisfile.h"
 #include "logrender/intropage.h"
 #include "logrender/vlog.h"
 #include "platform/qt/headless.h"
@@ -14,11 +20,13 @@
 #include "platform/qt/pngpages.h"
 #include "sections/crossrun.h"
 #include "sections/fencerun.h"
+#include "sections/soiltable.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/stockfiles.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -34,7 +42,8 @@
 enum ExitStatus { AllDrawn = 0, MessageAppeared = 1, WrongCommandLine = 2 };
 
 static CommandLine Asked;
-static int MessageCount = 0;
+static int MessageCount = 0; // but for announcements
+static int AnnouncementCount = 0;
 static int PageCount = 0;           // pages drawn in this run
 static Text PageName;               // "B-1-2": names the files of the page in hand
 static std::map<Text, int> PagesOf; // pages drawn of each base name
@@ -60,10 +69,14 @@ static void Say(const Text& words)
     std::fprintf(stderr, "%s\n", ToUtf8(line).c_str());
 }
 
-// Nobody answers: the answer that loses nothing.
-static int Box(const Text& words, Buttons buttons, Icon)
+// Nobody answers: the answer that loses nothing. That all is done is told too, but does not count.
+static int Box(const Text& words, Buttons buttons, Icon icon)
 {
     Say(words);
+    if (icon == Announcement) {
+        --MessageCount;
+        ++AnnouncementCount;
+    }
     switch (buttons) {
     case OkOnly:
         return Ok;
@@ -176,6 +189,12 @@ static void ShowPage()
     NextPage();
 }
 
+static Text ExecutableFolder()
+{
+    std::error_code ignored;
+    return FromUtf8(std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path().string());
+}
+
 static void FillPlatform()
 {
     Platform.MsgBox = Box;
@@ -198,6 +217,8 @@ static void FillPlatform()
     Platform.SetClipboardText = [](const Text&) {};
     Platform.Notice = Say;
     Platform.Breathe = [] {};
+    Platform.ExecutableFolder = ExecutableFolder;
+    Platform.DataFolder = UserDataFolder;
     Platform.ShortDate = [] { return Asked.DateGiven ? Asked.Date : ShortDateOfLocale(); };
     Platform.Unattended = true;
 }
@@ -207,7 +228,11 @@ static void FillJobTable()
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
     JobTable[3] = JobTable[4] = VCROSS::vcrossstart;
     JobTable[5] = JobTable[6] = VCROSS::vfencestart;
+    JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
     JobTable[9] = patternstart;
+    JobTable[10] = Export2IRPIMS;
+    JobTable[11] = ConvertGTGS2BOR;
+    JobTable[12] = ConvertWinLog;
     IntroPages = VLOG::vlogintrostart;
 }
 
@@ -236,12 +261,6 @@ struct PrivateFolder {
 };
 } // namespace
 
-static Text ExecutableFolder()
-{
-    std::error_code ignored;
-    return FromUtf8(std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path().string());
-}
-
 // The folder of an option, made if it is not there.
 static void OutputFolder(const Text& folder)
 {
@@ -255,24 +274,26 @@ static void OutputFolder(const Text& folder)
 
 // What the batch dialog would hold: the files, all marked, and the report choice. The files may lie in several
 // folders, so the folder of the dialog is empty and its list has their full paths.
-static void FillDialog()
+static void FillDialog(const std::vector<Text>& files)
 {
     jobCode = Asked.Job->JobCode;
     singleFile = 1; // no folder is listed
     singleFileName = "";
     DrawPrintLoad();
-    if (!Asked.Files.empty())
+    if (!files.empty())
         singleFile = 0;
     frmDrawPrint::Record& dialog = frmDrawPrint::Dialog;
     dialog.Dir1 = "";
-    dialog.FileCount = int(Asked.Files.size());
+    dialog.FileCount = int(files.size());
     for (int i = 1; i <= dialog.FileCount; ++i) {
-        dialog.File1[i] = Asked.Files[size_t(i - 1)];
+        dialog.File1[i] = files[size_t(i - 1)];
         dialog.Selected[i] = true;
     }
     dialog.ReportOption = Asked.ReportOption;
     dialog.AllPages = Asked.Page.empty();
     dialog.Text1 = Asked.Page;
+    if (!Asked.Out.empty())
+        lastDir = Asked.Out;
 }
 
 // Where the set-up names no folders of its own: a project that brings its layouts along is drawn with them, and a home
@@ -286,29 +307,128 @@ static void FindStockFiles()
                 layouts = ProjectPath;
     Text& fills = DeviceConfig.SystemFiles[FillFolder];
     if (fills == JoinPath(WorkingFolder, "fills/") && FilesIn(fills, ".bmp").empty())
-        fills = JoinPath(ExecutableFolder(), "fills/");
+        fills = JoinPath(StockFolder(), "fills/");
+}
+
+// The working folder where none is asked for: the desktop program's. A user of an installed program who has never
+// started that one is served from the stock files themselves.
+static Text Home()
+{
+    const Text home = HomeFolder();
+    return FileExists(JoinPath(home, "stock.lst")) || !Installed() ? home : StockFolder();
+}
+
+// Without "." and ".." among its folders: a converted boring is named by what stands before the first dot of the path.
+static Text WithoutDotFolders(const Text& file)
+{
+    const std::filesystem::path path = NativePath(file);
+    std::error_code ignored;
+    const std::filesystem::path folder = std::filesystem::canonical(path.parent_path(), ignored);
+    const std::string text = path.string();
+    if (folder.empty() || (text.find("/./") == std::string::npos && text.find("/../") == std::string::npos))
+        return file;
+    return FromUtf8((folder / path.filename()).string());
+}
+
+// The conversions that make a boring of each file take any number of files, as many at a time as the dialog does. One
+// that ends without saying that all are converted has failed, and the run ends.
+static void RunOnFiles()
+{
+    std::vector<Text> files = Asked.Files;
+    const bool each = Asked.Job->Work == BatchWork::Converts && Asked.Out.empty();
+    if (each)
+        for (Text& file : files)
+            file = WithoutDotFolders(file);
+    while (each && files.size() > MaxRunFiles) {
+        const int announced = AnnouncementCount;
+        FillDialog({files.begin(), files.begin() + MaxRunFiles});
+        DrawPrintOk();
+        if (AnnouncementCount == announced)
+            return;
+        files.erase(files.begin(), files.begin() + MaxRunFiles);
+    }
+    FillDialog(files);
+    DrawPrintOk();
+}
+
+// The working folder and its set-up, and the project folder: that of the command line, else the one that is given.
+static void SetFolders(const Text& project)
+{
+    WorkingFolder = Asked.Home.empty() ? Home() : Asked.Home;
+    LoadDevice();
+    if (!Asked.Project.empty())
+        ProjectPath = Asked.Project;
+    else if (!project.empty())
+        ProjectPath = project;
 }
 
 // Runs the job. The listing grows in a temporary file and takes its place when it is whole.
 static void RunJob()
 {
     const PrivateFolder privateFolder;
-    WorkingFolder = Asked.Home.empty() ? ExecutableFolder() : Asked.Home;
     TintsInMemory = true;
-    LoadDevice();
-    if (!Asked.Project.empty())
-        ProjectPath = Asked.Project;
-    else if (!Asked.Files.empty())
-        ProjectPath = FolderName(Asked.Files.front());
+    SetFolders(Asked.Files.empty() ? Text() : FolderName(Asked.Files.front()));
     FindStockFiles();
     OutputFolder(Asked.Png);
     OutputFolder(Asked.Dxf);
+    OutputFolder(Asked.Out);
     OpenListing();
     FillJobTable();
-    FillDialog();
-    DrawPrintOk();
+    WinLogTemplate = Asked.Template;
+    RunOnFiles();
     ClosePdf();
     CloseListing();
+}
+
+static void ConvertTables()
+{
+    SetFolders(Asked.Files.front());
+    lastDir = Asked.Files.front();
+    ConvertGTGSText();
+}
+
+static void ConvertByMap()
+{
+    SetFolders(Asked.Files.empty() ? FolderName(Asked.Map) : Asked.Files.front());
+    OpenGTGSConversionFile(Asked.Map);
+    if (MessageCount != 0)
+        return;
+    if (!Asked.Files.empty())
+        GtgsMapping.textPath = Asked.Files.front();
+    ConvertGTGSGeneral(Asked.Name.empty() ? NameFromHeaders : NewBoringFile(Asked.Name));
+}
+
+// The table of a GIS file into the workbench's grids. False: it could not be read whole.
+static bool OpenTable(const Text& file)
+{
+    RunPages.pageFile = file;
+    OpenGISFile(file);
+    FillGISForm();
+    return MessageCount == 0;
+}
+
+// A table that cannot be read is left as it is; a boring that cannot be read has its row with its name alone.
+static void AddToGis()
+{
+    const Text table = HasEnding(Asked.Gis) ? Asked.Gis : Asked.Gis + ".GIS";
+    ClearGISForm();
+    if (FileExists(table) && !OpenTable(table))
+        return;
+    for (const Text& boring : Asked.Files) {
+        RunPages.pageFile = boring;
+        frmGIS::AddBoring(boring, BaseName(boring));
+    }
+    SaveGISFile(table);
+}
+
+static void ExportGis()
+{
+    if (!OpenTable(Asked.Files.front()))
+        return;
+    if (!Asked.ArcView.empty())
+        ExportGIS2ArcView(Asked.ArcView);
+    else
+        ExportGIS2EVS(Asked.Evs);
 }
 
 int main(int argc, char** argv)
@@ -324,7 +444,24 @@ int main(int argc, char** argv)
     }
     FillPlatform();
     try {
-        RunJob();
+        switch (Asked.Job->Work) {
+        case BatchWork::Draws:
+        case BatchWork::Converts:
+            RunJob();
+            break;
+        case BatchWork::ConvertsTables:
+            ConvertTables();
+            break;
+        case BatchWork::ConvertsByMap:
+            ConvertByMap();
+            break;
+        case BatchWork::AddsToGis:
+            AddToGis();
+            break;
+        case BatchWork::ExportsGis:
+            ExportGis();
+            break;
+        }
     } catch (...) {
         Say("Run-time error" + NumberText(FailureInHand()));
     }

@@ -30,6 +30,13 @@ inline int ReadCount(LineReader& in, int32_t& count, int bound)
     return told;
 }
 
+// A block that is passed over, so many lines a row. It has no bound.
+inline void SkipBlock(LineReader& in, int linesOfRow)
+{
+    for (int rows = in.Count(); rows > 0; --rows)
+        in.Skip(linesOfRow);
+}
+
 template <int Rows>
 void ReadBlock(LineReader& in, Slots<Text, Rows>& lines, int32_t& count)
 {

@@ -143,9 +143,9 @@ static void WriteLineBlock(LineWriter& out, const Slots<Text, Rows>& lines, int 
 }
 
 // BoringData as it is, in the newest form, to the file; Style and Draft by their texts.
-static void WriteBoring(const Text& name, const Text& style, const Text& draft)
+void WriteBoring(const Text& name, const Text& style, const Text& draft, Durability durability)
 {
-    LineWriter out(name);
+    LineWriter out(name, durability);
     out.Line("5.0.12");
     out.Line(Trim(BoringData.Name));
     out.Line(Trim(BoringData.MapFile));
@@ -233,7 +233,7 @@ static bool TooManyLines(const char* what, int bound)
 }
 
 // "@" lines have to be numbered 1, 2, ...; the first that is missing is told, and the scan goes on from the one found.
-static void CheckMarkerOrder()
+static void CheckMarkerOrder(void (*tell)(const Text& words, int line))
 {
     double last = 0;
     for (int i = 1; i <= LineCount; ++i) {
@@ -241,28 +241,32 @@ static void CheckMarkerOrder()
             continue;
         const double k = TextNumber(LineBuffer[i].substr(1));
         if (k != last + 1)
-            MsgBox(
-                "In the description text box, the @" + PlainNumber(last + 1) +
-                    " marker is missing.  The @ markers used to place descriptions must be entered in order starting "
-                    "with @1.  Enter a marker as a place holder, even if you have no text for a contact box. ",
-                OkOnly, Exclamation);
+            tell("In the description text box, the @" + PlainNumber(last + 1) +
+                     " marker is missing.  The @ markers used to place descriptions must be entered in order starting "
+                     "with @1.  Enter a marker as a place holder, even if you have no text for a contact box. ",
+                 i);
         last = k;
     }
 }
 
-static void CheckMarkerBounds()
+static void CheckMarkerBounds(int contacts, void (*tell)(const Text& words, int line))
 {
     for (int i = 1; i <= LineCount; ++i) {
         if (!LineBuffer[i].starts_with('@'))
             continue;
         // Kept: one digit only, so "@12" counts as contact box 1.
-        if (TextNumber(LineBuffer[i].substr(1, 1)) > BoringData.LithCount)
-            MsgBox("Warning: In your description text, you have entered a reference to a contact box, " +
-                       LineBuffer[i] +
-                       ", that does not exist.  Remember that ''@'' plus a number is used to place text at the top of "
-                       "a contact box, and ''-'' plus a number is used to place text at a depth.",
-                   OkOnly, Exclamation);
+        if (TextNumber(LineBuffer[i].substr(1, 1)) > contacts)
+            tell("Warning: In your description text, you have entered a reference to a contact box, " + LineBuffer[i] +
+                     ", that does not exist.  Remember that ''@'' plus a number is used to place text at the top of "
+                     "a contact box, and ''-'' plus a number is used to place text at a depth.",
+                 i);
     }
+}
+
+void CheckMarkers(int contacts, void (*tell)(const Text& words, int line))
+{
+    CheckMarkerOrder(tell);
+    CheckMarkerBounds(contacts, tell);
 }
 
 static void TakeBottNotes(bool checked)
@@ -300,10 +304,8 @@ static bool TakeBoxes(bool checked)
     // Text2Wrap32 hands over no more than there is room for; a breaker that did would be caught here.
     if (checked && TooManyLines("descriptions", MaxDes))
         return false;
-    if (checked) {
-        CheckMarkerOrder();
-        CheckMarkerBounds();
-    }
+    if (checked)
+        CheckMarkers(BoringData.LithCount, [](const Text& words, int) { MsgBox(words, OkOnly, Exclamation); });
     TakeLineBuffer(BoringData.Des, BoringData.DesCount);
     TakeList(BoringData.Params, BoringData.ParamCount, frmBorinput::SSPar);
     TakeColumn(BoringData.GenWell, frmBorinput::SSGenWellInfo);

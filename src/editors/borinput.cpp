@@ -17,6 +17,7 @@
 #include "session/files.h"
 #include "session/gridedit.h"
 #include "session/platform.h"
+#include "session/recovery.h"
 #include "session/session.h"
 
 frmBorinput::CommandTable frmBorinput::Commands;
@@ -103,6 +104,10 @@ static bool SaveFirst(const char* question)
     const int answer = MsgBox(question, YesNoCancel, Question);
     if (answer == Yes)
         frmBorinput::mnuSave();
+    if (answer == Yes && FileChanged == 1) // the user has thought better of the name, and the flow goes on all the same
+        OweCopy();
+    if (answer == No)
+        DropCopy();
     return answer != Cancel;
 }
 
@@ -118,6 +123,7 @@ void frmBorinput::mnuNew()
 {
     if (!SaveFirst("Would you like to save the current file before starting a new file?"))
         return;
+    LeaveDocument();
     ClearBoringForm();
     if (DeviceConfig.FontName != "Arial")
         AssignFont();
@@ -135,14 +141,20 @@ static void Open(Choose choose)
         return;
     choose();
     if (!DialogResult.empty()) {
+        // New may save, and with that choose another name.
+        const Text chosen = DialogResult;
+        const int16_t version = DialogMode;
         mnuNew();
-        BoringFileName = DialogResult;
+        LeaveDocument();
+        BoringFileName = DialogResult = chosen;
+        DialogMode = version;
         FileChanged = 0;
         OpenBoringFile2();
         FillBoringForm();
         ForgetAll();
     }
     FileChanged = 0; // Kept: also when the chooser was cancelled
+    KeepCopy();      // what was dropped by a No, and kept again while the chooser was up
 }
 
 void frmBorinput::mnuOpen()
@@ -168,7 +180,7 @@ void frmBorinput::mnuSave()
         return;
     }
     boringcheck();
-    SaveBoringFile();
+    SaveDocument(SaveBoringFile);
     FileChanged = 0; // Kept: also when the save was refused
 }
 
@@ -186,7 +198,7 @@ void frmBorinput::mnuSaveAs()
         return;
     boringcheck();
     BoringFileName = name;
-    SaveBoringFile();
+    SaveDocument(SaveBoringFile);
     FileChanged = 0; // Kept: also when the save was refused
     Title = BoringFileName + " - " + ToolTitle;
 }
@@ -275,9 +287,39 @@ void frmBorinput::mnuHelp()
     Platform.ShowHelp();
 }
 
+static const char* const quitting = "Would you like to save the current file before quitting?";
+
+static void HandOver(Tool tool)
+{
+    if (!SaveFirst(quitting))
+        return;
+    FileChanged = 0; // Kept: after a No too, though the boring that stays in the boxes is still the changed one
+    Platform.ShowTool(tool);
+}
+
+void frmBorinput::mnuvcross()
+{
+    HandOver(Tool::Cross);
+}
+
+void frmBorinput::mnuvfence()
+{
+    HandOver(Tool::Fence);
+}
+
+void frmBorinput::mnuvsoil()
+{
+    HandOver(Tool::Soil);
+}
+
+void frmBorinput::mnuvGIS()
+{
+    HandOver(Tool::GIS);
+}
+
 bool frmBorinput::mnuExit()
 {
-    if (!SaveFirst("Would you like to save the current file before quitting?"))
+    if (!SaveFirst(quitting))
         return false;
     FileChanged = 0;
     if (DeviceChanged == 1)

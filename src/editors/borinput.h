@@ -44,6 +44,11 @@ void mnuPreview();
 void mnuBatchDraw();
 void mnuPrint();
 void mnuPrintSetup();
+// Hand-over to another tool, which opens on top.
+void mnuvcross();
+void mnuvfence();
+void mnuvsoil();
+void mnuvGIS();
 bool mnuExit(); // also at the closing of the window; false: the user stays
 // Edit, by ActiveBox: the box last entered.
 void mnuUndo();
@@ -60,4 +65,7 @@ void mnuGraphicSetup();
 void mnuCreateLogo();
 void mnuFillPatt();
 void mnuHelp();
+// Recovery (session/recovery.h).
+void WriteCopy(const Text& copy);                  // the boring as it stands in the boxes
+void OpenCopy(const Text& copy, const Text& name); // a copy into the boxes, as a changed boring of that name
 } // namespace frmBorinput

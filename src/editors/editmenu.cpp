@@ -65,7 +65,7 @@ void frmBorinput::mnuFillDown()
 
 void frmBorinput::mnuInsertRow()
 {
-    OnRow(InsertRow);
+    OnRow([](Grid& grid) { InsertRow(grid); });
 }
 
 void frmBorinput::mnuDeleteRow()

@@ -3,14 +3,21 @@
 #include "editors/borinput.h"
 
 #include "boring/boringboxes.h"
+#include "editors/checklist.h"
 #include "editors/fillform.h"
+#include "editors/hush.h"
+#include "editors/toolcommands.h"
 #include "platform/qt/application.h"
 #include "platform/qt/gridview.h"
 #include "platform/qt/livepane.h"
 #include "platform/qt/memoview.h"
 #include "platform/qt/uitext.h"
+#include "platform/qt/windowparts.h"
 #include "platform/qt/windows.h"
+#include "report/prompts.h"
 #include "session/files.h"
+#include "session/platform.h"
+#include "session/recovery.h"
 #include "session/session.h"
 
 #include <QAction>
@@ -31,7 +38,6 @@
 #include <QPointer>
 #include <QRadioButton>
 #include <QScreen>
-#include <QSettings>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
@@ -40,7 +46,9 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <functional>
+#include <memory>
 
 namespace
 {
@@ -49,7 +57,9 @@ class BorinputWindow : public QMainWindow
 public:
     BorinputWindow();
     void Refresh();
-    bool ending = false; // the user has been asked; nothing holds the window any more
+    void Run(const std::function<void()>& command);
+    void OpenSoon(const Text& name); // by a turn of the event loop, as a command of the window
+    bool ending = false;             // the user has been asked; nothing holds the window any more
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -61,15 +71,15 @@ private:
     QAction* Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
                    std::function<void()> command);
     void FillMenus();
-    void Run(const std::function<void()>& command);
     void UndoOrRedo(bool undo);
     void Typed(); // a box has changed: what stands elsewhere is shown anew
     void ShowState();
-    void ShowRecent();
     void Activates(QWidget* box, int number);
-    QWidget* Titled(const Text& title, QWidget* box);
+    void Labelled(int slot, const char* design, const std::function<void(const Text&)>& show);
+    QWidget* Titled(QWidget* box, const std::function<Text()>& title);
+    void Noted(QWidget* titled, int slot, const char* design);
     QWidget* GridBox(const char* name, int number);
-    QWidget* MemoBox(const char* name, const char* title, Memo& memo, int lessButton);
+    QWidget* MemoBox(const char* name, int slot, const char* title, Memo& memo, int lessButton);
     QLineEdit* Line(const char* name, Text& text);
     QComboBox* LayoutBox();
     QWidget* ClientBox();
@@ -77,11 +87,16 @@ private:
     QWidget* Head();
     QWidget* Tabs();
     void AddPreview();
+    void AddCheckList();
+    void ShowCheckList();
+    void GoTo(const CheckEntry& entry);
     void OrderTabs();
 
-    QMenu* recent = nullptr;
+    std::unique_ptr<RecentFiles> recent;
     QTabWidget* tabs = nullptr;
     LivePane* live = nullptr;
+    QListWidget* checks = nullptr;
+    QTimer checkSoon;
     QLabel* state;
     QLabel* project;
     std::vector<GridView*> grids;
@@ -90,22 +105,12 @@ private:
     Text shownFile;                                // the boring that the boxes were last fitted to
 };
 
-// Boxes beside or above one another, with movable borders between them.
-QSplitter* Split(Qt::Orientation orientation, std::initializer_list<QWidget*> boxes, std::initializer_list<int> shares)
+constexpr int checkPauseMs = 120;
+
+// Words of an office on a label or button, where Qt takes a "&" for the sign of a key.
+QString Caption(const Text& words)
 {
-    auto* splitter = new QSplitter(orientation);
-    splitter->setChildrenCollapsible(false);
-    splitter->setHandleWidth(10);
-    for (QWidget* box : boxes)
-        splitter->addWidget(box);
-    int i = 0;
-    QList<int> sizes;
-    for (const int share : shares) {
-        splitter->setStretchFactor(i++, share);
-        sizes << share * 100;
-    }
-    splitter->setSizes(sizes);
-    return splitter;
+    return ToUi(words).replace("&", "&&");
 }
 
 QWidget* Tab(QWidget* content)
@@ -142,6 +147,7 @@ BorinputWindow::BorinputWindow()
     layout->addWidget(Tabs(), 1);
     setCentralWidget(boring);
     AddPreview();
+    AddCheckList();
     OrderTabs();
     for (const int step : {1, -1}) {
         auto* keys = new QShortcut(QKeySequence(step > 0 ? "Ctrl+PgDown" : "Ctrl+PgUp"), this);
@@ -157,6 +163,15 @@ BorinputWindow::BorinputWindow()
     state->setContentsMargins(8, 0, 8, 0);
     statusBar()->addWidget(project, 1);
     statusBar()->addPermanentWidget(state);
+    auto* copies = new QTimer(this);
+    connect(copies, &QTimer::timeout, this, [this] {
+        // With what is being typed in a cell; there is one such cell at most.
+        for (GridView* grid : grids)
+            if (grid->isAncestorOf(QApplication::focusWidget()))
+                return grid->AsTyped(KeepCopy);
+        KeepCopy();
+    });
+    copies->start(std::max(RecoveryInterval / 12, 1));
     resize(QSize(1180, 780).boundedTo(screen()->availableGeometry().size() * 0.95));
     CentreOnScreen(*this);
     Refresh();
@@ -174,7 +189,9 @@ void BorinputWindow::FillMenus()
     QMenu* file = part(menuBar(), "mnuFile", "&File");
     Entry(file, "mnuNew", "&New", QKeySequence::New, frmBorinput::mnuNew);
     Entry(file, "mnuOpen", "&Open...", QKeySequence::Open, frmBorinput::mnuOpen);
-    recent = part(file, "mnuRecent", "Open &Recent");
+    recent = std::make_unique<RecentFiles>(part(file, "mnuRecent", "Open &Recent"), "recent", [this](const Text& name) {
+        Run([&name] { frmBorinput::OpenNamed(name); });
+    });
     Entry(file, "mnuSave", "&Save", QKeySequence::Save, frmBorinput::mnuSave);
     Entry(file, "mnuSaveAs", "Save &As...", QKeySequence("Ctrl+Shift+S"), frmBorinput::mnuSaveAs);
     Entry(file, "mnuImport", "&Import Description Text...", {}, frmBorinput::mnuImport);
@@ -215,8 +232,9 @@ void BorinputWindow::FillMenus()
     Entry(utilities, "mnuFillPatt", "Fill Pattern &Guide", {}, frmBorinput::mnuFillPatt);
     utilities->addSeparator();
     Entry(utilities, "mnuConvertFeetMeters", "Convert &Feet to Meters...", {}, Commands.mnuConvertFeetMeters);
-    Entry(utilities, "mnuConvertGTGStxt", "Convert GTGS &Text...", {}, Commands.mnuConvertGTGStxt);
-    Entry(utilities, "mnuConvertGTGSgeneral", "Convert GTGS, G&eneral...", {}, Commands.mnuConvertGTGSgeneral);
+    Entry(utilities, "mnuConvertGTGStxt", "Convert GTGS .TXT Files - spe&cific format", {}, Commands.mnuConvertGTGStxt);
+    Entry(utilities, "mnuConvertGTGSgeneral", "Convert GTGS .TXT Files - g&eneral format", {},
+          Commands.mnuConvertGTGSgeneral);
     Entry(utilities, "mnuGTGS", "Convert GTGS &Print File...", {}, Commands.mnuGTGS);
     Entry(utilities, "mnuConvertWinLog", "Convert &WinLog...", {}, Commands.mnuConvertWinLog);
     Entry(utilities, "mnuExp2IRPIMS", "Export to &IRPIMS...", {}, Commands.mnuExp2IRPIMS);
@@ -282,41 +300,14 @@ void BorinputWindow::dragEnterEvent(QDragEnterEvent* event)
 
 void BorinputWindow::dropEvent(QDropEvent* event)
 {
-    const Text name = FromUi(event->mimeData()->urls().value(0).toLocalFile());
     event->acceptProposedAction();
     // The program that the file comes from waits for the end of the drop, and not for the user's answers.
+    OpenSoon(FromUi(event->mimeData()->urls().value(0).toLocalFile()));
+}
+
+void BorinputWindow::OpenSoon(const Text& name)
+{
     QTimer::singleShot(0, this, [this, name] { Run([&name] { frmBorinput::OpenNamed(name); }); });
-}
-
-static constexpr int maxRecent = 9;
-
-static QStringList RecentFiles()
-{
-    return QSettings("Stratavue", "Stratavue").value("recent").toStringList();
-}
-
-// The boring that has a name now is the most recent one.
-void BorinputWindow::ShowRecent()
-{
-    QStringList files = RecentFiles();
-    if (!BoringFileName.empty()) {
-        const QString name = ToUi(BoringFileName);
-        if (files.value(0) != name) {
-            files.removeAll(name);
-            files.prepend(name);
-            files = files.mid(0, maxRecent);
-            QSettings("Stratavue", "Stratavue").setValue("recent", files);
-        }
-    }
-    recent->clear();
-    recent->setEnabled(!files.isEmpty());
-    int i = 0;
-    for (const QString& file : files) {
-        auto* action = recent->addAction(QString("&%1 %2").arg(++i).arg(QString(file).replace("&", "&&")));
-        action->setObjectName(QString("mnuRecent%1").arg(i));
-        connect(action, &QAction::triggered, this,
-                [this, name = FromUi(file)] { Run([&name] { frmBorinput::OpenNamed(name); }); });
-    }
 }
 
 // ---- Boxes
@@ -344,20 +335,43 @@ void BorinputWindow::Typed()
     ShowState();
 }
 
-QWidget* BorinputWindow::Titled(const Text& title, QWidget* box)
+// A label that prompt.txt may reword.
+void BorinputWindow::Labelled(int slot, const char* design, const std::function<void(const Text&)>& show)
+{
+    refreshers.push_back([slot, design, show] { show(PromptLabel(slot, design)); });
+}
+
+// The title stands above the box, and is its name for who cannot see it.
+QWidget* BorinputWindow::Titled(QWidget* box, const std::function<Text()>& title)
 {
     auto* whole = new QWidget;
     auto* layout = new QVBoxLayout(whole);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(5);
-    auto* label = new QLabel(ToUi(title), whole);
+    auto* label = new QLabel(whole);
     QFont bold = label->font();
     bold.setBold(true);
     label->setFont(bold);
     label->setBuddy(box);
     layout->addWidget(label);
     layout->addWidget(box, 1);
+    refreshers.push_back([label, box, title] {
+        const QString words = Caption(title());
+        if (label->text() == words && !box->accessibleName().isEmpty())
+            return;
+        label->setText(words);
+        box->setAccessibleName(ToUi(title().empty() ? FromUi(box->objectName()) : title()));
+    });
     return whole;
+}
+
+// A note beneath the title.
+void BorinputWindow::Noted(QWidget* titled, int slot, const char* design)
+{
+    auto* note = new QLabel(titled);
+    note->setObjectName(QString("lblPrompt%1").arg(slot));
+    static_cast<QVBoxLayout*>(titled->layout())->insertWidget(1, note);
+    Labelled(slot, design, [note](const Text& words) { note->setText(ToUi(words)); });
 }
 
 QWidget* BorinputWindow::GridBox(const char* name, int number)
@@ -368,24 +382,20 @@ QWidget* BorinputWindow::GridBox(const char* name, int number)
     grids.push_back(view);
     refreshers.push_back([view] { view->Refresh(); });
     Activates(view, number);
-    QWidget* whole = Titled(grid.title, view);
-    auto* label = whole->findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
-    refreshers.push_back([label, &grid] { label->setText(ToUi(grid.title)); });
-    return whole;
+    return Titled(view, [&grid] { return grid.title; });
 }
 
 // A text box; beneath it the two buttons that adjust how much text a line takes.
-QWidget* BorinputWindow::MemoBox(const char* name, const char* title, Memo& memo, int lessButton)
+QWidget* BorinputWindow::MemoBox(const char* name, int slot, const char* title, Memo& memo, int lessButton)
 {
     auto* view = new MemoView(name, memo, this);
-    view->setAccessibleName(title);
     view->OnChange = [this] {
         FileChanged = 1;
         ShowState();
     };
     refreshers.push_back([view] { view->Refresh(); });
     Activates(view, 9);
-    QWidget* whole = Titled(title, view);
+    QWidget* whole = Titled(view, [slot, title] { return PromptLabel(slot, title); });
     auto* buttons = new QHBoxLayout;
     buttons->setContentsMargins(0, 0, 0, 0);
     buttons->addWidget(new QLabel("Text on a line:", whole));
@@ -393,8 +403,9 @@ QWidget* BorinputWindow::MemoBox(const char* name, const char* title, Memo& memo
         auto* button = new QToolButton(whole);
         button->setObjectName(QString("cmdAdj%1").arg(n));
         button->setText(n == lessButton ? "\u25C2 less" : "more \u25B8");
-        button->setAccessibleName(QString(title) +
-                                  (n == lessButton ? ": less text on a line" : ": more text on a line"));
+        Labelled(slot, title, [button, less = n == lessButton](const Text& words) {
+            button->setAccessibleName(ToUi(words) + (less ? ", less text on a line" : ", more text on a line"));
+        });
         button->setFocusPolicy(Qt::StrongFocus);
         connect(button, &QToolButton::clicked, this, [this, n] { Run([n] { AdjustTextBox(n); }); });
         buttons->addWidget(button);
@@ -473,17 +484,20 @@ QWidget* BorinputWindow::Head()
     auto* layout = new QGridLayout(head);
     layout->setContentsMargins(2, 0, 2, 0);
     layout->setHorizontalSpacing(10);
-    const auto field = [&](int column, const char* caption, QWidget* line, int share) {
-        auto* label = new QLabel(QString(caption) + ":", head);
+    const auto field = [&](int column, int slot, const char* caption, QWidget* line, int share) {
+        auto* label = new QLabel(head);
         label->setBuddy(line);
-        line->setAccessibleName(caption);
+        Labelled(slot, caption, [label, line](const Text& words) {
+            label->setText(Caption(words) + ":");
+            line->setAccessibleName(ToUi(words));
+        });
         layout->addWidget(label, 0, 2 * column);
         layout->addWidget(line, 0, 2 * column + 1);
         layout->setColumnStretch(2 * column + 1, share);
     };
-    field(0, "Boring Name", Line("Text1", frmBorinput::Text1), 3);
-    field(1, "Map File", Line("Text2", frmBorinput::Text2), 3);
-    field(2, "Layout File", LayoutBox(), 2);
+    field(0, 19, "Boring Name", Line("Text1", frmBorinput::Text1), 3);
+    field(1, 20, "Map File", Line("Text2", frmBorinput::Text2), 3);
+    field(2, 21, "Layout File", LayoutBox(), 2);
     auto* draft = new QCheckBox("Draft", head);
     draft->setObjectName("Check1");
     connect(draft, &QCheckBox::clicked, this, [this](bool checked) {
@@ -503,7 +517,6 @@ QWidget* BorinputWindow::ClientBox()
     using frmBorinput::txtClient;
     auto* client = new QPlainTextEdit(this);
     client->setObjectName("txtClient");
-    client->setAccessibleName("Client/Project Information");
     client->setTabChangesFocus(true);
     Activates(client, 9);
     const auto shown = [] { return ToUi(txtClient).remove('\r'); };
@@ -518,12 +531,17 @@ QWidget* BorinputWindow::ClientBox()
         if (client->toPlainText() != shown())
             client->setPlainText(shown());
     });
-    QWidget* whole = Titled("Client/Project Information", client);
+    QWidget* whole = Titled(client, [] { return PromptLabel(2, "Client/Project Information"); });
     auto* styles = new QHBoxLayout;
-    styles->addWidget(new QLabel("Style:", whole));
-    const char* const names[] = {"Open", "1 Line A", "2 Line", "1 Line B"};
+    auto* style = new QLabel(whole);
+    style->setObjectName("lblStyle");
+    Labelled(3, "Style:", [style](const Text& words) { style->setText(ToUi(words)); });
+    styles->addWidget(style);
+    const std::pair<int, const char*> names[] = {{4, "Open"}, {5, "1 Line A"}, {7, "2 Line"}, {6, "1 Line B"}};
     for (int i = 1; i <= 4; ++i) {
-        auto* option = new QRadioButton(names[i - 1], whole);
+        auto* option = new QRadioButton(whole);
+        Labelled(names[i - 1].first, names[i - 1].second,
+                 [option](const Text& words) { option->setText(Caption(words)); });
         option->setObjectName(QString("Option%1").arg(i));
         option->setAutoExclusive(false); // none may be chosen
         connect(option, &QRadioButton::clicked, this, [this, i] {
@@ -546,19 +564,19 @@ class ItemList : public QListWidget
 {
 public:
     using QListWidget::QListWidget;
-    std::function<void(const Text&)> OnChoice;
+    std::function<void(const QListWidgetItem&)> OnChoice;
 
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override
     {
         QListWidget::mouseReleaseEvent(event);
         if (event->button() == Qt::LeftButton && itemAt(event->pos()))
-            OnChoice(FromUi(itemAt(event->pos())->text()));
+            OnChoice(*itemAt(event->pos()));
     }
     void keyPressEvent(QKeyEvent* event) override
     {
         if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && currentItem())
-            OnChoice(FromUi(currentItem()->text()));
+            OnChoice(*currentItem());
         else
             QListWidget::keyPressEvent(event);
     }
@@ -577,9 +595,9 @@ QWidget* BorinputWindow::Items()
         list->setObjectName(QString("List%1").arg(i));
         list->setAccessibleName(QString("Description items %1").arg(i));
         list->setMinimumWidth(60);
-        list->OnChoice = [this](const Text& words) {
+        list->OnChoice = [this](const QListWidgetItem& item) {
             auto* box = static_cast<MemoView*>(findChild<QPlainTextEdit*>("MemoDes"));
-            box->Insert(words);
+            box->Insert(FromUi(item.text()));
             box->setFocus();
         };
         refreshers.push_back([list, i] {
@@ -604,6 +622,10 @@ QWidget* BorinputWindow::Tabs()
     using namespace frmBorinput;
     tabs = new QTabWidget;
     tabs->setObjectName("SSTab1");
+    tabs->tabBar()->setAccessibleName("Parts of the boring");
+    // The bar takes the focus by itself; by way of the whole, Tab would go round without what stands above.
+    tabs->setFocusProxy(nullptr);
+    tabs->setFocusPolicy(Qt::NoFocus);
     tabs->setDocumentMode(false);
 
     // The boxes are made in the order in which Tab goes through them.
@@ -613,15 +635,16 @@ QWidget* BorinputWindow::Tabs()
     QWidget* parts = GridBox("SSRepParts", 3);
     auto* total = new QLabel(parts);
     total->setObjectName("lblWidthtot");
-    refreshers.push_back([total] { total->setText("Total Width: " + ToUi(lblWidthtot)); });
+    Labelled(25, "Total Width:", [total](const Text& words) { total->setText(ToUi(words + " " + lblWidthtot)); });
     parts->layout()->addWidget(total);
     tabs->addTab(
         Tab(Split(Qt::Horizontal,
                   {Split(Qt::Vertical, {client, info}, {2, 3}), Split(Qt::Vertical, {scale, parts}, {2, 3})}, {3, 2})),
-        "General");
+        "");
+    Labelled(1, "General", [this](const Text& words) { tabs->setTabText(0, Caption(words)); });
 
     QWidget* lith = GridBox("SSLith", 8);
-    QWidget* des = MemoBox("MemoDes", "Descriptions", MemoDes, 1);
+    QWidget* des = MemoBox("MemoDes", 72, "Descriptions", MemoDes, 1);
     QWidget* items = Items();
     QWidget* formations = GridBox("SSFormations", 15);
     tabs->addTab(Tab(Split(Qt::Horizontal,
@@ -631,25 +654,27 @@ QWidget* BorinputWindow::Tabs()
 
     QWidget* samples = GridBox("SSSamp", 7);
     QWidget* sampleSetup = GridBox("SSP1Setup", 4);
+    Noted(sampleSetup, 33, "[Text/Sm. Graph Column Headings]");
     tabs->addTab(Tab(Split(Qt::Vertical, {samples, sampleSetup}, {3, 2})), "Samples");
 
     QWidget* params = GridBox("SSPar", 6);
     QWidget* paramSetup = GridBox("SSP2Setup", 5);
+    Noted(paramSetup, 44, "[Text/Sm. Graph Column Headings]");
     tabs->addTab(Tab(Split(Qt::Vertical, {params, paramSetup}, {3, 2})), "Parameters");
 
     QWidget* well = GridBox("SSGenWellInfo", 10);
     QWidget* outer = GridBox("SSOuterLay", 11);
     QWidget* inner = GridBox("SSInnerLay", 12);
     QWidget* construction = GridBox("SSW", 13);
-    QWidget* wellNotes = MemoBox("MemoWcon", "Well Construction Notes", MemoWcon, 3);
+    QWidget* wellNotes = MemoBox("MemoWcon", 112, "Well Construction Notes", MemoWcon, 3);
     tabs->addTab(Tab(Split(Qt::Horizontal,
                            {well, Split(Qt::Vertical, {outer, inner}, {1, 1}),
                             Split(Qt::Vertical, {construction, wellNotes}, {1, 1})},
                            {3, 5, 4})),
                  "Well");
 
-    QWidget* remarks = MemoBox("MemoRemarks", "Remarks", MemoRemarks, 5);
-    QWidget* notes = MemoBox("MemoBottNotes", "General Notes:", MemoBottNotes, 7);
+    QWidget* remarks = MemoBox("MemoRemarks", 127, "Remarks", MemoRemarks, 5);
+    QWidget* notes = MemoBox("MemoBottNotes", 113, "General Notes:", MemoBottNotes, 7);
     tabs->addTab(Tab(Split(Qt::Horizontal, {remarks, notes}, {2, 3})), "Remarks and Notes");
 
     QWidget* cuttings = GridBox("SSCuttings", 14);
@@ -703,6 +728,83 @@ void BorinputWindow::AddPreview()
     findChild<QAction*>("mnuView")->menu()->addAction(toggle);
 }
 
+// What a reviewer would flag, beside the boxes when the user wishes. Each entry leads to where it is to be mended.
+void BorinputWindow::AddCheckList()
+{
+    auto* dock = new QDockWidget("Check List", this);
+    dock->setObjectName("dckCheck");
+    dock->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
+    auto* entries = new ItemList(dock);
+    checks = entries;
+    checks->setObjectName("lstCheck");
+    checks->setAccessibleName("Check list");
+    checks->setWordWrap(true);
+    checks->setSpacing(2);
+    checks->setMinimumSize(200, 60);
+    entries->OnChoice = [this](const QListWidgetItem& item) {
+        const Text words = FromUi(item.text());
+        for (const CheckEntry& entry : CheckBoring()) // where it stands by now
+            if (entry.Words == words)
+                return GoTo(entry);
+    };
+    dock->setWidget(checks);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+    dock->hide();
+    checkSoon.setSingleShot(true);
+    checkSoon.setInterval(checkPauseMs);
+    connect(&checkSoon, &QTimer::timeout, this, &BorinputWindow::ShowCheckList);
+    connect(dock, &QDockWidget::visibilityChanged, this, [this](bool visible) {
+        if (visible)
+            checkSoon.start();
+    });
+    QAction* toggle = dock->toggleViewAction();
+    toggle->setObjectName("mnuCheckList");
+    toggle->setText("&Check List");
+    toggle->setShortcut(QKeySequence("Ctrl+F7"));
+    findChild<QAction*>("mnuView")->menu()->addAction(toggle);
+}
+
+void BorinputWindow::ShowCheckList()
+{
+    if (!checks->isVisible())
+        return;
+    QStringList words;
+    for (const CheckEntry& entry : CheckBoring())
+        words << ToUi(entry.Words);
+    if (words.isEmpty())
+        words << "Nothing to remark";
+    QStringList shown;
+    for (int row = 0; row < checks->count(); ++row)
+        shown << checks->item(row)->text();
+    if (shown == words)
+        return;
+    checks->clear();
+    checks->addItems(words);
+}
+
+void BorinputWindow::GoTo(const CheckEntry& entry)
+{
+    QWidget* box = entry.TextBox[0] ? findChild<QWidget*>(entry.TextBox) : nullptr;
+    for (const auto& [known, number] : numbers)
+        if (!box && number == entry.Box)
+            box = qobject_cast<QWidget*>(known);
+    for (int tab = 0; tab < tabs->count(); ++tab)
+        if (tabs->widget(tab)->isAncestorOf(box))
+            tabs->setCurrentIndex(tab);
+    if (auto* grid = qobject_cast<QTableView*>(box)) {
+        const QModelIndex cell = grid->model()->index(entry.Row - 1, entry.Column - 1);
+        grid->setCurrentIndex(cell);
+        grid->scrollTo(cell);
+    } else if (auto* text = qobject_cast<QPlainTextEdit*>(box)) {
+        QTextCursor caret = text->textCursor();
+        caret.setPosition(std::min(entry.Place, int(text->toPlainText().size())));
+        text->setTextCursor(caret);
+        text->ensureCursorVisible();
+    }
+    activateWindow(); // the list may float in a window of its own
+    box->setFocus();
+}
+
 // The way of the Tab key: from field to field as a boring is typed in.
 void BorinputWindow::OrderTabs()
 {
@@ -713,7 +815,7 @@ void BorinputWindow::OrderTabs()
         "SSFormations", "SSSamp",        "SSP1Setup",  "SSPar",   "SSP2Setup",  "SSGenWellInfo", "SSOuterLay",
         "SSInnerLay",   "SSW",           "MemoWcon",   "cmdAdj3", "cmdAdj4",    "MemoRemarks",   "cmdAdj5",
         "cmdAdj6",      "MemoBottNotes", "cmdAdj7",    "cmdAdj8", "SSCuttings", "SSLegend",      "cmdLivePrevious",
-        "cmdLiveNext"};
+        "cmdLiveNext",  "lstCheck"};
     QWidget* before = nullptr;
     for (const char* name : order) {
         auto* next = findChild<QWidget*>(name);
@@ -732,6 +834,8 @@ void BorinputWindow::ShowState()
 {
     setWindowModified(FileChanged == 1);
     live->Soon();
+    if (checks->isVisible())
+        checkSoon.start();
     const int pages = PagesOfLog();
     state->setText(QString::number(pages) + (pages == 1 ? " page" : " pages"));
 }
@@ -745,7 +849,7 @@ void BorinputWindow::Refresh()
         for (GridView* grid : grids)
             grid->Fit();
     }
-    ShowRecent();
+    recent->Show(BoringFileName);
     const auto dress = [this](const char* name, const Text& family) {
         auto* box = findChild<QWidget*>(name);
         if (family.empty() || box->font().family() == ToUi(family))
@@ -779,15 +883,35 @@ void ShowLogWindow()
         frmBorinput::Load();
         window = new BorinputWindow;
         window->show();
+        StartRecovery(JoinPath(Platform.DataFolder(), "Stratavue/recovery"));
+        WatchTool(LogTool);
         StartDone = true;
     } catch (...) {
         TellRunTimeError();
     }
 }
 
-void EndProgram()
+void OfferRecovery()
 {
     if (window)
+        window->Run([] {
+            OfferCopies();
+            ShowRecoveredTool();
+        });
+}
+
+void OpenInLogWindow(const Text& name)
+{
+    if (window)
+        window->OpenSoon(name);
+}
+
+void EndProgram()
+{
+    EndRecovery();
+    if (window) {
         window->ending = true;
+        window->close(); // from another tool's Exit it is still there
+    }
     QApplication::quit();
 }

@@ -1,19 +1,23 @@
-// livepreview.h -- a page of the boring as it stands in the boxes, drawn by the renderer of the log from a file that
-// nobody else sees. The boring's own file, the run under way and the boxes stay as they are, and no box is shown.
+// livepreview.h -- a page as it stands in the boxes of a tool, drawn by the tool's renderer from a file that nobody
+// else sees. The tool's own file, the run under way and the boxes stay as they are, and no box is shown.
 #pragma once
 
 #include "canvas/pageobjects.h"
 
+struct ToolRecord;
+
 struct LivePage {
     PageListRecord List;      // the page; no objects where there is none
     int Page = 0, Pages = 0;  // which of how many
-    float Start = 0, End = 0; // its depths
+    float Start = 0, End = 0; // of a log: its depths
     double Top = 0;           // where its first depth stands, in device units from the top of the sheet
     double UnitsPerDepth = 0; // device units to a unit of depth
 };
 
-// Draws the page, counted from 1 and at most the last one. folder is private to the caller. False: the boring cannot be
-// drawn as it stands, and page is as it was.
+// Draws a page of the log, counted from 1 and at most the last one. folder is private to the caller. False: the boring
+// cannot be drawn as it stands, and page is as it was.
 bool DrawLivePage(int number, const Text& folder, LivePage& page);
+// The one page of another tool's file. False as above, and for a tool that draws nothing.
+bool DrawLiveTool(ToolRecord& tool, const Text& folder, LivePage& page);
 // The row of the lithology whose layer lies at so many device units from the top of the sheet; 0 for none.
 int LayerAt(const LivePage& page, double y);

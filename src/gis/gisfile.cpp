@@ -3,7 +3,7 @@
 //     L, L x (name, colour), B, B x (boring, X, Y, elevation, file, L depths), trailer      one line each
 #include "gis/gisfile.h"
 
-#include "boring/boringdata.h"
+#include "boring/boringblocks.h"
 #include "report/prompts.h"
 #include "session/files.h"
 #include "session/gridedit.h"
@@ -28,32 +28,33 @@ using namespace frmGIS;
 
 // ----------------------------------------------------------------------------------------------------- the table
 
-// The grid with another number of columns: cells stay in their rows, those of columns that go are lost. No step of the
-// grid can be taken back any more, since steps know their cells by number.
-static void SetColumnCount(Grid& grid, int columns)
+// A column for each layer and no more; what stood in the others is lost. Steps taken with another width are forgotten.
+static void SetLayerColumns(int layers)
 {
-    if (grid.columns == columns)
+    const int columns = GisColumns + layers;
+    if (SSGISInfo.columns == columns)
         return;
-    Grid other(grid.rows, columns);
-    for (int row = 1; row <= grid.rows; ++row)
-        for (int column = 1; column <= std::min(columns, grid.columns); ++column)
-            other.Cell(row, column) = std::move(grid.Cell(row, column));
-    grid.cells = std::move(other.cells);
-    grid.columns = columns;
-    grid.headings.resize(size_t(columns) + 1);
-    grid.column = std::min(grid.column, columns);
-    grid.selected.left = std::min(grid.selected.left, columns);
-    grid.selected.right = std::min(grid.selected.right, columns);
-    ForgetSteps(grid);
+    SSGISInfo.Resize(SSGISInfo.rows, columns);
+    SSGISInfo.column = std::min(SSGISInfo.column, columns);
+    SSGISInfo.selected.left = std::min(SSGISInfo.selected.left, columns);
+    SSGISInfo.selected.right = std::min(SSGISInfo.selected.right, columns);
+    ForgetSteps(SSGISInfo);
 }
 
-// A column for each layer, no matter what the user has done to the columns. One that is new bears the layer's name.
+// Columns for layers that have none, since one was deleted or the list has grown; they bear the layers' names.
 static void GiveLayersColumns()
 {
-    for (int k = SSGISInfo.columns - GisColumns + 1; k <= GisData.layerCount; ++k) {
-        SetColumnCount(SSGISInfo, GisColumns + k);
+    const int before = SSGISInfo.columns - GisColumns;
+    if (before >= GisData.layerCount)
+        return;
+    SetLayerColumns(GisData.layerCount);
+    for (int k = before + 1; k <= GisData.layerCount; ++k)
         SSGISInfo.headings[size_t(GisColumns) + k] = GisData.layerName[k];
-    }
+}
+
+Text frmGIS::LayerCell(int row, int k)
+{
+    return GisColumns + k > SSGISInfo.columns ? Text() : SSGISInfo.Cell(row, GisColumns + k);
 }
 
 void frmGIS::LabelBoxes()
@@ -70,9 +71,24 @@ void frmGIS::LabelBoxes()
 
 // ------------------------------------------------------------------------------------------------------ the file
 
+template <int Rows>
+static void Empty(Slots<Text, Rows>& cells)
+{
+    for (Text& cell : cells.slot)
+        cell.clear();
+}
+
+// In place: the record is large, and every section that names a GIS file clears it.
 void ClearGISArrays()
 {
-    GisData = GisRecord();
+    GisData.layerCount = GisData.boringCount = 0;
+    Empty(GisData.layerName);
+    Empty(GisData.layerColor);
+    for (auto& cells : GisData.boringCells.slot)
+        Empty(cells);
+    for (auto& cells : GisData.layerCells.slot)
+        Empty(cells);
+    GisData.trailerLine.clear();
 }
 
 void OpenGISFile(const Text& path)
@@ -81,7 +97,7 @@ try {
     ClearGISArrays();
     const Text name = HasEnding(path) ? path : path + ".gis";
     if (!FileExists(name)) {
-        MsgBox("GIS File Not Found: " + name);
+        MsgBox("GIS File Not Found: " + name, OkOnly, Exclamation);
         return;
     }
     LineReader in(name);
@@ -113,13 +129,12 @@ static void TakeGrids()
         GisData.layerName[k] = SSGISLayers.Cell(k, 1);
         GisData.layerColor[k] = SSGISLayers.Cell(k, 2);
     }
-    GiveLayersColumns();
     GisData.boringCount = SSGISInfo.DataRowCount();
     for (int row = 1; row <= GisData.boringCount; ++row) {
         for (int column = 1; column <= GisColumns; ++column)
             GisData.boringCells[row][column] = SSGISInfo.Cell(row, column);
         for (int k = 1; k <= GisData.layerCount; ++k)
-            GisData.layerCells[row][k] = SSGISInfo.Cell(row, GisColumns + k);
+            GisData.layerCells[row][k] = LayerCell(row, k);
     }
 }
 
@@ -152,7 +167,7 @@ try {
     Title = "VeskGIS - " + FileName;
     SSGISLayers.Clear();
     SSGISInfo.Clear();
-    SetColumnCount(SSGISInfo, GisColumns + GisData.layerCount);
+    SetLayerColumns(GisData.layerCount);
     for (int k = 1; k <= GisData.layerCount; ++k) {
         SSGISLayers.Cell(k, 1) = SSGISInfo.headings[size_t(GisColumns) + k] = GisData.layerName[k];
         SSGISLayers.Cell(k, 2) = GisData.layerColor[k];
@@ -181,13 +196,6 @@ void ClearGISForm()
 }
 
 // ----------------------------------------------------------------------------------------------------- a boring
-
-// A block that is passed over: its count, then so many lines a row.
-static void SkipBlock(LineReader& in, int linesOfRow)
-{
-    for (int rows = in.Count(); rows > 0; --rows)
-        in.Skip(linesOfRow);
-}
 
 static void ReadLithology(LineReader& in)
 {
@@ -228,7 +236,7 @@ try {
     LineReader in(path);
     const Text version = in.Line();
     if (!version.starts_with("5.0")) {
-        MsgBox("This boring file has an invalid format.");
+        MsgBox("This boring file has an invalid format.", OkOnly, Exclamation);
         return;
     }
     boringSummary[1] = in.Line();
@@ -294,6 +302,7 @@ void frmGIS::AddBoring(const Text& path, const Text& name)
         SSGISInfo.Cell(row, column) = boringSummary[column];
     // Down the list and down the boring at once. A layer that the boring does not have at this place ends where the
     // one above it ends, so it has no thickness here.
+    GiveLayersColumns();
     Text bottom = "0";
     int next = 1;
     for (int k = 1; k <= GisData.layerCount; ++k) {
@@ -301,6 +310,7 @@ void frmGIS::AddBoring(const Text& path, const Text& name)
             bottom = boringLithology.depth[next++];
         SSGISInfo.Cell(row, GisColumns + k) = bottom;
     }
+    ForgetSteps(SSGISInfo);
 }
 
 void frmGIS::Command1()
@@ -318,7 +328,7 @@ void frmGIS::Command2()
     FileChanged = 1;
     GisData.layerCount = SSGISLayers.DataRowCount();
     // What stood in the columns of a longer list goes with them.
-    SetColumnCount(SSGISInfo, GisColumns + GisData.layerCount);
+    SetLayerColumns(GisData.layerCount);
     for (int k = 1; k <= GisData.layerCount; ++k)
         SSGISInfo.headings[size_t(GisColumns) + k] = GisData.layerName[k] = SSGISLayers.Cell(k, 1);
 }
@@ -338,9 +348,7 @@ void frmGIS::Command3()
 
 void frmGIS::mnuInsertRow()
 {
-    const int before = SSGISInfo.DataRowCount();
-    InsertRow(SSGISInfo);
-    if (before < SSGISInfo.rows)
+    if (InsertRow(SSGISInfo))
         FileChanged = 1;
 }
 
@@ -350,44 +358,16 @@ void frmGIS::mnuDeleteRow()
     FileChanged = 1;
 }
 
-// The columns of the table from the given one on, by one to the right, or to the left over it.
-static void ShiftColumns(int from, int by)
-{
-    const int first = by > 0 ? SSGISInfo.columns : from;
-    const int last = by > 0 ? from : SSGISInfo.columns;
-    const int step = by > 0 ? -1 : 1;
-    const auto source = [&](int column) { return column - by; };
-    for (int column = first; column != last + step; column += step) {
-        const bool there = source(column) >= from && source(column) <= SSGISInfo.columns;
-        SSGISInfo.headings[column] = there ? SSGISInfo.headings[source(column)] : Text();
-        for (int row = 1; row <= SSGISInfo.rows; ++row)
-            SSGISInfo.Cell(row, column) = there ? SSGISInfo.Cell(row, source(column)) : Text();
-    }
-}
-
 void frmGIS::mnuInsertColumn()
 {
-    const int at = SSGISInfo.column;
-    if (at <= GisColumns)
-        return;
-    if (SSGISInfo.columns == GisColumns + MaxGisLayers) {
-        Platform.Notice("The table has room for " + PlainNumber(MaxGisLayers) + " layers, so no column was inserted.");
-        return;
-    }
-    SetColumnCount(SSGISInfo, SSGISInfo.columns + 1);
-    ShiftColumns(at, 1);
-    ForgetSteps(SSGISInfo);
-    FileChanged = 1;
+    if (SSGISInfo.column > GisColumns && InsertColumn(SSGISInfo, GisColumns + MaxGisLayers))
+        FileChanged = 1;
 }
 
 void frmGIS::mnuDeleteColumn()
 {
-    const int at = SSGISInfo.column;
-    if (at <= GisColumns)
+    if (SSGISInfo.column <= GisColumns)
         return;
-    ShiftColumns(at, -1);
-    // A layer of the list always has its column.
-    SetColumnCount(SSGISInfo, std::max(SSGISInfo.columns - 1, GisColumns + GisData.layerCount));
-    ForgetSteps(SSGISInfo);
+    DeleteColumn(SSGISInfo);
     FileChanged = 1;
 }

@@ -37,8 +37,8 @@ extern GisLithology boringLithology;
 // The file into GisData, which is emptied first, also when the file turns out to be missing: ".gis" behind a name
 // with no "."; box "GIS File Not Found: ".
 void OpenGISFile(const Text& path);
-// Takes the grids, then writes the file. A layer name in the list counts from then on. False: nothing was written, and
-// the report has told why.
+// Takes the list and the table as they stand, also layers that have no column yet, then writes the file. False: nothing
+// was written, and the report has told why.
 bool SaveGISFile(const Text& path);
 // The boring file into boringSummary, all but its file name, and boringLithology; both are emptied first.
 void OpenBoringGIS(const Text& path);
@@ -58,12 +58,13 @@ bool ExportGIS2EVS(const Text& path);
 // The workbench.
 namespace frmGIS
 {
-void LabelBoxes();        // the grids' labels: those by design, or those that the prompts have set
-extern Grid SSGISLayers;  // layer, colour
-extern Grid SSGISInfo;    // five columns, then one for each layer, headed with its name; its width changes
-extern Grid SSBoringData; // depth and code of the boring looked at
-extern Text Title;        // of the window
-extern Text FileName;     // the open .GIS file; empty: it was never saved
+void LabelBoxes();              // the grids' labels: those by design, or those that the prompts have set
+extern Grid SSGISLayers;        // layer, colour
+extern Grid SSGISInfo;          // five columns, then one for each layer, headed with its name; its width changes
+extern Grid SSBoringData;       // depth and code of the boring looked at
+Text LayerCell(int row, int k); // of SSGISInfo; a layer without a column has none
+extern Text Title;              // of the window
+extern Text FileName;           // the open .GIS file; empty: it was never saved
 
 // The list of boring files: the *.bor files of the project folder, by name, and which of them are marked.
 struct FileList {

@@ -6,6 +6,7 @@
 #include "canvas/screenview.h"
 #include "sections/crossrun.h"
 #include "sections/sectionboring.h"
+#include "sections/sheetrun.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -218,12 +219,8 @@ static void ClearWords()
 bool VCROSS::getcrossdata()
 try {
     ClearWords();
-    if (!FileExists(RunPages.pageFile)) {
-        MsgBox("File Not Found: " + RunPages.pageFile +
-                   ".  Possible solution: Use 'Project: Select Project' to select your project before opening files.",
-               OkOnly, Exclamation);
+    if (!DefinitionThere())
         return false;
-    }
     LineReader in(RunPages.pageFile);
     ReadSection(in);
     return true;

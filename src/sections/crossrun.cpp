@@ -1,12 +1,10 @@
-// crossrun.cpp -- the loop over the cross sections of log.mas. It knows nothing of the form: each page is drawn from
-// the saved files.
+// crossrun.cpp -- the page of a cross section, and the run over those of log.mas. It knows nothing of the form: each
+// page is drawn from the saved files.
 #include "sections/crossrun.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
-#include "canvas/screenview.h"
 #include "gis/gisfile.h"
-#include "report/heading.h"
+#include "sections/sheetrun.h"
 #include "session/failure.h"
 #include "session/platform.h"
 
@@ -34,23 +32,7 @@ static void DrawPage()
 
 void VCROSS::vcrossstart()
 try {
-    RunPages.pageCount = 0; // a list that cannot be read is an empty one, not the run before
-    getsvfiles();
-    getclientlogo(2);
-    stopRequested = 0; // a Cancel of the dialog stops no fill of this run
-    RunPages.pageIndex = 1;
-    while (RunPages.pageIndex <= RunPages.pageCount) {
-        Platform.ShowProgress(true);
-        RunPages.pageFile = runFiles[RunPages.pageIndex];
-        if (!getcrossdata()) {
-            ++RunPages.pageIndex;
-            continue;
-        }
-        DrawPage();
-        Platform.ShowProgress(false);
-        ShowOrPrint();
-    }
-    Platform.ShowProgress(false);
+    RunSheets(2, getcrossdata, DrawPage);
 } catch (...) {
     Platform.ShowProgress(false);
     ReportFailure(__func__);

@@ -1,6 +1,7 @@
 // fencedata.cpp -- the definition of a fence diagram as it is drawn: the renderer's own reader of the .FEN file.
 #include "canvas/screenview.h"
 #include "sections/fencerun.h"
+#include "sections/sheetrun.h"
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/platform.h"
@@ -149,12 +150,8 @@ try {
     ResetCrossRun();
     ResetFenceRun();
     SetPage("L");
-    if (!FileExists(RunPages.pageFile)) {
-        MsgBox("File Not Found: " + RunPages.pageFile +
-                   ".  Possible solution: Use 'Project: Select Project' to select your project before opening files.",
-               OkOnly, Exclamation);
+    if (!DefinitionThere())
         return false;
-    }
     LineReader in(RunPages.pageFile);
     ReadDefinition(in);
     return true;

@@ -16,10 +16,10 @@
 #include "logrender/vlog.h"
 #include "report/heading.h"
 #include "sections/fencerun.h"
+#include "sections/giscells.h"
 #include "sections/sectionboring.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
-#include "session/files.h"
 
 using namespace VCROSS;
 
@@ -176,22 +176,19 @@ static void QuarterPlane()
 static void TakeGisPlaces()
 {
     FenceRunRecord& f = FenceRun;
-    for (int row = 1; row <= GisData.boringCount; ++row) {
-        Text& file = GisData.boringCells[row][GisFileName];
-        file = UpperCase(HasEnding(file) ? file : file + ".BOR");
-    }
+    spellgisnames();
     for (int i = 1; i <= CrossRun.boringCount; ++i) {
         if (!HasBoring(i))
             continue;
-        const Text name = UpperCase(CrossRun.boringFile[i]);
-        int row = 1;
-        while (row <= GisData.boringCount && GisData.boringCells[row][GisFileName] != name)
-            ++row;
-        if (row > GisData.boringCount)
+        const int row = gisrowof(UpperCase(CrossRun.boringFile[i]));
+        if (row == 0)
             continue; // it keeps the place that the definition gives it
         CrossRun.gisRow[i] = static_cast<int16_t>(row);
-        f.siteX[i] = TextNumber(GisData.boringCells[row][GisX]) - f.xStart;
-        f.siteY[i] = TextNumber(GisData.boringCells[row][GisY]) - f.yStart;
+        // 32-bit before the start is taken off, as the definition's own are.
+        f.siteX[i] = TextNumber(GisData.boringCells[row][GisX]);
+        f.siteX[i] = double(f.siteX[i]) - f.xStart;
+        f.siteY[i] = TextNumber(GisData.boringCells[row][GisY]);
+        f.siteY[i] = double(f.siteY[i]) - f.yStart;
         CrossRun.refElevation[i] = TextNumber(GisData.boringCells[row][GisElevation]);
     }
 }

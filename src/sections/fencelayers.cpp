@@ -80,6 +80,7 @@ static bool joinslast()
 static bool fillpanel(int a, int b)
 {
     using namespace VCROSS;
+    moveto(FenceRun.planX[a], FenceRun.planY[a]);
     startfencepair(a, b);
     while (LayerFill.leftLayer <= CrossRun.layerCount[a])
         for (const char shape : joinslast() ? std::string_view("B") : chooseshapes(bottomelevation)) {

@@ -1,11 +1,9 @@
-// fencerun.cpp -- the loop over the fence diagrams of a run. Each is drawn from its saved file.
+// fencerun.cpp -- the page of a fence diagram, and the run over those of log.mas. Each is drawn from its saved file.
 #include "sections/fencerun.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
-#include "canvas/screenview.h"
 #include "gis/gisfile.h"
-#include "report/heading.h"
+#include "sections/sheetrun.h"
 #include "session/failure.h"
 #include "session/platform.h"
 
@@ -44,23 +42,7 @@ static void DrawPage()
 
 void VCROSS::vfencestart()
 try {
-    RunPages.pageCount = 0; // a list that cannot be read is an empty one, not the run before
-    getsvfiles();
-    getclientlogo(2);
-    stopRequested = 0; // a Cancel of the dialog before must not stop the panels of this run
-    RunPages.pageIndex = 1;
-    while (RunPages.pageIndex <= RunPages.pageCount) {
-        Platform.ShowProgress(true);
-        RunPages.pageFile = runFiles[RunPages.pageIndex];
-        if (!getfencedata()) {
-            ++RunPages.pageIndex;
-            continue;
-        }
-        DrawPage();
-        Platform.ShowProgress(false);
-        ShowOrPrint();
-    }
-    Platform.ShowProgress(false);
+    RunSheets(2, getfencedata, DrawPage);
 } catch (...) {
     Platform.ShowProgress(false);
     ReportFailure(__func__);

@@ -1,7 +1,7 @@
 // sectionboring.cpp -- the borings of a section or fence, read from their files.
 #include "sections/sectionboring.h"
 
-#include "boring/boringdata.h"
+#include "boring/boringblocks.h"
 #include "canvas/screenview.h"
 #include "logrender/logdata.h"
 #include "sections/crossrun.h"
@@ -62,8 +62,7 @@ Text BoringBlocks::ToSamples()
 
 void BoringBlocks::Pass(int cells)
 {
-    for (int32_t rows = in.Count(); rows > 0; --rows)
-        in.Skip(cells);
+    SkipBlock(in, cells);
 }
 
 int BoringBlocks::ParamCells() const
@@ -131,19 +130,19 @@ static void InnerLayers(BoringBlocks& boring, SectionWell& well)
     }
 }
 
-static void ClientBlock(BoringBlocks& boring)
+void BoringBlocks::ClientBlock()
 {
-    boring.Pass(1); // remarks
-    boring.Pass(cuttingCells);
-    boring.Pass(2); // legend
-    boring.Pass(2); // formations
-    boring.in.Skip(MaxBottNotes);
+    Pass(1); // remarks
+    Pass(cuttingCells);
+    Pass(2); // legend
+    Pass(2); // formations
+    in.Skip(MaxBottNotes);
     LogBoring.Client = {};
     LogBoring.Style = 1;
-    for (int i = 1; i <= MaxClient && !boring.in.AtEnd(); ++i)
-        LogBoring.Client[i] = boring.in.Line();
-    if (!boring.in.AtEnd())
-        LogBoring.Style = RoundInt16(TextNumber(boring.in.Line()));
+    for (int i = 1; i <= MaxClient && !in.AtEnd(); ++i)
+        LogBoring.Client[i] = in.Line();
+    if (!in.AtEnd())
+        LogBoring.Style = RoundInt16(TextNumber(in.Line()));
 }
 
 // ---- The readers
@@ -168,7 +167,7 @@ void VCROSS::ReadSectionWell(const Text& path, int i, SectionWell& well, bool wi
     boring.OuterLayers(well);
     InnerLayers(boring, well);
     if (withClient)
-        ClientBlock(boring);
+        boring.ClientBlock();
 }
 
 void VCROSS::ReadFenceBoring(const Text& path, int i, SectionWell& well, bool withClient)
@@ -184,5 +183,5 @@ void VCROSS::ReadFenceBoring(const Text& path, int i, SectionWell& well, bool wi
         return;
     boring.Pass(layerCells); // outer layers
     boring.Pass(layerCells); // inner layers
-    ClientBlock(boring);
+    boring.ClientBlock();
 }

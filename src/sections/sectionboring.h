@@ -49,6 +49,7 @@ struct BoringBlocks {
     int ParamCells() const; // of a row of general parameters, its depth among them
     void GenWell(int i, SectionWell& well);
     void OuterLayers(SectionWell& well);
+    void ClientBlock(); // behind the inner table: what drawclient prints, as far as the file lasts
     LineReader in;
     Text version;
 };

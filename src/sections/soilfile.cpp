@@ -71,20 +71,25 @@ try {
     return false;
 }
 
+// A note as it was typed: without the mark at its end.
+static std::string_view NoteWords(int row)
+{
+    std::string_view words = SoilData.notes[row];
+    if (words.ends_with(ParagraphMark))
+        words.remove_suffix(1);
+    return words;
+}
+
 // The notes as text: each line ends a paragraph, since the box has the width that they were cut to. Lines that are
 // empty at the end are left out, or they would fill the box.
 static Text NotesText()
 {
     int last = MaxSoilNotes;
-    while (last > 0 && IsBlank(SoilData.notes[last]))
+    while (last > 0 && IsBlank(NoteWords(last)))
         --last;
     Text text;
-    for (int row = 1; row <= last; ++row) {
-        std::string_view line = SoilData.notes[row];
-        if (line.ends_with(ParagraphMark))
-            line.remove_suffix(1);
-        text.append(row == 1 ? "" : CrLf).append(line);
-    }
+    for (int row = 1; row <= last; ++row)
+        text.append(row == 1 ? "" : CrLf).append(NoteWords(row));
     return text;
 }
 
@@ -97,15 +102,6 @@ try {
     ForgetSteps(frmSoil::SS1);
 } catch (...) {
     ReportFailure(__func__);
-}
-
-void ClearSoilForm()
-{
-    frmSoil::FileName.clear();
-    ClearSoilArrays();
-    FillSoilForm();
-    FileChanged = 0;
-    frmSoil::Title = toolTitle;
 }
 
 void frmSoil::SizeMemo()
@@ -130,19 +126,4 @@ void frmSoil::cmdAdj5()
 void frmSoil::cmdAdj6()
 {
     AdjustMemo(50);
-}
-
-static void RefuseRows()
-{
-    MsgBox("It is not possible to insert or delete rows in this box.", OkOnly, Exclamation);
-}
-
-void frmSoil::mnuInsertRow()
-{
-    RefuseRows();
-}
-
-void frmSoil::mnuDeleteRow()
-{
-    RefuseRows();
 }

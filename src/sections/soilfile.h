@@ -36,9 +36,6 @@ void OpenSoilFile(); // frmSoil::FileName into SoilData, which is emptied first
 bool SaveSoilFile();
 void ClearSoilArrays();
 void FillSoilForm(); // SoilData into the boxes, and the title by FileName. Leaves FileChanged as it is
-// The clearing of New, and of the window's opening: no file name, empty boxes and record, the title; FileChanged 0. It
-// does not ask.
-void ClearSoilForm();
 
 // The boxes of the soil tool; MemoSoil and Title stand elsewhere.
 namespace frmSoil
@@ -50,7 +47,4 @@ void SizeMemo();      // the notes box by its adjustment, as at the opening of t
 // The buttons that make the notes box narrower and wider by 50 twips, without a limit.
 void cmdAdj5();
 void cmdAdj6();
-// Refused: the rows have their meaning by their place.
-void mnuInsertRow();
-void mnuDeleteRow();
 } // namespace frmSoil

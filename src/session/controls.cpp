@@ -50,6 +50,23 @@ void Grid::Clear()
     ClearRows(1, rows);
 }
 
+void Grid::Resize(int rowCount, int columnCount)
+{
+    std::vector<Text> kept(static_cast<std::size_t>(rowCount) * columnCount);
+    for (int row = 1; row <= std::min(rows, rowCount); ++row)
+        for (int column = 1; column <= std::min(columns, columnCount); ++column)
+            kept[static_cast<std::size_t>(row - 1) * columnCount + (column - 1)] = std::move(Cell(row, column));
+    cells = std::move(kept);
+    rows = rowCount;
+    columns = columnCount;
+    headings.resize(static_cast<std::size_t>(columnCount) + 1);
+}
+
+GridShape Grid::Shape() const
+{
+    return {rows, columns, headings};
+}
+
 int Memo::Points() const
 {
     return factor == 1550 ? 8 : 7;

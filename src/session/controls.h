@@ -16,7 +16,20 @@ struct CellChange {
     int row, column;
     Text before, after;
 };
-using GridStep = std::vector<CellChange>; // what one Undo takes back
+
+// How large a grid is, and the headings of its columns.
+struct GridShape {
+    int rows, columns;
+    std::vector<Text> headings;
+    friend bool operator==(const GridShape&, const GridShape&) = default;
+};
+
+// What one Undo takes back. A cell that one of the two shapes lacks counts as empty there.
+struct GridStep {
+    std::vector<CellChange> cells;
+    GridShape before, after;
+    std::vector<Text> besideBefore, besideAfter; // empty where no row has come or gone
+};
 
 // A grid of text cells, rows and columns from 1. A cell outside is failure 380.
 struct Grid {
@@ -26,12 +39,22 @@ struct Grid {
     int DataRowCount() const; // the last row with a character in any cell, blanks included; 0 if none
     void ClearRows(int first, int last);
     void Clear();
+    void Resize(int rowCount, int columnCount); // cells and headings that both sizes have stay
+    GridShape Shape() const;
 
     int rows, columns;
+    // Rows put in make a grid grow up to maxRows, and rows taken out make it shrink down to minRows. 0: it has its
+    // rows, and no more and no fewer.
+    int minRows = 0, maxRows = 0;
+    // Cells that go with the rows and that no column shows, so many to a row; kept elsewhere, row by row. May be null.
+    int besideWidth = 0;
+    std::vector<Text> (*beside)() = nullptr;
+    void (*putBeside)(const std::vector<Text>&) = nullptr;
     std::vector<Text> cells;
     std::vector<Text> headings;    // of the columns, from index 1
     std::vector<Text> rowHeadings; // from index 1; short or empty: numbers
     Text title;
+    std::vector<std::vector<Text>> choices; // of the columns, from index 1: what a cell is picked from; none: any text
     int locked = 0; // so many first columns are there to read: nothing that the user does changes them
     Text fontName;  // of the cells; "": the window's own
     // What the user does in it (session/gridedit.h).

@@ -23,9 +23,12 @@ int FailureInHand()
     }
 }
 
+int FailuresReported = 0;
+
 void ReportFailure(const char* procedure)
 {
     const int number = FailureInHand();
+    ++FailuresReported;
     MsgBox("Error" + NumberText(number) + " in " + procedure + ".  Please contact Norvane", OkOnly, NoIcon);
 }
 

@@ -9,28 +9,63 @@
 
 static constexpr size_t maxSteps = 1000;
 
-static GridStep Differences(const Grid& grid, const std::vector<Text>& before)
+// The cells of a grid at one moment.
+struct Cells {
+    GridShape shape;
+    std::vector<Text> cells, beside;
+    const Text& At(int row, int column) const
+    {
+        static const Text none;
+        return row > shape.rows || column > shape.columns ? none
+                                                          : cells[size_t(row - 1) * shape.columns + (column - 1)];
+    }
+};
+
+static Cells CellsOf(const Grid& grid)
 {
-    GridStep step;
-    for (size_t i = 0; i < before.size(); ++i)
-        if (before[i] != grid.cells[i])
-            step.push_back({int(i) / grid.columns + 1, int(i) % grid.columns + 1, before[i], grid.cells[i]});
+    return {grid.Shape(), grid.cells, grid.beside ? grid.beside() : std::vector<Text>()};
+}
+
+static GridStep Differences(const Cells& before, const Cells& after)
+{
+    GridStep step{{}, before.shape, after.shape, {}, {}};
+    if (before.beside != after.beside) {
+        step.besideBefore = before.beside;
+        step.besideAfter = after.beside;
+    }
+    for (int row = 1; row <= std::max(before.shape.rows, after.shape.rows); ++row)
+        for (int column = 1; column <= std::max(before.shape.columns, after.shape.columns); ++column)
+            if (before.At(row, column) != after.At(row, column))
+                step.cells.push_back({row, column, before.At(row, column), after.At(row, column)});
     return step;
+}
+
+// The current cell and the block stay inside the grid.
+static void StayInside(Grid& grid)
+{
+    grid.row = std::min(grid.row, grid.rows);
+    grid.column = std::min(grid.column, grid.columns);
+    Block& block = grid.selected;
+    block.top = std::min(block.top, grid.rows);
+    block.bottom = std::min(block.bottom, grid.rows);
+    block.left = std::min(block.left, grid.columns);
+    block.right = std::min(block.right, grid.columns);
 }
 
 // One change by the user.
 static void Change(Grid& grid, const std::function<void()>& write)
 {
-    const std::vector<Text> before = grid.cells;
+    const Cells before = CellsOf(grid);
     write();
-    for (size_t i = 0; i < before.size(); ++i)
-        if (int(i) % grid.columns < grid.locked)
-            grid.cells[i] = before[i];
-    if (grid.cells == before)
+    for (int row = 1; row <= std::min(grid.rows, before.shape.rows); ++row)
+        for (int column = 1; column <= std::min(grid.locked, grid.columns); ++column)
+            grid.Cell(row, column) = before.At(row, column);
+    StayInside(grid);
+    if (grid.cells == before.cells && grid.Shape() == before.shape && (!grid.beside || grid.beside() == before.beside))
         return;
     if (grid.changed)
         grid.changed();
-    grid.done.push_back(Differences(grid, before));
+    grid.done.push_back(Differences(before, CellsOf(grid)));
     if (grid.done.size() > maxSteps)
         grid.done.erase(grid.done.begin());
     grid.undone.clear();
@@ -111,16 +146,38 @@ void FillDown(Grid& grid)
     });
 }
 
-void InsertRow(Grid& grid)
+// What stands beside the rows makes room for one at the current row, or closes over it.
+static void MoveBeside(Grid& grid, bool in)
 {
-    if (grid.DataRowCount() == grid.rows) {
-        Platform.Notice("The last row holds text, so no row was inserted.");
+    if (!grid.beside)
         return;
+    std::vector<Text> cells = grid.beside();
+    const auto at = cells.begin() + std::ptrdiff_t(grid.row - 1) * grid.besideWidth;
+    const auto fresh = in ? cells.end() - grid.besideWidth : at;
+    std::fill(fresh, fresh + grid.besideWidth, Text());
+    std::rotate(at, in ? fresh : at + grid.besideWidth, cells.end());
+    grid.putBeside(cells);
+}
+
+bool InsertRow(Grid& grid)
+{
+    const bool grows = grid.maxRows > 0;
+    if (grows && grid.rows >= grid.maxRows) {
+        Platform.Notice("The grid has " + PlainNumber(grid.rows) + " rows, which is all that it can have.");
+        return false;
+    }
+    if (!grows && grid.DataRowCount() == grid.rows) {
+        Platform.Notice("The last row holds text, so no row was inserted.");
+        return false;
     }
     Change(grid, [&] {
+        if (grows)
+            grid.Resize(grid.rows + 1, grid.columns);
         const auto at = grid.cells.begin() + std::ptrdiff_t(grid.row - 1) * grid.columns;
         std::rotate(at, grid.cells.end() - grid.columns, grid.cells.end());
+        MoveBeside(grid, true);
     });
+    return true;
 }
 
 void DeleteRow(Grid& grid)
@@ -129,28 +186,79 @@ void DeleteRow(Grid& grid)
         grid.ClearRows(grid.row, grid.row);
         const auto at = grid.cells.begin() + std::ptrdiff_t(grid.row - 1) * grid.columns;
         std::rotate(at, at + grid.columns, grid.cells.end());
+        MoveBeside(grid, false);
+        if (grid.maxRows > 0 && grid.rows > grid.minRows)
+            grid.Resize(grid.rows - 1, grid.columns);
+    });
+}
+
+// Column from goes to where column to is; those between make room.
+static void MoveColumn(Grid& grid, int from, int to)
+{
+    const auto turn = [from, to](auto first) { // first: of column 1
+        if (from > to)
+            std::rotate(first + (to - 1), first + (from - 1), first + from);
+        else
+            std::rotate(first + (from - 1), first + from, first + to);
+    };
+    turn(grid.headings.begin() + 1);
+    for (int row = 1; row <= grid.rows; ++row)
+        turn(grid.cells.begin() + std::ptrdiff_t(row - 1) * grid.columns);
+}
+
+bool InsertColumn(Grid& grid, int maxColumns)
+{
+    if (grid.columns >= maxColumns) {
+        Platform.Notice("The grid has " + PlainNumber(grid.columns) + " columns, which is all that it can have.");
+        return false;
+    }
+    Change(grid, [&] {
+        grid.Resize(grid.rows, grid.columns + 1);
+        MoveColumn(grid, grid.columns, grid.column);
+    });
+    return true;
+}
+
+void DeleteColumn(Grid& grid)
+{
+    Change(grid, [&] {
+        MoveColumn(grid, grid.column, grid.columns);
+        grid.Resize(grid.rows, grid.columns - 1);
     });
 }
 
 // The last step of one list is applied, one way or the other, and moves to the other list. The block that it touched is
 // shown.
-static bool Move(Grid& grid, std::vector<GridStep>& from, std::vector<GridStep>& to, Text CellChange::*text)
+static bool Move(Grid& grid, std::vector<GridStep>& from, std::vector<GridStep>& to, Text CellChange::*text,
+                 GridShape GridStep::*shape, std::vector<Text> GridStep::*beside)
 {
     if (from.empty())
         return false;
     GridStep step = std::move(from.back());
     from.pop_back();
-    for (const CellChange& change : step)
+    const GridShape& wanted = step.*shape;
+    if (step.before.rows != step.after.rows || step.before.columns != step.after.columns)
+        grid.Resize(wanted.rows, wanted.columns);
+    if (!(step.*beside).empty())
+        grid.putBeside(step.*beside);
+    if (step.before.headings != step.after.headings)
+        grid.headings = wanted.headings;
+    Block touched{grid.rows + 1, grid.columns + 1, 0, 0};
+    for (const CellChange& change : step.cells) {
+        if (change.row > grid.rows || change.column > grid.columns)
+            continue; // a cell of the larger shape
         grid.Cell(change.row, change.column) = change.*text;
-    Block touched{step[0].row, step[0].column, step[0].row, step[0].column};
-    for (const CellChange& change : step) {
+        touched.top = std::min(touched.top, change.row);
         touched.left = std::min(touched.left, change.column);
         touched.right = std::max(touched.right, change.column);
         touched.bottom = std::max(touched.bottom, change.row);
     }
-    grid.selected = touched;
-    grid.row = touched.top;
-    grid.column = touched.left;
+    if (touched.bottom > 0) {
+        grid.selected = touched;
+        grid.row = touched.top;
+        grid.column = touched.left;
+    }
+    StayInside(grid);
     to.push_back(std::move(step));
     if (grid.changed)
         grid.changed();
@@ -159,12 +267,12 @@ static bool Move(Grid& grid, std::vector<GridStep>& from, std::vector<GridStep>&
 
 bool UndoGrid(Grid& grid)
 {
-    return Move(grid, grid.done, grid.undone, &CellChange::before);
+    return Move(grid, grid.done, grid.undone, &CellChange::before, &GridStep::before, &GridStep::besideBefore);
 }
 
 bool RedoGrid(Grid& grid)
 {
-    return Move(grid, grid.undone, grid.done, &CellChange::after);
+    return Move(grid, grid.undone, grid.done, &CellChange::after, &GridStep::after, &GridStep::besideAfter);
 }
 
 void ForgetSteps(Grid& grid)

@@ -13,10 +13,15 @@ void CutSelected(Grid& grid);
 // The clipboard from the block's first cell on; one cell alone fills the whole block. What does not fit is left out,
 // and said. The block becomes what was filled.
 void PasteSelected(Grid& grid);
-void FillDown(Grid& grid);  // the block's first row into the others; a block of one row takes the row above it
-void InsertRow(Grid& grid); // in front of the current row. A last row that holds text is not pushed out: refused
+void FillDown(Grid& grid); // the block's first row into the others; a block of one row takes the row above it
+// A row in front of the current one. A last row that holds text is not pushed out, and a grid that grows has a size of
+// its own: false then, and it is said.
+bool InsertRow(Grid& grid);
 void DeleteRow(Grid& grid); // the current row goes, an empty one comes at the end
-bool UndoGrid(Grid& grid);  // false: there is nothing to take back
+// The same with columns, whose headings go with them; the grid grows to maxColumns.
+bool InsertColumn(Grid& grid, int maxColumns);
+void DeleteColumn(Grid& grid);
+bool UndoGrid(Grid& grid); // false: there is nothing to take back
 bool RedoGrid(Grid& grid);
 void ForgetSteps(Grid& grid); // another boring is in the boxes
 

@@ -7,8 +7,12 @@
 #include "session/text.h"
 
 enum Buttons { OkOnly, OkCancel, YesNo, YesNoCancel };
-enum Icon { NoIcon, Question, Exclamation };
+// Announcement has no icon: it tells that what was asked for begins or is done, and nothing is wrong.
+enum Icon { NoIcon, Question, Exclamation, Announcement };
 enum Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+
+// The tools of the program. The log tool stays open under the others, of which one at a time is open.
+enum class Tool { Log, Cross, Fence, Soil, GIS };
 
 // What a printer says of its sheet: the printable size, in inches and in device units.
 struct Sheet {
@@ -45,10 +49,12 @@ struct PlatformRecord {
     void (*PrintToPdf)(bool on);              // while on, print runs go to a PDF whatever printer is chosen
     // The start and the end of the desktop program.
     Text (*ExecutableFolder)();
+    Text (*DataFolder)();             // where the user's programs keep their data; need not be there yet
     void (*ShowAbout)(bool blocking); // the title box; blocking: until it is clicked
     void (*ShowLogWindow)();          // the log window, loaded and shown when this returns
     void (*ShowWelcome)();            // blocking
     void (*EndProcess)();             // the log window goes, and with it the program
+    void (*ShowTool)(Tool tool);      // blocking: until the user is back in the log tool, or leaves the program
     // The clipboard, lines ended by CR LF; and a word in passing: a beep, and the words where they hold up nobody.
     Text (*ClipboardText)();
     void (*SetClipboardText)(const Text& text);

@@ -5,6 +5,7 @@
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/stockfiles.h"
 
 #include <filesystem>
 
@@ -12,7 +13,9 @@ Text HelpFile;
 
 void LoadTitleBox()
 {
-    WorkingFolder = RunFolder = Platform.ExecutableFolder();
+    WorkingFolder = RunFolder = HomeFolder();
+    if (Installed())
+        CopyStockFiles();
     // What the system resolves without files.cpp, such as its own file dialogs, counts from here too. A folder that
     // cannot be entered fails later, at its first file.
     std::error_code ignored;

@@ -62,6 +62,14 @@ TEST_CASE("a wrong command line is told in one line, with no job")
         {{"intro", "--type", "1"}, "no file given for intro"},
         {{"guide", "B-1.BOR"}, "guide takes no file"},
         {{"guide", "--dxf", "o"}, "unknown option for guide: --dxf"},
+        {{"soil"}, "no file given for soil"},
+        {{"soil", "--gis", "a.GIS", "a.SOI"}, "unknown option for soil: --gis"},
+        {{"gis-add", "B-1.BOR"}, "gis-add takes --gis FILE"},
+        {{"gis-add", "--gis", "a.GIS"}, "no file given for gis-add"},
+        {{"gis-add", "--evs", "e.txt", "B-1.BOR"}, "unknown option for gis-add: --evs"},
+        {{"gis-export", "a.GIS"}, "gis-export takes --arcview OUT | --evs OUT"},
+        {{"gis-export", "--evs", "e", "--arcview", "a", "a.GIS"}, "gis-export takes --arcview OUT | --evs OUT"},
+        {{"gis-export", "--evs", "e", "a.GIS", "b.GIS"}, "gis-export takes one file"},
     };
     for (const auto& [words, wrong] : lines) {
         const CommandLine line = ReadCommandLine(words);
@@ -98,6 +106,29 @@ TEST_CASE("cross sections run as the print job, with the options of a log")
     CHECK(ReadCommandLine({"section"}).Wrong == "no file given for section");
 }
 
+TEST_CASE("soil tables run as their print job, with the options of the logs")
+{
+    const CommandLine line = ReadCommandLine({"soil", "--png", "/o", "--dpi", "80", "/a/A.SOI", "/a/B.SOI"});
+    CHECK(line.Wrong == "");
+    CHECK(line.Job->JobCode == 8);
+    CHECK(line.Job->Work == BatchWork::Draws);
+    CHECK(line.Files.size() == 2);
+}
+
+TEST_CASE("the jobs of the GIS table take full paths")
+{
+    const CommandLine add = ReadCommandLine({"gis-add", "/a/B-1.BOR", "--gis", "/a/SITE.GIS", "/a/B-2.BOR"});
+    CHECK(add.Wrong == "");
+    CHECK(add.Job->Work == BatchWork::AddsToGis);
+    CHECK(add.Gis == "/a/SITE.GIS");
+    CHECK(add.Files.size() == 2);
+    const CommandLine out = ReadCommandLine({"gis-export", "--arcview", "a.txt", "/a/SITE.GIS"});
+    CHECK(out.Wrong == "");
+    CHECK(out.Job->Work == BatchWork::ExportsGis);
+    CHECK(out.ArcView == std::filesystem::current_path().string() + "/a.txt");
+    CHECK(out.Evs == "");
+}
+
 TEST_CASE("a file whose name begins with a hyphen goes behind two hyphens")
 {
     const CommandLine line = ReadCommandLine({"log", "--", "-1.BOR"});
@@ -116,6 +147,10 @@ TEST_CASE("the help has a usage line for each job")
                     "[--png DIR [--dpi N]] [--dxf DIR] [--list FILE] FILE.CRO...\n") != std::string::npos);
     CHECK(text.find("stratavue-batch guide [--home DIR] [--pdf FILE] [--png DIR [--dpi N]] [--list FILE]\n") !=
           std::string::npos);
+    CHECK(text.find("stratavue-batch gis-add --gis FILE FILE.BOR...\n") != std::string::npos);
+    CHECK(text.find("stratavue-batch gis-export --arcview OUT | --evs OUT FILE.GIS\n") != std::string::npos);
+    CHECK(text.find("soil             draws the soil analysis tables") != std::string::npos);
+    CHECK(text.find("gis-add          adds borings") != std::string::npos);
 }
 
 TEST_CASE("without windows the set-up is read and never written, and a missing one is no message")

@@ -91,3 +91,41 @@ TEST_CASE("a point on the live page is the layer at its depth")
         there |= object.Kind == ObjectKind::Line && object.Y1 == object.Y2 && std::abs(object.Y1 - y) <= 2;
     CHECK(there);
 }
+
+TEST_CASE("on upright, landscape and wide pages, with headings turned or not, a point is the layer that is drawn there")
+{
+    std::filesystem::copy(SOURCE_DIR "/data", ScratchFolder());
+    frmBorinput::Load();
+    JobTable[1] = VLOG::vlogstart;
+    std::filesystem::create_directory(Scratch("live"));
+    int contacts = 0;
+    for (const char* sample : {"TC-101", "TC-102", "TC-103", "TC-105", "TC-106", "TC-107", "MW-108"}) {
+        const Text name = sample;
+        CAPTURE(name);
+        frmBorinput::OpenNamed(Text(SOURCE_DIR) + "/samples/" + name + ".BOR");
+        for (int number = 1, pages = 1; number <= pages; ++number) {
+            CAPTURE(number);
+            LivePage page;
+            REQUIRE(DrawLivePage(number, Scratch("live"), page));
+            pages = page.Pages;
+            const int rows = frmBorinput::SSLith.DataRowCount();
+            for (int row = 1; row <= rows; ++row) {
+                const float depth = float(TextNumber(frmBorinput::SSLith.Cell(row, 1)));
+                if (depth <= page.Start || depth >= page.End)
+                    continue;
+                CAPTURE(row);
+                const double y = page.Top + (double(depth) - page.Start) * page.UnitsPerDepth;
+                CHECK(LayerAt(page, y - 1) == row);
+                CHECK(LayerAt(page, y + 1) == (row < rows ? row + 1 : 0));
+                // That is where the page has its line, across or with its leaders.
+                bool there = UpperCase(frmBorinput::SSLith.Cell(row, 3)) == "N";
+                for (const PageObject& object : page.List.Objects)
+                    there |= object.Kind == ObjectKind::Line && std::abs(object.Y1 - y) <= 2;
+                CHECK(there);
+                ++contacts;
+            }
+        }
+    }
+    CHECK(contacts > 40);
+    Messages.clear();
+}

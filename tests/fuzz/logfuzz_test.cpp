@@ -24,6 +24,7 @@ static bool Known(const Text& words)
         "This boring file has the format of a previous version and will be skipped: ",
         "Layout File Not Found: ",
         "File Not Found: ",
+        "Parameter File Not Found: ",
         "Report Part Unknown: ",
         "Report Part, 'P",
         "Unrecognized Command: ",
@@ -41,13 +42,14 @@ static bool Known(const Text& words)
            numbers.contains(static_cast<int>(TextNumber(words.substr(6))));
 }
 
-// Runs so many mutants of a boring as two pages each; how many went without a word.
-static int RunMutants(const std::string& boring, int first, int count)
+// Runs so many mutants of a file of the project, the boring or another that it draws, as two pages of the boring each;
+// how many went without a word.
+static int RunMutants(const std::string& original, int first, int count, const Text& damaged = "B.BOR")
 {
     static int pages;
     pages = 0;
     WriteHeadings();
-    for (const char* layout : {"Pbasic.lay", "PORTRAIT.LAY"})
+    for (const char* layout : {"Pbasic.lay", "PORTRAIT.LAY", "LANDSCAP.LAY", "TABLOID.LAY"})
         WriteScratch(layout, ReadWholeFile(Text(SOURCE_DIR) + "/data/" + layout));
     Platform.Unattended = true;
     Platform.PageDrawn = [] {
@@ -58,7 +60,7 @@ static int RunMutants(const std::string& boring, int first, int count)
     int silent = 0;
     for (int seed = first; seed < first + count; ++seed) {
         INFO("seed ", seed);
-        WriteWholeFile(Scratch("B.BOR"), Mutate(boring, uint64_t(seed)), Durability::Scratch);
+        WriteWholeFile(Scratch(damaged), Mutate(original, uint64_t(seed)), Durability::Scratch);
         Messages.clear();
         WriteBreak("0");
         PageCanvas = CanvasRecord();
@@ -84,6 +86,36 @@ TEST_CASE("a damaged boring file draws its pages or says why not, in known words
     RunMutants(ReadWholeFile(TestData("boring/whole.BOR")), 1, count);
     const int silent = RunMutants(ReadWholeFile(Text(SOURCE_DIR) + "/samples/TC-101.BOR"), 1000001, count);
     // Some damage is told, and some draws as if nothing were amiss: else the mutants miss their point.
+    CHECK(silent > count / 10);
+    CHECK(silent < count);
+}
+
+TEST_CASE("a damaged boring file of a well with every kind of graph draws its pages or says why not, in known words")
+{
+    WriteScratch("SITEMAP.BMP", ReadWholeFile(Text(BUILD_DIR) + "/samples/SITEMAP.BMP"));
+    const int count = MutantCount(100);
+    const int silent = RunMutants(ReadWholeFile(Text(SOURCE_DIR) + "/samples/MW-108.BOR"), 2000001, count);
+    CHECK(silent > count / 10);
+    CHECK(silent < count);
+}
+
+TEST_CASE("a damaged data file of graphs draws what can be read of it, or is told in known words")
+{
+    // Numbers, a graph and several curves from the file, and the file in a size that a mutant of it is soon drawn.
+    std::string boring = ReadWholeFile(Text(SOURCE_DIR) + "/samples/CP-111.BOR");
+    for (const auto& [sample, other] :
+         {std::pair<Text, Text>{"P1G\r\n1.2", "GP2\r\n.5"}, {"P2G\r\n1.1", "GPG1\r\n-"}}) {
+        REQUIRE(boring.find(sample) != std::string::npos);
+        boring.replace(boring.find(sample), sample.size(), other);
+    }
+    WriteScratch("B.BOR", boring);
+    WriteScratch("SITEMAP.BMP", ReadWholeFile(Text(BUILD_DIR) + "/samples/SITEMAP.BMP"));
+    const std::string soundings = ReadWholeFile(Text(BUILD_DIR) + "/samples/CP-111.DAT");
+    size_t end = 0;
+    for (int line = 1; line <= 42; ++line)
+        end = soundings.find('\n', end) + 1;
+    const int count = MutantCount(60);
+    const int silent = RunMutants(soundings.substr(0, end), 3000001, count, "CP-111.DAT");
     CHECK(silent > count / 10);
     CHECK(silent < count);
 }

@@ -1,5 +1,5 @@
-// sectionfuzz_test.cpp -- damaged definitions, tables and borings through whole runs of sections and fences: pages or
-// known messages, never a crash or a hang.
+// sectionfuzz_test.cpp -- damaged definitions, tables and borings through whole runs of sections: pages or known
+// messages, never a crash or a hang.
 #include "fuzz/mutate.h"
 
 #include "testing.h"
@@ -11,8 +11,7 @@
 #include "gis/gisfile.h"
 #include "sections/crossfile.h"
 #include "sections/crosspage.h"
-#include "sections/fencefile.h"
-#include "sections/fencerun.h"
+#include "sections/crossrun.h"
 #include "sections/layershapes.h"
 #include "session/files.h"
 #include "session/session.h"
@@ -36,11 +35,9 @@ static bool Known(const Text& words)
     static const std::set<int> numbers = {InvalidCall, Overflow,     OutOfMemory,  SubscriptOutOfRange, DivisionByZero,
                                           BadFileName, FileNotFound, InputPastEnd, PathAccess,          PathNotFound};
     static const std::set<Text> procedures = {
-        "OpenCrossFile",  "OpenFenceFile",    "OpenGISFile",    "OpenBoringGIS",       "canvasstart",
-        "drawclient",     "drawcrossborings", "drawcrossframe", "drawcrossparams",     "drawfenceborings",
-        "drawfenceframe", "drawlogo",         "drawlogolegend", "drawwaterlevelfence", "drawwaterlevels",
-        "fillcrossGIS",   "fillcrosslayers",  "fillfenceGIS",   "fillfencelayers",     "getcrossdata",
-        "getfencedata",
+        "OpenCrossFile",    "OpenGISFile",    "OpenBoringGIS",   "canvasstart",  "drawclient",
+        "drawcrossborings", "drawcrossframe", "drawcrossparams", "drawlogo",     "drawlogolegend",
+        "drawwaterlevels",  "fillcrossGIS",   "fillcrosslayers", "getcrossdata",
     };
     const Text tail = ".  Please contact Norvane";
     const size_t in = words.find(" in ");
@@ -49,7 +46,7 @@ static bool Known(const Text& words)
            procedures.contains(words.substr(in + 4, words.size() - tail.size() - in - 4));
 }
 
-// ---- The site: four borings, a table of them, sections and fences of every kind
+// ---- The site: four borings, a table of them, a section of every kind
 
 static BoringText SiteBoring(const Text& name, double level, const BoringText::Rows& layers)
 {
@@ -86,42 +83,6 @@ static std::string Definition(int kind)
     return section.Bytes();
 }
 
-static std::string Fence(bool table)
-{
-    std::string bytes = Lines({"", "100,50,A,4,T,B", "300,50,B,3,B,W", "500,200,C.BOR,,T,B", "700,20,D,2,T,B"});
-    for (int i = 5; i <= 15; ++i)
-        bytes += ",,,,,\r\n";
-    bytes += Lines({"", "A,B", "B,C", "3,4", "4,1"});
-    for (int k = 5; k <= 20; ++k)
-        bytes += "\r\n";
-    bytes += Lines({"",
-                    "0",
-                    "800",
-                    "100",
-                    "Feet",
-                    "0",
-                    "100",
-                    "40",
-                    "-20",
-                    "Feet",
-                    "",
-                    "Main",
-                    "First",
-                    "Second",
-                    "Third",
-                    "Y",
-                    table ? "E,90" : "N,180",
-                    "SM;Silty sand",
-                    "CL;Clay",
-                    ";",
-                    ";",
-                    ";",
-                    ";",
-                    ";",
-                    ";"});
-    return bytes + Lines({table ? "T" : "L", table ? "SITE.GIS" : ""});
-}
-
 static std::string Table()
 {
     return Lines({" 3 ", "SM",    "",    "CL", "RED",   "GW", "",      " 4 ",                      //
@@ -149,10 +110,9 @@ static void StartCampaign()
 }
 
 // One run of one file from records as at the start of the program. True when it went without a word.
-static bool Run(void (*start)(), const char* file)
+static bool Run(const char* file)
 {
     ResetCrossRun();
-    ResetFenceRun();
     LayerFill = LayerFillRecord();
     GisData = GisRecord();
     PageCanvas = CanvasRecord();
@@ -160,7 +120,7 @@ static bool Run(void (*start)(), const char* file)
     Messages.clear();
     WriteSectionList({file});
     const auto before = std::chrono::steady_clock::now();
-    start();
+    vcrossstart();
     const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - before;
     CHECK(seconds.count() < 20);
     CHECK(RunPages.pageIndex == 2);
@@ -183,12 +143,7 @@ TEST_CASE("the site of the campaigns is drawn without a word as it stands")
     StartCampaign();
     for (int kind = 0; kind < 4; ++kind) {
         WriteScratch("S.CRO", Definition(kind));
-        CHECK(Run(vcrossstart, "S.CRO"));
-        CHECK(PageList.Objects.size() > 100);
-    }
-    for (const bool table : {false, true}) {
-        WriteScratch("S.FEN", Fence(table));
-        CHECK(Run(vfencestart, "S.FEN"));
+        CHECK(Run("S.CRO"));
         CHECK(PageList.Objects.size() > 100);
     }
 }
@@ -201,20 +156,7 @@ TEST_CASE("a damaged section definition draws its page or says why not, in known
     for (int seed = 1; seed <= count; ++seed) {
         INFO("seed ", seed);
         WriteWholeFile(Scratch("S.CRO"), Mutate(Definition(seed % 4), uint64_t(seed)), Durability::Scratch);
-        silent += Run(vcrossstart, "S.CRO");
-    }
-    CheckCampaign(silent, count);
-}
-
-TEST_CASE("a damaged fence definition draws its page or says why not, in known words")
-{
-    StartCampaign();
-    const int count = MutantCount(400);
-    int silent = 0;
-    for (int seed = 1; seed <= count; ++seed) {
-        INFO("seed ", seed);
-        WriteWholeFile(Scratch("S.FEN"), Mutate(Fence(seed % 2), uint64_t(seed)), Durability::Scratch);
-        silent += Run(vfencestart, "S.FEN");
+        silent += Run("S.CRO");
     }
     CheckCampaign(silent, count);
 }
@@ -223,23 +165,21 @@ TEST_CASE("a damaged GIS table leaves a page, or says why not, in known words")
 {
     StartCampaign();
     WriteScratch("S.CRO", Definition(1));
-    WriteScratch("S.FEN", Fence(true));
     const int count = MutantCount(400);
     int silent = 0;
     for (int seed = 1; seed <= count; ++seed) {
         INFO("seed ", seed);
         WriteWholeFile(Scratch("SITE.GIS"), Mutate(Table(), uint64_t(seed)), Durability::Scratch);
-        silent += seed % 2 ? Run(vcrossstart, "S.CRO") : Run(vfencestart, "S.FEN");
+        silent += Run("S.CRO");
     }
     CHECK(pagesDrawn == count);
     CheckCampaign(silent, count);
 }
 
-TEST_CASE("a damaged boring leaves a page of its section or fence, or says why not, in known words")
+TEST_CASE("a damaged boring leaves a page of its section, or says why not, in known words")
 {
     StartCampaign();
     const std::string boring = ReadScratch("B.BOR");
-    WriteScratch("SF.FEN", Fence(false));
     for (int kind = 0; kind < 4; ++kind)
         WriteScratch("S" + std::to_string(kind) + ".CRO", Definition(kind));
     const int count = MutantCount(400);
@@ -247,9 +187,7 @@ TEST_CASE("a damaged boring leaves a page of its section or fence, or says why n
     for (int seed = 1; seed <= count; ++seed) {
         INFO("seed ", seed);
         WriteWholeFile(Scratch("B.BOR"), Mutate(boring, uint64_t(seed)), Durability::Scratch);
-        const int kind = seed % 5;
-        silent +=
-            kind == 4 ? Run(vfencestart, "SF.FEN") : Run(vcrossstart, ("S" + std::to_string(kind) + ".CRO").c_str());
+        silent += Run(("S" + std::to_string(seed % 4) + ".CRO").c_str());
     }
     CHECK(pagesDrawn == count);
     CheckCampaign(silent, count);
@@ -257,7 +195,7 @@ TEST_CASE("a damaged boring leaves a page of its section or fence, or says why n
 
 // ---- The editors' readers
 
-TEST_CASE("damaged sections, fences, tables and borings come into their forms, or are told in known words")
+TEST_CASE("damaged sections, tables and borings come into their forms, or are told in known words")
 {
     StartCampaign();
     const std::string boring = ReadScratch("B.BOR");
@@ -280,11 +218,6 @@ TEST_CASE("damaged sections, fences, tables and borings come into their forms, o
             OpenCrossFile();
             FillCrossForm();
         });
-        load("E.FEN", Fence(seed % 2), seed, [](const Text& path) {
-            frmFence::FileName = path;
-            OpenFenceFile();
-            FillFenceForm();
-        });
         load("E.GIS", Table(), seed, [](const Text& path) {
             OpenGISFile(path);
             FillGISForm();
@@ -292,5 +225,5 @@ TEST_CASE("damaged sections, fences, tables and borings come into their forms, o
         load("E.BOR", boring, seed, [](const Text& path) { OpenBoringGIS(path); });
     }
     CHECK(silent > count / 10);
-    CHECK(silent < 4 * count);
+    CHECK(silent < 3 * count);
 }

@@ -287,6 +287,110 @@ class Batch(unittest.TestCase):
         self.assertIn(" TC-101 ", texts(pages[0]))
         self.assertNotIn(" TC-102 ", texts(pages[0]))
 
+    def test_soil_tables_are_one_page_each(self):
+        done = self.run_batch("soil", "--pdf", "a.pdf", "--png", "png", "--dpi", "20", "--list", "a.jsonl", "--date",
+                              "1 May 2001", sample("MW-108.SOI"), sample("SB-111.SOI"))
+        self.assertEqual(done.stderr, "")
+        pages = listing(self.path("a.jsonl"))
+        self.assertEqual([page[0]["source"] for page in pages], ["MW-108.SOI", "SB-111.SOI"])
+        self.assertEqual([page[0]["mode"] for page in pages], ["L", "L"])
+        self.assertIn("Sample Source: MW-108", texts(pages[0]))
+        self.assertEqual(texts(pages[1])[-1], "1 May 2001   " + sample("SB-111.SOI"))
+        bars = [item for item in pages[1][1] if item["kind"] == "polygon" and "F01" in item["brush"].get("fill", "")]
+        self.assertGreater(len(bars), 20)
+        self.assertEqual(sorted(os.listdir(self.path("png"))), ["MW-108-1.png", "SB-111-1.png"])
+        info = subprocess.run(["pdfinfo", self.path("a.pdf")], capture_output=True, text=True).stdout
+        self.assertIn("Pages:           2\n", info)
+
+    def test_a_soil_table_or_its_boring_that_is_not_there_is_told_and_the_others_are_drawn(self):
+        with open(sample("MW-108.SOI"), "rb") as file:
+            lines = file.read().split(b"\r\n")
+        with open(self.path("A.SOI"), "wb") as file:
+            file.write(b"\r\n".join([b"NO-1"] + lines[1:]))
+        done = self.run_batch("soil", "--list", "a.jsonl", "none.SOI", "A.SOI", sample("SB-111.SOI"), status=1)
+        folder = os.path.realpath(self.folder)
+        self.assertEqual(done.stderr.splitlines(), [
+            f"File Not Found: {folder}/none.SOI.  Possible solution: Use 'Project: Select Project' to select your "
+            "project before opening files.",
+            f"Boring File Not Found: {folder}/NO-1.bor",
+            f"Boring File Not Found: {folder}/SB-111.BOR"])
+        self.assertEqual([page[0]["source"] for page in listing(self.path("a.jsonl"))], ["A.SOI", "SB-111.SOI"])
+
+    def gis_lines(self, name):
+        with open(self.path(name), "rb") as file:
+            data = file.read()
+        self.assertTrue(data.endswith(b"\r\n"))
+        return data.decode("cp1252").split("\r\n")[:-1]
+
+    def write(self, name, *lines):
+        with open(self.path(name), "wb") as file:
+            file.write("".join(line + "\r\n" for line in lines).encode("cp1252"))
+
+    def test_borings_are_added_to_a_new_gis_table(self):
+        done = self.run_batch("gis-add", "--gis", "SITE", sample("MW-108.BOR"), sample("TC-101.BOR"))
+        self.assertEqual(done.stderr, "")
+        self.assertEqual(self.gis_lines("SITE.GIS"),
+                         [" 0 ", " 2 ", "MW-108", "2930", "1160", "415.8", "MW-108.BOR",
+                          "TC-101", "2410", "1180", "412.6", "TC-101.BOR", ""])
+        self.assertEqual(sorted(os.listdir(self.folder)), ["SITE.GIS", "tmp"])
+
+    def test_borings_are_added_below_the_rows_of_a_gis_table_by_its_layers(self):
+        self.write("site.gis", " 3 ", "GM", "", "AR", "GRAY", "CL", "", " 1 ", "B-1", "1", "2", "3", "b-1", "4", "X",
+                   "5-6", "kept")
+        done = self.run_batch("gis-add", "--gis", "SITE", sample("MW-108.BOR"), sample("MW-109.BOR"))
+        self.assertEqual(done.stderr, "")
+        self.assertEqual(self.gis_lines("site.gis"),
+                         [" 3 ", "GM", "", "AR", "GRAY", "CL", "", " 3 ", "B-1", "1", "2", "3", "b-1", "4", "X", "5-6",
+                          "MW-108", "2930", "1160", "415.8", "MW-108.BOR", "0.7", "4.9", "4.9",
+                          "MW-109", "2960", "1205", "416.2", "MW-109.BOR", "0", "5.4", "5.4", "kept"])
+
+    def test_borings_that_cannot_be_read_are_told_and_have_their_row(self):
+        self.write("SITE.GIS", " 1 ", "AR", "", " 0 ", "")
+        self.write("OLD.BOR", "4.6")
+        self.write("OLD2.BOR", "4.6")
+        done = self.run_batch("gis-add", "--gis", "SITE.GIS", "OLD.BOR", "OLD2.BOR", "none.BOR", status=1)
+        self.assertEqual(done.stderr.splitlines(), ["This boring file has an invalid format."] * 2 +
+                         ["Error 53 in OpenBoringGIS.  Please contact Norvane"])
+        self.assertEqual(self.gis_lines("SITE.GIS"), [" 1 ", "AR", "", " 3 ", "", "", "", "", "OLD.BOR", "0",
+                                                      "", "", "", "", "OLD2.BOR", "0", "", "", "", "", "none.BOR", "0",
+                                                      ""])
+
+    def test_a_gis_table_that_cannot_be_read_is_left_as_it_is(self):
+        self.write("SITE.GIS", " 1 ", "AR", "", " 5 ", "B-1")
+        done = self.run_batch("gis-add", "--gis", "SITE.GIS", sample("MW-108.BOR"), status=1)
+        self.assertEqual(done.stderr, "Error 62 in OpenGISFile.  Please contact Norvane\n")
+        self.assertEqual(self.gis_lines("SITE.GIS"), [" 1 ", "AR", "", " 5 ", "B-1"])
+        done = self.run_batch("gis-export", "--evs", "e.txt", "SITE.GIS", status=1)
+        self.assertEqual(done.stderr, "Error 62 in OpenGISFile.  Please contact Norvane\n")
+        self.assertFalse(os.path.exists(self.path("e.txt")))
+
+    def test_more_than_200_borings_are_refused_and_nothing_is_written(self):
+        row = ["B", "", "", "", ""]
+        self.write("SITE.GIS", " 0 ", " 200 ", *row * 200, "")
+        done = self.run_batch("gis-add", "--gis", "SITE.GIS", sample("MW-108.BOR"), status=1)
+        self.assertEqual(done.stderr, "Run-time error 9\n")
+        self.assertEqual(self.gis_lines("SITE.GIS"), [" 0 ", " 200 ", *row * 200, ""])
+
+    def test_a_gis_table_goes_out_to_both_programs(self):
+        done = self.run_batch("gis-export", "--arcview", "a.txt", sample("WIREWICK.GIS"))
+        self.assertEqual(done.stderr, "Done Creating ArcView Export File.\n")
+        lines = self.gis_lines("a.txt")
+        self.assertEqual(len(lines), 42)
+        self.assertEqual(lines[0], "MW-108,2930,1160,4.9,AR")
+        self.assertEqual(lines[8], "MW-109,2960,1205,16.6,CL")
+        done = self.run_batch("gis-export", "--evs", "e.txt", sample("WIREWICK.GIS"))
+        self.assertEqual(done.stderr, "Done Creating EVS Export File.\n")
+        self.assertEqual(self.gis_lines("e.txt")[:4],
+                         ["Easting/X   Northing/Y   Surf_Elev.   @@AR   @@CL   @@SP   @@GW   @@GT   @@SH   Boring",
+                          "-1", " 7   7", "2930   1160   415.8   4.9   15.2   32.2   35   X-35   X-35   MW-108"])
+
+    def test_a_gis_table_that_is_not_there_and_an_export_that_cannot_be_written_are_told(self):
+        done = self.run_batch("gis-export", "--evs", "e.txt", "none", status=1)
+        self.assertEqual(done.stderr, f"GIS File Not Found: {os.path.realpath(self.folder)}/none.gis\n")
+        done = self.run_batch("gis-export", "--evs", "none/e.txt", sample("WIREWICK.GIS"), status=1)
+        self.assertEqual(done.stderr, "Error 76 in ExportGIS2ArcView.  Please contact Norvane\n")
+        self.assertEqual(os.listdir(self.folder), ["tmp"])
+
     def test_the_guide_is_one_page_with_all_patterns(self):
         done = self.run_batch("guide", "--pdf", "g.pdf", "--png", "png", "--list", "g.jsonl")
         self.assertEqual(done.stderr, "")

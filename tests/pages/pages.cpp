@@ -10,6 +10,7 @@
 #include "logrender/vlog.h"
 #include "sections/crossrun.h"
 #include "sections/fencerun.h"
+#include "sections/soiltable.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"
@@ -46,6 +47,7 @@ static std::string DrawFiles(const std::string& folder, int16_t job, const std::
     JobTable[2] = VLOG::vlogstart;
     JobTable[4] = VCROSS::vcrossstart;
     JobTable[6] = VCROSS::vfencestart;
+    JobTable[8] = VCROSS::vsoilstart;
     IntroPages = VLOG::vlogintrostart;
     std::string listing;
     Listings.clear();

@@ -17,7 +17,8 @@ std::string DrawLogs(const std::string& folder, const std::vector<Text>& borings
 // The intro pages of the borings in the same way, in arrangement 1 or 2.
 std::string DrawIntro(const std::string& folder, const std::vector<Text>& borings, int arrangement);
 
-// Sections, fences or tables in the same way, by the code of the job that prints them: 4 sections, 6 fences.
+// Sections, fences or tables in the same way, by the code of the job that prints them: 4 sections, 6 fences, 8 soil
+// tables.
 std::string DrawSheets(const std::string& folder, int16_t job, const std::vector<Text>& files);
 
 // Compares with the kept listing tests/pages/NAME.jsonl, line by line; says the first lines that differ. With

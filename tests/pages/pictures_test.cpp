@@ -73,13 +73,44 @@ static void StartPictures()
 TEST_CASE("the first pages of the sample borings look like the kept pictures")
 {
     const std::string folder = std::string(BUILD_DIR) + "/samples";
-    for (const Text name : {"TC-101", "TC-102", "TC-103", "TC-104", "TC-105", "TC-106", "TC-107"}) {
+    for (const Text name : {"TC-101", "TC-102", "TC-103", "TC-104", "TC-105", "TC-106", "TC-107", "MW-108", "MW-109",
+                            "MW-110", "MW-112", "CP-111"}) {
         CAPTURE(name);
         std::filesystem::remove_all(ScratchFolder());
         std::filesystem::create_directories(ScratchFolder());
         StartPictures();
         pageName = name;
         DrawLogs(folder, {name + ".BOR"});
+        CheckPicture(name);
+    }
+}
+
+TEST_CASE("the pages with every column look like the kept pictures")
+{
+    const std::string folder = std::string(SOURCE_DIR) + "/tests/pages/columns";
+    for (const Text name : {"PAGE-1", "PAGE-2", "PAGE-3"}) {
+        CAPTURE(name);
+        std::filesystem::remove_all(ScratchFolder());
+        std::filesystem::create_directories(ScratchFolder());
+        StartPictures();
+        pageName = "columns-" + name.substr(5);
+        const Text kept = pageName;
+        DrawLogs(folder, {name + ".BOR"});
+        CheckPicture(kept);
+    }
+}
+
+TEST_CASE("the intro pages of a sample boring look like the kept pictures, in both arrangements")
+{
+    const std::string folder = std::string(BUILD_DIR) + "/samples";
+    for (const int arrangement : {1, 2}) {
+        CAPTURE(arrangement);
+        std::filesystem::remove_all(ScratchFolder());
+        std::filesystem::create_directories(ScratchFolder());
+        StartPictures();
+        const Text name = "MW-108-intro" + PlainNumber(arrangement);
+        pageName = name;
+        DrawIntro(folder, {"MW-108.BOR"}, arrangement);
         CheckPicture(name);
     }
 }

@@ -358,6 +358,14 @@ TEST_CASE("a first corner off the sheet keeps the pen's old place on that axis, 
     CHECK(Polygons()[0] == "SM 110,0 110,-10 800,-10 800,20 110,20");
 }
 
+TEST_CASE("a pair starts with the pen at the ground of its left column, where a first corner off the sheet stays")
+{
+    SetSection({{100, 98, {{20, "CL"}}}, {2000, 100, {{6, "SM"}, {30, "CL"}}}});
+    fillcrosslayers();
+    CHECK(Polygons()[0] == "SM 110,0 1990,-6 110,-2 1990,0");
+    CHECK(Polygons()[1] == "CL 110,-2 110,-22 1990,-30 1990,-6 110,-2");
+}
+
 TEST_CASE("fifty borings run to the right edge without a boring behind them")
 {
     std::vector<Hole> holes;

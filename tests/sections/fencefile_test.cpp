@@ -291,3 +291,11 @@ TEST_CASE("the sample fences are opened, saved, opened and saved byte for byte")
         CHECK(SavedAs("C.FEN") == bytes);
     }
 }
+
+TEST_CASE("a fence that cannot be written is told by its failure")
+{
+    FileName = Scratch("none/A.FEN");
+    SaveFenceFile();
+    REQUIRE(Messages.size() == 1);
+    CHECK(Messages[0].words == "Error 76 in SaveFenceFile.  Please contact Norvane");
+}

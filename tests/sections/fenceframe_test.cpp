@@ -537,6 +537,20 @@ TEST_CASE("coordinates of a GIS file are turned like others")
     CHECK(Site(1) == "602,60");
 }
 
+TEST_CASE("coordinates of a GIS file are rounded to 32 bits too before the start is taken off")
+{
+    SetGisRow(1, "300996.51", "354349.63", "611", "A"); // held as 300996.5 and 354349.625
+    FenceText fence;
+    fence.XStart = "300900";
+    fence.XEnd = "301300";
+    fence.YStart = "354300";
+    fence.Direction = "N,90";
+    fence.Borings = {"1,1,A,,,"};
+    fence.Tail = {"L", "SITE"};
+    Frame(fence);
+    CHECK(Site(1) == "49.625,304"); // 400 - 96
+}
+
 TEST_CASE("without a GIS file in the definition its table, left by another tool, is not looked at")
 {
     SetGisRow(1, "160", "85", "611", "a");

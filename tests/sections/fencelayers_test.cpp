@@ -211,6 +211,13 @@ TEST_CASE("panels are drawn in the order of the file, and rows without two borin
     CHECK(progressValue == 5);
 }
 
+TEST_CASE("a panel starts with the pen at the ground of its left stake, where a first corner off the sheet stays")
+{
+    SetFence({{100, 100, {{20, "CL"}}}, {1100, 100, {{6, "SM"}, {30, "CL"}}}}, {{1, 2}});
+    fillfencelayers();
+    CHECK(Polygons() == Drawing{"SM hiding 1,0 11,-.12 1,0 11,0", "CL hiding 1,0 1,-.4 11,-.6 11,-.12 1,0"});
+}
+
 TEST_CASE("depths become inches, so that nothing reads them as depths afterwards")
 {
     Panel({{10, "SM"}, {20, "CL"}}, {{5, "SM"}});

@@ -160,7 +160,9 @@ void UseDesktop()
     static char name[] = "windowtests";
     static char* argv[] = {name, nullptr};
     if (!qApp) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        // On a real screen only when its pictures are taken.
+        if (!qEnvironmentVariableIsSet("STRATAVUE_SCREEN"))
+            qputenv("QT_QPA_PLATFORM", "offscreen");
         new Application(argc, argv);
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         // What the program remembers of its user goes with the scratch folder.
@@ -174,6 +176,7 @@ void UseDesktop()
     UseDesktopPlatform();
     FillJobTable();
     Platform.ExecutableFolder = [] { return ScratchFolder(); };
+    Platform.DataFolder = [] { return Scratch("userdata"); };
     ChoosePrinter(PrintToPdfName);
     StartDone = false;
     steps.clear();

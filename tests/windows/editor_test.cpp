@@ -1,5 +1,6 @@
 // editor_test.cpp -- the log tool's window, typed in by real keys and clicks.
 #include "windows/driver.h"
+#include "windows/hands.h"
 
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
@@ -33,60 +34,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
-
-// The tab that a box stands on is brought to the front.
-static QWidget* Bring(QMainWindow* log, const char* name)
-{
-    auto* box = Find<QWidget>(log, name);
-    auto* tabs = Find<QTabWidget>(log, "SSTab1");
-    for (int i = 0; i < tabs->count(); ++i)
-        if (tabs->widget(i)->isAncestorOf(box))
-            tabs->setCurrentIndex(i);
-    return box;
-}
-
-static void ClickCell(QMainWindow* log, const char* name, int row, int column)
-{
-    auto* view = static_cast<QTableView*>(Bring(log, name));
-    const QModelIndex at = view->model()->index(row - 1, column - 1);
-    view->scrollTo(at);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(at).center());
-    CHECK(view->currentIndex() == at);
-}
-
-// Where keys go. Behind a message box this screen has no window manager that would make the window active again.
-static QWidget* Focus()
-{
-    if (!QApplication::focusWidget())
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (window->objectName() == "frmBorinput") {
-                window->activateWindow();
-                Settle();
-            }
-    QWidget* to = QApplication::focusWidget();
-    REQUIRE(to);
-    return to;
-}
-
-static void TypeText(const char* text)
-{
-    for (const char* letter = text; *letter; ++letter) {
-        QWidget* to = Focus();
-        if (*letter == '\n')
-            QTest::keyClick(to, Qt::Key_Return);
-        else if (*letter == '\t')
-            QTest::keyClick(to, Qt::Key_Tab);
-        else
-            QTest::keyClick(to, *letter);
-        Settle();
-    }
-}
-
-static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
-{
-    QTest::keyClick(Focus(), key, modifiers);
-    Settle();
-}
 
 static void Picture(QWidget* window, const char* name)
 {
@@ -580,15 +527,15 @@ TEST_CASE("every entry of the menu is there; those that need a tool which is not
         {"mnuGraphicSetup", commands.mnuGraphicSetup != nullptr},
         {"mnuCreateLogo", commands.mnuCreateLogo != nullptr},
         {"mnuConvertFeetMeters", commands.mnuConvertFeetMeters != nullptr},
-        {"mnuExp2IRPIMS", false},
-        {"mnuGTGS", false},
-        {"mnuConvertGTGStxt", false},
-        {"mnuConvertGTGSgeneral", false},
-        {"mnuConvertWinLog", false},
-        {"mnuvcross", false},
-        {"mnuvfence", false},
-        {"mnuvsoil", false},
-        {"mnuvGIS", false},
+        {"mnuExp2IRPIMS", true},
+        {"mnuGTGS", true},
+        {"mnuConvertGTGStxt", true},
+        {"mnuConvertGTGSgeneral", true},
+        {"mnuConvertWinLog", true},
+        {"mnuvcross", true},
+        {"mnuvfence", true},
+        {"mnuvsoil", true},
+        {"mnuvGIS", true},
     };
     for (const auto& [name, enabled] : entries) {
         CAPTURE(name);

@@ -85,6 +85,21 @@ TEST_CASE("a failure in a command of the window is told once, and the program go
     CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-103");
 }
 
+TEST_CASE("a boring from outside is opened as one that is dropped on the window, with the question before it")
+{
+    QMainWindow* log = LogWindow();
+    OpenInLogWindow(Scratch("samples/TC-102.BOR"));
+    Settle();
+    CHECK(BoringFileName == Scratch("samples/TC-102.BOR"));
+    CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-102");
+    FileChanged = 1;
+    ThenAnswer("Would you like to save the current file before opening another file?", "Cancel");
+    OpenInLogWindow(Scratch("samples/TC-103.BOR"));
+    Settle(200);
+    CheckAllDone();
+    CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-102");
+}
+
 TEST_CASE("the open boring is shown in its boxes, and nothing counts as changed")
 {
     QMainWindow* log = LogWindow();

@@ -80,10 +80,12 @@ void UsePlainPlatform()
     Platform.ChooseFont = [](const Text&) { return Text(); };
     Platform.PrintToPdf = [](bool) {};
     Platform.ExecutableFolder = [] { return WorkingFolder; };
+    Platform.DataFolder = [] { return WorkingFolder + "/userdata"; };
     Platform.ShowAbout = [](bool) {};
     Platform.ShowLogWindow = [] {};
     Platform.ShowWelcome = [] {};
     Platform.EndProcess = [] {};
+    Platform.ShowTool = [](Tool) {};
     Platform.ClipboardText = [] { return PlainClipboard; };
     Platform.SetClipboardText = [](const Text& text) { PlainClipboard = text; };
     Platform.Notice = [](const Text& words) { Notices.push_back(words); };

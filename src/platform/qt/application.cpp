@@ -5,6 +5,7 @@
 #include "session/platform.h"
 #include "session/text.h"
 
+#include <QIcon>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleFactory>
@@ -52,7 +53,11 @@ static void Dress()
 Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName("Stratavue");
-    setQuitOnLastWindowClosed(false); // the log window ends the program, not the last box that closes
+    setDesktopFileName("stratavue");
+    setWindowIcon(QIcon(applicationDirPath() + "/stratavue.png"));
+    if (windowIcon().availableSizes().isEmpty())
+        setWindowIcon(QIcon::fromTheme("stratavue")); // an installed program's
+    setQuitOnLastWindowClosed(false);                 // the log window ends the program, not the last box that closes
     Dress();
 }
 

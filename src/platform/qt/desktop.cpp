@@ -1,12 +1,18 @@
 // desktop.cpp -- the seam of the desktop program: each procedure of Platform, and the window or box behind it.
 #include "canvas/batch.h"
 #include "canvas/patterns.h"
+#include "convert/gtgsprt.h"
+#include "convert/gtgstext.h"
+#include "convert/irpims.h"
+#include "convert/winlog.h"
 #include "editors/borinput.h"
 #include "editors/fillform.h"
+#include "gis/gistool.h"
 #include "logrender/intropage.h"
 #include "logrender/vlog.h"
 #include "platform/qt/boxes.h"
 #include "platform/qt/fonts.h"
+#include "platform/qt/headless.h"
 #include "platform/qt/helpwindow.h"
 #include "platform/qt/printers.h"
 #include "platform/qt/uitext.h"
@@ -15,8 +21,14 @@
 #include "report/fontprofile.h"
 #include "report/oldboring.h"
 #include "sections/crossrun.h"
+#include "sections/crosstool.h"
 #include "sections/fencerun.h"
+#include "sections/fencetool.h"
+#include "sections/soiltable.h"
+#include "sections/soiltool.h"
 #include "session/platform.h"
+#include "session/recovery.h"
+#include "session/session.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -74,8 +86,52 @@ static void FillCommandTable()
     commands.mnuConvertFeetMeters = frmBorinput::mnuConvertFeetMeters;
     commands.mnuGraphicSetup = frmBorinput::mnuGraphicSetup;
     commands.mnuCreateLogo = frmBorinput::mnuCreateLogo;
+    commands.mnuConvertGTGStxt = frmBorinput::mnuConvertGTGStxt;
+    commands.mnuConvertGTGSgeneral = ShowGTGSGenEditor;
+    commands.mnuGTGS = frmBorinput::mnuGTGS;
+    commands.mnuConvertWinLog = frmBorinput::mnuConvertWinLog;
+    commands.mnuExp2IRPIMS = frmBorinput::mnuExp2IRPIMS;
+    commands.mnuvcross = frmBorinput::mnuvcross;
+    commands.mnuvfence = frmBorinput::mnuvfence;
+    commands.mnuvsoil = frmBorinput::mnuvsoil;
+    commands.mnuvGIS = frmBorinput::mnuvGIS;
     SetupChange.ResetTextBoxes = ResetTextBoxes;
     SetupChange.loaddeslists = loaddeslists;
+}
+
+// One tool after another on top of the log window, until the user is back there or has left the program.
+static void ShowTool(Tool tool)
+{
+    struct Window {
+        Tool tool;
+        ToolRecord& record;
+        void (*Show)();
+    };
+    static const Window windows[] = {{Tool::Cross, CrossForm, ShowCrossWindow},
+                                     {Tool::Fence, FenceForm, ShowFenceWindow},
+                                     {Tool::Soil, SoilForm, ShowSoilWindow},
+                                     {Tool::GIS, GisForm, ShowGisWindow}};
+    for (NextTool = tool; NextTool != Tool::Log;) {
+        const Tool opening = NextTool;
+        NextTool = Tool::Log;
+        for (const Window& window : windows)
+            if (window.tool == opening) {
+                LoadTool(window.record);
+                WatchTool(RecoveryNumber(opening));
+                window.Show();
+            }
+    }
+    WatchTool(LogTool);
+}
+
+// What each tool does with its recovery copies.
+static void FillRecoveryTools()
+{
+    RecoveryTools[LogTool] = {"VeskLog", &BoringFileName, frmBorinput::WriteCopy, frmBorinput::OpenCopy};
+    RecoveryTools[CrossTool] = {"VeskCross", &frmCross::FileName, CopyOfTool<CrossForm>, ToolOfCopy<CrossForm>};
+    RecoveryTools[FenceTool] = {"VeskFence", &frmFence::FileName, CopyOfTool<FenceForm>, ToolOfCopy<FenceForm>};
+    RecoveryTools[SoilTool] = {"VeskSoil", &frmSoil::FileName, CopyOfTool<SoilForm>, ToolOfCopy<SoilForm>};
+    RecoveryTools[GisTool] = {"VeskGIS", &frmGIS::FileName, CopyOfTool<GisForm>, ToolOfCopy<GisForm>};
 }
 
 void UseDesktopPlatform()
@@ -101,10 +157,12 @@ void UseDesktopPlatform()
     Platform.ChooseFont = ShowFontDialog;
     Platform.PrintToPdf = ForcePdf;
     Platform.ExecutableFolder = ExecutableFolder;
+    Platform.DataFolder = UserDataFolder;
     Platform.ShowAbout = ShowAboutBox;
     Platform.ShowLogWindow = ShowLogWindow;
     Platform.ShowWelcome = ShowWelcomeWindow;
     Platform.EndProcess = EndProgram;
+    Platform.ShowTool = ShowTool;
     Platform.ClipboardText = ClipboardText;
     Platform.SetClipboardText = SetClipboardText;
     Platform.Notice = Notice;
@@ -112,6 +170,7 @@ void UseDesktopPlatform()
     Platform.ShortDate = Today;
     Platform.Unattended = false;
     FillCommandTable();
+    FillRecoveryTools();
     FillOlderForms();
 }
 
@@ -120,6 +179,10 @@ void FillJobTable()
     JobTable[1] = JobTable[2] = VLOG::vlogstart;
     JobTable[3] = JobTable[4] = VCROSS::vcrossstart;
     JobTable[5] = JobTable[6] = VCROSS::vfencestart;
+    JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
     JobTable[9] = patternstart;
+    JobTable[10] = Export2IRPIMS;
+    JobTable[11] = ConvertGTGS2BOR;
+    JobTable[12] = ConvertWinLog;
     IntroPages = VLOG::vlogintrostart;
 }

@@ -5,8 +5,10 @@
 #include "session/gridedit.h"
 
 #include <QAbstractTableModel>
+#include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QSettings>
 #include <QStyledItemDelegate>
 #include <algorithm>
@@ -15,24 +17,26 @@
 class GridModel : public QAbstractTableModel
 {
 public:
-    GridModel(Grid& shown, QObject* parent) : QAbstractTableModel(parent), grid(shown)
+    GridModel(Grid& shown, QObject* parent)
+        : QAbstractTableModel(parent), grid(shown), rows(shown.rows), columns(shown.columns)
     {
     }
     // Tells the view of what differs from what it was last told.
     void Refresh()
     {
+        Resize();
         if (cells != grid.cells || fontName != grid.fontName) {
             cells = grid.cells;
             fontName = grid.fontName;
-            emit dataChanged(index(0, 0), index(grid.rows - 1, grid.columns - 1));
+            emit dataChanged(index(0, 0), index(rows - 1, columns - 1));
         }
         if (headings != grid.headings) {
             headings = grid.headings;
-            emit headerDataChanged(Qt::Horizontal, 0, grid.columns - 1);
+            emit headerDataChanged(Qt::Horizontal, 0, columns - 1);
         }
         if (rowHeadings != grid.rowHeadings) {
             rowHeadings = grid.rowHeadings;
-            emit headerDataChanged(Qt::Vertical, 0, grid.rows - 1);
+            emit headerDataChanged(Qt::Vertical, 0, rows - 1);
         }
     }
     // What was typed goes into the record. It waits until the box that it was typed in is closed: a change may bring a
@@ -43,15 +47,17 @@ public:
             return;
         const QModelIndex at = typed;
         typed = QModelIndex();
+        if (at.row() >= grid.rows || at.column() >= grid.columns) // the cell has gone meanwhile
+            return;
         TypeCell(grid, at.row() + 1, at.column() + 1, FromUi(typedText));
     }
     int rowCount(const QModelIndex& parent) const override
     {
-        return parent.isValid() ? 0 : grid.rows;
+        return parent.isValid() ? 0 : rows;
     }
     int columnCount(const QModelIndex& parent) const override
     {
-        return parent.isValid() ? 0 : grid.columns;
+        return parent.isValid() ? 0 : columns;
     }
     Qt::ItemFlags flags(const QModelIndex& index) const override
     {
@@ -69,6 +75,8 @@ public:
             return {};
         if (index == typed)
             return typedText;
+        if (index.row() >= grid.rows || index.column() >= grid.columns) // the record has shrunk, the view not yet
+            return {};
         return ToUi(grid.Cell(index.row() + 1, index.column() + 1));
     }
     bool setData(const QModelIndex& index, const QVariant& value, int role) override
@@ -93,8 +101,33 @@ public:
     }
 
 private:
+    // Rows and columns come and go at the end; what stands in the others is told as changed cells.
+    void Resize()
+    {
+        const int newRows = grid.rows, newColumns = grid.columns;
+        if (newRows > rows) {
+            beginInsertRows({}, rows, newRows - 1);
+            rows = newRows;
+            endInsertRows();
+        } else if (newRows < rows) {
+            beginRemoveRows({}, newRows, rows - 1);
+            rows = newRows;
+            endRemoveRows();
+        }
+        if (newColumns > columns) {
+            beginInsertColumns({}, columns, newColumns - 1);
+            columns = newColumns;
+            endInsertColumns();
+        } else if (newColumns < columns) {
+            beginRemoveColumns({}, newColumns, columns - 1);
+            columns = newColumns;
+            endRemoveColumns();
+        }
+    }
+
     Grid& grid;
-    std::vector<Text> cells, headings, rowHeadings; // as the view knows them
+    int rows, columns; // as the view knows them, and so the others
+    std::vector<Text> cells, headings, rowHeadings;
     Text fontName;
     QModelIndex typed;
     QString typedText;
@@ -106,8 +139,33 @@ namespace
 class CellDelegate : public QStyledItemDelegate
 {
 public:
-    CellDelegate(bool& goUp, QObject* parent) : QStyledItemDelegate(parent), up(goUp)
+    CellDelegate(const Grid& shown, bool& goUp, QObject* parent) : QStyledItemDelegate(parent), grid(shown), up(goUp)
     {
+    }
+    // A column with choices has a list to pick from.
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const size_t column = size_t(index.column()) + 1;
+        if (column >= grid.choices.size() || grid.choices[column].empty())
+            return QStyledItemDelegate::createEditor(parent, option, index);
+        auto* list = new QComboBox(parent);
+        for (const Text& choice : grid.choices[column])
+            list->addItem(ToUi(choice));
+        return list;
+    }
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override
+    {
+        if (auto* list = qobject_cast<QComboBox*>(editor))
+            list->setCurrentText(index.data(Qt::EditRole).toString());
+        else
+            QStyledItemDelegate::setEditorData(editor, index);
+    }
+    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override
+    {
+        if (const auto* list = qobject_cast<QComboBox*>(editor))
+            model->setData(index, list->currentText());
+        else
+            QStyledItemDelegate::setModelData(editor, model, index);
     }
 
 protected:
@@ -126,7 +184,8 @@ protected:
     {
         if (event->type() == QEvent::KeyPress) {
             const int key = static_cast<QKeyEvent*>(event)->key();
-            if (key == Qt::Key_Up || key == Qt::Key_Down) {
+            const bool list = qobject_cast<QComboBox*>(editor); // they move in it
+            if (!list && (key == Qt::Key_Up || key == Qt::Key_Down)) {
                 auto* box = static_cast<QWidget*>(editor);
                 up = key == Qt::Key_Up;
                 emit commitData(box);
@@ -138,17 +197,19 @@ protected:
     }
 
 private:
+    const Grid& grid;
     bool& up; // the edit ended by the arrow up
 };
 } // namespace
 
-GridView::GridView(const char* name, Grid& shown, QWidget* parent) : QTableView(parent), grid(shown)
+GridView::GridView(const char* name, Grid& shown, QWidget* parent, const QString& keptAs)
+    : QTableView(parent), grid(shown), widthsKept("columns/" + (keptAs.isEmpty() ? QString(name) : keptAs))
 {
     setObjectName(name);
     setAccessibleName(ToUi(shown.title));
     model = new GridModel(shown, this);
     setModel(model);
-    setItemDelegate(new CellDelegate(up, this));
+    setItemDelegate(new CellDelegate(grid, up, this));
     setAlternatingRowColors(true);
     setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
     setSelectionMode(ContiguousSelection);
@@ -161,35 +222,46 @@ GridView::GridView(const char* name, Grid& shown, QWidget* parent) : QTableView(
     verticalHeader()->setHighlightSections(true);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setMinimumSectionSize(30);
-    if (shown.columns == 1)
+    if (shown.columns == 1 && shown.headings[1].empty())
         horizontalHeader()->hide();
-    widthSet.assign(size_t(shown.columns), false);
     keepSoon.setSingleShot(true);
     keepSoon.setInterval(300);
     connect(&keepSoon, &QTimer::timeout, this, &GridView::KeepWidths);
-    horizontalHeader()->setStretchLastSection(shown.columns <= 5);
     Refresh();
     // Widths that the user has set in an earlier session.
-    const QVariantList kept = QSettings("Stratavue", "Stratavue").value("columns/" + objectName()).toList();
-    for (int column = 0; column < grid.columns && column < kept.size(); ++column)
+    const QVariantList kept = QSettings("Stratavue", "Stratavue").value(widthsKept).toList();
+    for (int column = 0; column < model->columnCount({}) && column < kept.size(); ++column)
         if (const int width = kept[column].toInt(); width > 0) {
             setColumnWidth(column, width);
             widthSet[size_t(column)] = true;
         }
     Fit();
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int, int) {
-        const bool stretched = grid.columns <= 5 && column == grid.columns - 1;
-        if (fitting || stretched)
+        const bool stretched = horizontalHeader()->stretchLastSection() && column == model->columnCount({}) - 1;
+        if (fitting || stretched || size_t(column) >= widthSet.size())
             return;
         widthSet[size_t(column)] = true;
         keepSoon.start();
     });
 }
 
+// A grid of few columns has the last one as wide as what the others leave.
+void GridView::Stretch()
+{
+    const int columns = model->columnCount({});
+    widthSet.resize(size_t(columns), false);
+    if (horizontalHeader()->stretchLastSection() != (columns <= 5))
+        horizontalHeader()->setStretchLastSection(columns <= 5);
+}
+
 void GridView::Refresh()
 {
-    model->Refresh();
     showing = true;
+    const bool was = fitting;
+    fitting = true; // a width that changes with the number of columns is not the user's
+    model->Refresh();
+    Stretch();
+    fitting = was;
     const QModelIndex current = model->index(grid.row - 1, grid.column - 1);
     if (current != currentIndex())
         selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
@@ -204,10 +276,13 @@ void GridView::Refresh()
 void GridView::Fit()
 {
     fitting = true;
-    for (int column = 0; column < grid.columns; ++column) {
-        const int wanted = std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column)) + 8;
-        if (!widthSet[size_t(column)])
-            setColumnWidth(column, std::clamp(wanted, 62, 260));
+    const int rows = grid.DataRowCount(); // asking for the width of each empty cell made the start slow
+    for (int column = 0; column < model->columnCount({}); ++column) {
+        if (widthSet[size_t(column)])
+            continue;
+        const int cells = rows > 0 ? sizeHintForColumn(column) : 0;
+        const int wanted = std::max(cells, horizontalHeader()->sectionSizeHint(column)) + 8;
+        setColumnWidth(column, std::clamp(wanted, 62, 260));
     }
     fitting = false;
 }
@@ -216,9 +291,9 @@ void GridView::Fit()
 void GridView::KeepWidths() const
 {
     QVariantList widths;
-    for (int column = 0; column < grid.columns; ++column)
+    for (int column = 0; column < model->columnCount({}); ++column)
         widths << (widthSet[size_t(column)] ? columnWidth(column) : 0);
-    QSettings("Stratavue", "Stratavue").setValue("columns/" + objectName(), widths);
+    QSettings("Stratavue", "Stratavue").setValue(widthsKept, widths);
 }
 
 QSize GridView::sizeHint() const
@@ -244,6 +319,18 @@ void GridView::FinishEdit()
     }
     model->TakeTyped();
     Done();
+}
+
+void GridView::AsTyped(void (*work)())
+{
+    const auto* box = qobject_cast<QLineEdit*>(indexWidget(currentIndex()));
+    if (!box)
+        return work();
+    const int row = currentIndex().row() + 1, column = currentIndex().column() + 1;
+    const Text before = grid.Cell(row, column);
+    grid.Cell(row, column) = FromUi(box->text());
+    work();
+    grid.Cell(row, column) = before;
 }
 
 // Enter, Tab and the arrows take what was typed and go on.
@@ -278,23 +365,24 @@ void GridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint h
 // To the neighbouring cell; at the end of a row to the next row, and at the edges nowhere.
 void GridView::Step(int rows, int columns)
 {
+    const int lastRow = model->rowCount({}) - 1, lastColumn = model->columnCount({}) - 1;
     int row = currentIndex().row() + rows, column = currentIndex().column() + columns;
-    if (column >= grid.columns && row + 1 < grid.rows) {
+    if (column > lastColumn && row < lastRow) {
         column = 0;
         ++row;
     } else if (column < 0 && row > 0) {
-        column = grid.columns - 1;
+        column = lastColumn;
         --row;
     }
-    setCurrentIndex(model->index(std::clamp(row, 0, grid.rows - 1), std::clamp(column, 0, grid.columns - 1)));
+    setCurrentIndex(model->index(std::clamp(row, 0, lastRow), std::clamp(column, 0, lastColumn)));
 }
 
 // Tab goes on to the next cell, and out of the grid behind the last one.
 bool GridView::focusNextPrevChild(bool next)
 {
     const QModelIndex at = currentIndex();
-    const bool edge =
-        next ? at.row() == grid.rows - 1 && at.column() == grid.columns - 1 : at.row() == 0 && at.column() == 0;
+    const bool edge = next ? at.row() == model->rowCount({}) - 1 && at.column() == model->columnCount({}) - 1
+                           : at.row() == 0 && at.column() == 0;
     if (edge || !at.isValid())
         return QAbstractScrollArea::focusNextPrevChild(next);
     Step(0, next ? 1 : -1);

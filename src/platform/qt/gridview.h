@@ -13,10 +13,12 @@ class GridModel;
 class GridView : public QTableView
 {
 public:
-    GridView(const char* name, Grid& shown, QWidget* parent);
+    // keptAs: what the widths that the user sets are kept under; where grids of two windows bear one name, they differ.
+    GridView(const char* name, Grid& shown, QWidget* parent, const QString& keptAs = QString());
     void Refresh();                 // the record has changed: cells, headings, current cell, selected block
     void Fit();                     // columns as wide as what they hold, but for those that the user has set
     void FinishEdit();              // takes in what is being typed
+    void AsTyped(void (*work)());   // work sees what is being typed as if it had been taken in; it has not
     std::function<void()> OnChange; // after every change by the user
 
 protected:
@@ -33,8 +35,11 @@ private:
     void TakeSelection();
     void KeepWidths() const;
 
+    void Stretch();
+
     Grid& grid;
     GridModel* model;
+    QString widthsKept;
     bool showing = false; // the view follows the record, not the user
     bool fitting = false;
     bool up = false;            // an edit has ended by the arrow up

@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QHashFunctions>
 #include <QLocale>
+#include <QStandardPaths>
 
 #include <cstdio>
 #include <cstdlib>
@@ -46,4 +47,9 @@ void StartWithoutScreen()
 Text ShortDateOfLocale()
 {
     return FromUtf8(QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString());
+}
+
+Text UserDataFolder()
+{
+    return FromUtf8(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString());
 }

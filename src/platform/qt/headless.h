@@ -9,3 +9,6 @@ void StartWithoutScreen();
 
 // Today, in the short form of the user's locale.
 Text ShortDateOfLocale();
+
+// Where the user's programs keep their data, after the desktop's convention; asked without starting the library.
+Text UserDataFolder();

@@ -41,11 +41,12 @@ void LivePane::Draw()
 {
     if (!isVisible())
         return;
-    if (QApplication::activeModalWidget() || RunUnderWay()) {
+    const QWidget* front = QApplication::activeModalWidget();
+    if ((front && front != window()) || RunUnderWay()) {
         pause.start();
         return;
     }
-    DrawLivePage(wanted, FromUi(folder.path()), page);
+    Draws(wanted, FromUi(folder.path()), page);
     wanted = page.Page;
     picture = QPixmap();
     update();

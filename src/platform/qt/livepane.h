@@ -1,4 +1,4 @@
-// livepane.h -- the pane beside the editor that shows a page of the boring as it stands there.
+// livepane.h -- the pane beside the boxes of a tool that shows a page of what stands in them.
 #pragma once
 
 #include "editors/livepreview.h"
@@ -13,8 +13,10 @@ class LivePane : public QWidget
 {
 public:
     explicit LivePane(QWidget* parent);
-    void Soon();                      // something has changed: drawn anew when the user pauses
-    void Turn(int pages);             // to a later or an earlier page
+    void Soon();          // something has changed: drawn anew when the user pauses
+    void Turn(int pages); // to a later or an earlier page
+    // Who draws: the log tool unless another is set.
+    std::function<bool(int number, const Text& folder, LivePage& page)> Draws = DrawLivePage;
     std::function<void(int)> OnLayer; // a click on the layer of that row
     std::function<void()> OnDrawn;
     const LivePage& Shown() const

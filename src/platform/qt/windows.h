@@ -7,23 +7,30 @@
 
 class QWidget;
 
-void ShowAboutBox(bool blocking);    // frmAbout5
-void ShowWelcomeWindow();            // frmWelcome
-void ShowLogWindow();                // frmBorinput
-void EndProgram();                   // the same: it goes, and the event loop with it
-void ShowOpenSave();                 // frmOpenSave: by DialogMode; the path in DialogResult, "" when cancelled
-void ShowProjEdit();                 // frmProjEdit
-void ShowGraphicsSetup();            // frmPrinterSetup
-void ShowLogoWindow();               // frmLogo
-void ShowHeadingWindow();            // frmHeading
-void ShowDescLegendWindow();         // frmDescLegend
-void ShowLayoutWindow();             // frmLayout
-void ShowPromptWindow();             // frmPrompt
-void ShowDesItemsWindow();           // frmDesItems
-void ShowDrawArea();                 // frmDrawArea
-void ShowDrawPrintDialog();          // frmDrawPrint
-void ShowPrintingNotice();           // frmPrinting
-void ShowProgressWindow(bool shown); // frmProgress
+void ShowAboutBox(bool blocking);       // frmAbout5
+void ShowWelcomeWindow();               // frmWelcome
+void ShowLogWindow();                   // frmBorinput
+void EndProgram();                      // the same: it goes, and the event loop with it
+void OfferRecovery();                   // the same: asks about the copies that a crash has left
+void OpenInLogWindow(const Text& name); // a boring from outside, as soon as the events come to it
+void ShowCrossWindow();                 // frmCross: blocking, as the tools below
+void ShowFenceWindow();                 // frmFence
+void ShowSoilWindow();                  // frmSoil
+void ShowGisWindow();                   // frmGIS
+void ShowOpenSave();                    // frmOpenSave: by DialogMode; the path in DialogResult, "" when cancelled
+void ShowProjEdit();                    // frmProjEdit
+void ShowGraphicsSetup();               // frmPrinterSetup
+void ShowLogoWindow();                  // frmLogo
+void ShowHeadingWindow();               // frmHeading
+void ShowDescLegendWindow();            // frmDescLegend
+void ShowLayoutWindow();                // frmLayout
+void ShowPromptWindow();                // frmPrompt
+void ShowDesItemsWindow();              // frmDesItems
+void ShowGTGSGenEditor();               // frmGTGSGenEditor
+void ShowDrawArea();                    // frmDrawArea
+void ShowDrawPrintDialog();             // frmDrawPrint
+void ShowPrintingNotice();              // frmPrinting
+void ShowProgressWindow(bool shown);    // frmProgress
 void StepProgressWindow(const Text& words, float percent);
 void Breathe();     // a turn for the window system
 bool RunUnderWay(); // a page is being made: the progress window is asked for

@@ -1,0 +1,46 @@
+// convertedboring.cpp -- what the converters share.
+#include "convert/convertedboring.h"
+
+#include "boring/boringdata.h"
+#include "boring/boringfile.h"
+#include "canvas/batch.h"
+#include "session/files.h"
+#include "session/platform.h"
+
+void ClearForConversion()
+{
+    BoringData.SampleCount = MaxSamples;
+    BoringData.LithCount = MaxLith;
+    BoringData.DesCount = MaxDes;
+    BoringData.ParamCount = MaxParams;
+    BoringData.WellNoteCount = MaxWellNotes;
+    BoringData.OuterLayerCount = BoringData.InnerLayerCount = MaxLayers;
+    BoringData.RemarkCount = MaxRemarks;
+    ClearBoringArrays();
+}
+
+void SetReportPart(int row, const FixedPart& part)
+{
+    BoringData.RepParts[row] = {part.Item, part.Width};
+    BoringData.RepPartCount = row;
+}
+
+void WriteBesideSource(const Text& source, const Text& style, const Text& draft)
+{
+    while (BoringData.RepPartCount > 0 && IsBlank(BoringData.RepParts[BoringData.RepPartCount].Item))
+        --BoringData.RepPartCount;
+    const Text name = Text(Before(source, '.')) + ".bor";
+    // A new file can be made again from its source; waiting for the disk after each one would be most of a long run.
+    WriteBoring(name, style, draft, FileExists(name) ? Durability::Saved : Durability::Scratch);
+}
+
+ConversionProgress::ConversionProgress(int total)
+{
+    Platform.ShowProgress(true);
+    SetProgress(total);
+}
+
+ConversionProgress::~ConversionProgress()
+{
+    Platform.ShowProgress(false);
+}

@@ -1,0 +1,31 @@
+// convertedboring.h -- what the converters share: the record before and behind a conversion, the name of the boring
+// beside its source, and the progress of a run.
+#pragma once
+
+#include "session/text.h"
+
+// ClearBoringArrays, and the rows above the counts too: a foreign file may name rows beyond its own count, and a run
+// that has failed leaves them; they must not show up in the next boring. Columns 10 to 21 of Params stay as they are.
+void ClearForConversion();
+
+// A report part that a conversion gives every boring.
+struct FixedPart {
+    const char* Item;
+    const char* Width;
+};
+void SetReportPart(int row, const FixedPart& part); // RepPartCount becomes the row
+
+// Writes BoringData beside its source, with the texts of Style and Draft given and without blank report parts at the
+// end. Failures by number. Kept: the name is the path up to its first ".", also where that stands in the name of a
+// folder.
+void WriteBesideSource(const Text& source, const Text& style, const Text& draft);
+
+// The progress window from here to the end of the scope, a step for each file.
+class ConversionProgress
+{
+public:
+    explicit ConversionProgress(int total);
+    ~ConversionProgress();
+    ConversionProgress(const ConversionProgress&) = delete;
+    ConversionProgress& operator=(const ConversionProgress&) = delete;
+};

@@ -1,0 +1,174 @@
+// gtgsgeneditor.cpp -- the commands of the editor of the general GTGS conversion.
+#include "convert/gtgsgeneditor.h"
+
+#include "convert/gtgsgeneral.h"
+#include "editors/borinput.h"
+#include "session/deviceconfig.h"
+#include "session/files.h"
+#include "session/platform.h"
+#include "session/session.h"
+
+#include <algorithm>
+#include <cmath>
+
+static const char* const caption = "GTGS General Conversion Editor";
+
+frmGTGSGenEditor::Record frmGTGSGenEditor::Dialog;
+Grid frmGTGSGenEditor::SS1(MaxMapRows, 2);
+Grid frmGTGSGenEditor::SS2(MaxMapRows, 2);
+
+// By FieldKind.
+static const std::vector<Text>& KindNames()
+{
+    static const std::vector<Text> names{"",          "Boring Name",     "Client Info", "Boring Info",
+                                         "Well Info", "Well Const. Info"};
+    return names;
+}
+
+static int16_t KindOf(const Text& cell)
+{
+    const std::vector<Text>& names = KindNames();
+    const auto found =
+        std::find_if(names.begin(), names.end(), [&cell](const Text& name) { return SameText(Trim(cell), name); });
+    return found == names.end() ? int16_t(NotUsed) : int16_t(found - names.begin());
+}
+
+static int16_t Integer(const Text& text)
+{
+    return int16_t(std::nearbyint(std::clamp(TextNumber(text), -32768.0, 32767.0)));
+}
+
+// The separator of the combination box for a mapping's, and back: comma, blank, tab.
+static int SeparatorShown(int16_t fieldSpec)
+{
+    return fieldSpec == 1 ? 0 : fieldSpec == 2 ? 1 : 2;
+}
+
+static int16_t SeparatorChosen(int index)
+{
+    return index == 0 ? int16_t(1) : index == 1 ? int16_t(2) : int16_t(0);
+}
+
+static void ShowMapping()
+{
+    using namespace frmGTGSGenEditor;
+    Dialog.Text1 = GtgsMapping.templateFile;
+    Dialog.Text2 = GtgsMapping.textPath;
+    Dialog.Option2 = GtgsMapping.fixedFields != 0;
+    Dialog.Combo1 = SeparatorShown(Dialog.Option2 ? int16_t(0) : GtgsMapping.fieldSpec);
+    Dialog.Text3 = Dialog.Option2 ? PlainNumber(int(GtgsMapping.fieldSpec)) : "";
+    for (int row = 1; row <= MaxMapRows; ++row) {
+        const GtgsMappingRecord::Field& field = GtgsMapping.fieldMap[row];
+        const bool known = field.kind >= 0 && size_t(field.kind) < KindNames().size();
+        SS1.Cell(row, 1) = known ? KindNames()[size_t(field.kind)] : "";
+        SS1.Cell(row, 2) = field.number == 0 ? "" : PlainNumber(int(field.number));
+        SS2.Cell(row, 1) = GtgsMapping.fillMap[row].gtgs;
+        SS2.Cell(row, 2) = GtgsMapping.fillMap[row].uscs;
+    }
+    for (Grid* grid : {&SS1, &SS2}) {
+        grid->done.clear();
+        grid->undone.clear();
+    }
+}
+
+static void TakeMapping()
+{
+    using namespace frmGTGSGenEditor;
+    const GtgsMappingRecord before = GtgsMapping;
+    GtgsMapping.templateFile = Dialog.Text1;
+    GtgsMapping.textPath = Dialog.Text2;
+    // What the boxes show in one way and the file tells in several stays as the file had it.
+    if (!Dialog.Option2)
+        GtgsMapping.fixedFields = 0;
+    else if (before.fixedFields == 0)
+        GtgsMapping.fixedFields = 2;
+    if (Dialog.Option2)
+        GtgsMapping.fieldSpec = Integer(Dialog.Text3);
+    else if (before.fixedFields != 0 || SeparatorShown(before.fieldSpec) != Dialog.Combo1)
+        GtgsMapping.fieldSpec = SeparatorChosen(Dialog.Combo1);
+    for (int row = 1; row <= MaxMapRows; ++row) {
+        GtgsMapping.fieldMap[row] = {KindOf(SS1.Cell(row, 1)), Integer(SS1.Cell(row, 2))};
+        GtgsMapping.fillMap[row] = {SS2.Cell(row, 1), SS2.Cell(row, 2)};
+    }
+}
+
+static void TitleByFile()
+{
+    using frmGTGSGenEditor::Dialog;
+    Dialog.Title = Text(caption) + " - " + Dialog.File;
+}
+
+void frmGTGSGenEditor::Load()
+{
+    Dialog = Record();
+    Dialog.Title = caption;
+    SS1.title = "Fields of HEADERS.TXT";
+    SS1.headings = {"", "Maps to Vesklog", "Number"};
+    SS1.choices = {{}, KindNames()};
+    SS2.title = "Fills";
+    SS2.headings = {"", "GTGS Fill #", "VeskLog USCS"};
+    for (Grid* grid : {&SS1, &SS2}) {
+        grid->fontName = DeviceConfig.FontName;
+        grid->row = grid->column = 1;
+        grid->selected = {};
+    }
+    GtgsMapping = GtgsMappingRecord();
+    ShowMapping();
+}
+
+void frmGTGSGenEditor::mnuOpenGTGSConvFile()
+{
+    DialogMode = 20;
+    Platform.ShowChooser();
+    if (DialogResult.empty())
+        return;
+    Dialog.File = DialogResult;
+    OpenGTGSConversionFile(Dialog.File);
+    ShowMapping();
+    TitleByFile();
+}
+
+void frmGTGSGenEditor::mnuSaveGTGSConvFile()
+{
+    if (Dialog.File.empty()) {
+        mnuSaveAs();
+        return;
+    }
+    TakeMapping();
+    SaveGTGSConversionFile(Dialog.File);
+}
+
+void frmGTGSGenEditor::mnuSaveAs()
+{
+    DialogMode = 21;
+    Platform.ShowChooser();
+    if (DialogResult.empty())
+        return;
+    Text name = DialogResult;
+    if (!HasEnding(name))
+        name += ".GCV";
+    if (FileExists(name) &&
+        MsgBox("The file, " + name + " already exists.  Do you wish to overwrite it?", YesNo, Question) == No)
+        return;
+    TakeMapping();
+    Dialog.File = name;
+    SaveGTGSConversionFile(name);
+    TitleByFile();
+}
+
+void frmGTGSGenEditor::Command1()
+{
+    TakeMapping();
+    Text name = NameFromHeaders;
+    if (!Dialog.Option3) {
+        name = NewBoringFile(Dialog.Text4);
+        if (IsBlank(Dialog.Text4)) {
+            MsgBox("Since you have left the New Boring File text box blank, the new boring file will be saved as "
+                   "GTGS1.BOR",
+                   OkOnly, Exclamation);
+            name = JoinPath(ProjectPath, "GTGS1.BOR");
+        }
+    }
+    if (const Text made = ConvertGTGSGeneral(name); !made.empty())
+        frmBorinput::OpenNamed(made);
+}

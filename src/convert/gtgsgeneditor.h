@@ -1,0 +1,28 @@
+// gtgsgeneditor.h -- what the editor of the general GTGS conversion does. No widget is known here.
+#pragma once
+
+#include "session/controls.h"
+
+namespace frmGTGSGenEditor
+{
+// Its boxes.
+struct Record {
+    Text Title;
+    Text Text1, Text2;   // the template, and the folder of the tables
+    bool Option2 = true; // fields of fixed length; else Option1, a character between them
+    int Combo1 = 2;      // the character: 0 comma, 1 blank, 2 tab
+    Text Text3;          // the length of a field
+    bool Option3 = true; // the new file is named by the boring; else Option4, by Text4
+    Text Text4;
+    Text File; // the .GCV file that is open; "" before the first one
+};
+extern Record Dialog;
+extern Grid SS1; // fields of headers.txt: where each goes, and the number of the row there
+extern Grid SS2; // GTGS fill codes and what they are here
+
+void Load(); // a new mapping
+void mnuOpenGTGSConvFile();
+void mnuSaveGTGSConvFile();
+void mnuSaveAs();
+void Command1(); // Begin Conversion. The new boring is opened in the log tool, as by its Open
+} // namespace frmGTGSGenEditor

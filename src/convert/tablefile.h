@@ -1,0 +1,26 @@
+// tablefile.h -- a table of several borings one after the other, and the description text that such tables hold.
+#pragma once
+
+#include "session/files.h"
+
+// Read line by line, with the next line in view: a line that belongs to the next boring stays there for it.
+class TableFile
+{
+public:
+    explicit TableFile(const Text& name);
+    bool AtEnd() const;
+    const Text& Next() const; // not at the end
+    void Take();
+
+private:
+    LineReader in;
+    Text line;
+    bool ended = false;
+};
+
+// Appends the paragraph mark unless the line has it.
+void MarkLine(Text& line);
+
+// The description of one boring into BoringData.Des, up to the depth line that is below the one before; that line is
+// the next boring's. Depth lines begin with ".L=" or ".D=", paragraphs with "."; other lines flow on.
+void ReadDescriptionText(TableFile& in);

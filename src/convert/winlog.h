@@ -1,0 +1,13 @@
+// winlog.h -- WinLog files, each into a boring file beside it, on what a template boring gives.
+#pragma once
+
+#include "session/text.h"
+
+extern Text WinLogTemplate; // the template boring of the run; "" for none
+
+void ConvertWinLog(); // runFiles 1 to runFileCount
+
+namespace frmBorinput
+{
+void mnuConvertWinLog(); // asks for the template, then shows the batch dialog
+}

@@ -1,0 +1,388 @@
+// toolwindow.cpp -- the window of a tool that opens on top of the log window.
+#include "platform/qt/toolwindow.h"
+
+#include "editors/borinput.h"
+#include "editors/livepreview.h"
+#include "platform/qt/gridview.h"
+#include "platform/qt/livepane.h"
+#include "platform/qt/memoview.h"
+#include "platform/qt/uitext.h"
+#include "platform/qt/windows.h"
+#include "session/gridedit.h"
+#include "session/session.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QScreen>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+// The one that is up; the tool's record calls it by these.
+static QPointer<ToolWindow> front;
+
+namespace
+{
+struct OtherTool {
+    Tool tool;
+    const char* name;
+    const char* caption;
+};
+} // namespace
+
+static const OtherTool otherTools[] = {{Tool::Log, "mnuVeskLog", "Vesk&Log"},
+                                       {Tool::Cross, "mnuVeskCross", "Vesk&Cross"},
+                                       {Tool::Fence, "mnuVeskFence", "Vesk&Fence"},
+                                       {Tool::Soil, "mnuVeskSoil", "Vesk&Soil"},
+                                       {Tool::GIS, "mnuVeskGIS", "Vesk&GIS"}};
+
+ToolWindow::ToolWindow(ToolRecord& shown) : QMainWindow(QApplication::activeWindow(), Qt::Window), tool(shown)
+{
+    setObjectName(tool.window);
+    setWindowModality(Qt::ApplicationModal);
+    setAcceptDrops(true);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    front = this;
+    tool.Unload = [] { front->Leave(); };
+    tool.ShowForm = [](bool visible) {
+        if (!visible) {
+            front->focus = front->focusWidget();
+            front->hide();
+            return;
+        }
+        front->show();
+        front->activateWindow();
+        if (front->focus)
+            front->focus->setFocus();
+    };
+    FillMenus();
+    AddStatusBar();
+}
+
+ToolWindow::~ToolWindow()
+{
+    tool.Unload = nullptr;
+    tool.ShowForm = nullptr;
+}
+
+// ---- Menus
+
+QMenu* ToolWindow::Menu(const char* name) const
+{
+    return findChild<QAction*>(name)->menu();
+}
+
+QAction* ToolWindow::Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
+                           std::function<void()> command)
+{
+    auto* action = new QAction(caption, this);
+    action->setObjectName(name);
+    action->setShortcut(keys);
+    menu->addAction(action);
+    connect(action, &QAction::triggered, this, [this, command] { Run(command); });
+    return action;
+}
+
+static QMenu* AddMenu(QMenuBar* bar, const char* name, const char* caption)
+{
+    QMenu* menu = bar->addMenu(caption);
+    menu->menuAction()->setObjectName(name);
+    return menu;
+}
+
+void ToolWindow::FillMenus()
+{
+    QMenu* file = AddMenu(menuBar(), "mnuFile", "&File");
+    Entry(file, "mnuNew", "&New", QKeySequence::New, [this] { ToolNew(tool); });
+    Entry(file, "mnuOpen", "&Open...", QKeySequence::Open, [this] { ToolOpen(tool); });
+    QMenu* lately = file->addMenu("Open &Recent");
+    lately->menuAction()->setObjectName("mnuRecent");
+    recent = std::make_unique<RecentFiles>(lately, tool.window,
+                                           [this](const Text& name) { Run([&] { ToolOpenNamed(tool, name); }); });
+    Entry(file, "mnuSave", "&Save", QKeySequence::Save, [this] { ToolSave(tool); });
+    Entry(file, "mnuSaveAs", "Save &As...", QKeySequence("Ctrl+Shift+S"), [this] { ToolSaveAs(tool); });
+    file->addSeparator();
+    if (tool.drawJob != 0) {
+        Entry(file, "mnuPreview", "Pre&view", QKeySequence("F5"), [this] { ToolPreview(tool); });
+        Entry(file, "mnuBatchDraw", "Batch &Draw...", {}, [this] { ToolBatchDraw(tool); });
+        Entry(file, "mnuPrint", "Batch &Print...", QKeySequence::Print, [this] { ToolPrint(tool); });
+        Entry(file, "mnuPrintSetup", "Print Set&up...", {}, [] { Platform.ShowPrinterSetup(); });
+        file->addSeparator();
+    }
+    Entry(file, "mnuExit", "E&xit", QKeySequence("Ctrl+Q"), [this] { ToolExit(tool); });
+    FillEditMenu();
+    if (tool.drawJob != 0)
+        AddMenu(menuBar(), "mnuView", "&View");
+    QMenu* utilities = AddMenu(menuBar(), "mnuUtilities", "&Utilities");
+    Entry(utilities, "mnuGraphicSetup", "Graphics/System &Set-Up...", {}, [] { Platform.ShowGraphicsSetup(); });
+    Entry(utilities, "mnuCreateLogo", "&Logo Set-Up...", {}, [] { Platform.ShowLogo(); });
+    Entry(utilities, "mnuFillPatt", "Fill Pattern &Guide", {}, frmBorinput::mnuFillPatt);
+    FillToolsMenu();
+    QMenu* help = AddMenu(menuBar(), "mnuHelpMenu", "&Help");
+    Entry(help, "mnuHelp", "&Help", QKeySequence::HelpContents, [] { Platform.ShowHelp(); });
+    Entry(help, "mnuAbout", "&About", {}, [] { Platform.ShowAbout(true); });
+
+    QToolBar* bar = addToolBar("Commands");
+    bar->setObjectName("Commands");
+    bar->setMovable(false);
+    bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    for (const char* name : {"mnuNew", "mnuOpen", "mnuSave", "", "mnuPreview", "mnuBatchDraw", "mnuPrint"}) {
+        auto* action = findChild<QAction*>(name);
+        if (*name && action)
+            bar->addAction(action);
+        else if (!*name && tool.drawJob != 0)
+            bar->addSeparator();
+    }
+}
+
+// In the text box, where it has the focus; else in the grid last entered.
+void ToolWindow::OnText(void (QPlainTextEdit::*text)(), void (*command)(Grid&))
+{
+    auto* box = qobject_cast<QPlainTextEdit*>(focusWidget());
+    if (box && text)
+        (box->*text)();
+    else if (!box)
+        command(ActiveGrid(tool));
+}
+
+void ToolWindow::FillEditMenu()
+{
+    QMenu* edit = AddMenu(menuBar(), "mnuEdit", "&Edit");
+    const auto entry = [&](const char* name, const char* caption, QKeySequence keys, void (QPlainTextEdit::*text)(),
+                           void (*command)(Grid&)) {
+        return Entry(edit, name, caption, keys, [this, text, command] { OnText(text, command); });
+    };
+    entry("mnuUndo", "&Undo", QKeySequence("Ctrl+Z"), &QPlainTextEdit::undo, [](Grid& grid) { UndoGrid(grid); });
+    entry("mnuRedo", "&Redo", {}, &QPlainTextEdit::redo, [](Grid& grid) {
+        RedoGrid(grid);
+    })->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});
+    edit->addSeparator();
+    entry("mnuCut", "Cu&t", QKeySequence("Ctrl+X"), &QPlainTextEdit::cut, CutSelected);
+    entry("mnuCopy", "&Copy", QKeySequence("Ctrl+C"), &QPlainTextEdit::copy, [](Grid& grid) { CopySelected(grid); });
+    entry("mnuPaste", "&Paste", QKeySequence("Ctrl+V"), &QPlainTextEdit::paste, PasteSelected);
+    entry("mnuFillDown", "&Fill Down", QKeySequence("Ctrl+D"), nullptr, FillDown);
+    edit->addSeparator();
+    Entry(edit, "mnuInsertRow", "&Insert Row", QKeySequence("Ctrl++"), [this] { ToolInsertRow(tool); });
+    Entry(edit, "mnuDeleteRow", "&Delete Row", QKeySequence("Ctrl+-"), [this] { ToolDeleteRow(tool); });
+    edit->addSeparator();
+    Entry(edit, "mnuEditHeading", "Edit &Heading File...", {}, ShowHeadingWindow);
+}
+
+void ToolWindow::FillToolsMenu()
+{
+    QMenu* tools = AddMenu(menuBar(), "mnuTools", "&Tools");
+    for (const OtherTool& other : otherTools)
+        if (other.tool != tool.tool)
+            Entry(tools, other.name, other.caption, {}, [this, &other] { ToolHandOver(tool, other.tool); });
+}
+
+// What is being typed is taken in first. However the command ends, what it has done is shown, and no progress window
+// outlives it.
+void ToolWindow::Run(const std::function<void()>& command)
+{
+    for (GridView* view : views)
+        view->FinishEdit();
+    struct Afterwards {
+        ToolWindow& window;
+        ~Afterwards()
+        {
+            ShowProgressWindow(false);
+            if (!window.leaving)
+                window.Refresh();
+        }
+    } afterwards{*this};
+    command();
+}
+
+// Files on the window: the first one is opened.
+void ToolWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    const QList<QUrl> files = event->mimeData()->urls();
+    if (!files.isEmpty() && files[0].toLocalFile().endsWith(tool.ending, Qt::CaseInsensitive))
+        event->acceptProposedAction();
+}
+
+void ToolWindow::dropEvent(QDropEvent* event)
+{
+    const Text name = FromUi(event->mimeData()->urls().value(0).toLocalFile());
+    event->acceptProposedAction();
+    // The program that the file comes from waits for the end of the drop, and not for the user's answers.
+    QTimer::singleShot(0, this, [this, name] { Run([&] { ToolOpenNamed(tool, name); }); });
+}
+
+// ---- Boxes
+
+static QWidget* Titled(const Text& title, QWidget* box)
+{
+    auto* whole = new QWidget;
+    auto* layout = new QVBoxLayout(whole);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(5);
+    auto* label = new QLabel(ToUi(title), whole);
+    QFont bold = label->font();
+    bold.setBold(true);
+    label->setFont(bold);
+    label->setBuddy(box);
+    layout->addWidget(label);
+    layout->addWidget(box, 1);
+    return whole;
+}
+
+void ToolWindow::Own(QWidget* widget, std::function<void()> shows)
+{
+    order.push_back(widget);
+    if (shows)
+        refreshers.push_back(std::move(shows));
+}
+
+QWidget* ToolWindow::GridBox(const char* name, Grid& grid)
+{
+    auto* view = new GridView(name, grid, this, QString("%1.%2").arg(tool.window, name));
+    view->OnChange = [this] { Typed(); };
+    view->setMinimumWidth(grid.rowHeadings.size() > 1 ? 240 : 150); // with the page beside it cells stay in sight
+    views.push_back(view);
+    gridOf.push_back({view, &grid});
+    view->installEventFilter(this);
+    Own(view, [view] { view->Refresh(); });
+    return Titled(grid.title, view);
+}
+
+QWidget* ToolWindow::MemoBox(const char* name, const Text& title, Memo& memo)
+{
+    auto* view = new MemoView(name, memo, this);
+    view->setAccessibleName(ToUi(title));
+    view->OnChange = [this] {
+        FileChanged = 1;
+        ShowState();
+    };
+    Own(view, [view] { view->Refresh(); });
+    return Titled(title, view);
+}
+
+// A grid that is entered becomes the one that the Edit menu works on.
+bool ToolWindow::eventFilter(QObject* box, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn)
+        for (const auto& [view, grid] : gridOf)
+            if (view == box)
+                tool.active = grid;
+    return QMainWindow::eventFilter(box, event);
+}
+
+// The page as it stands in the boxes, beside them when the user wishes.
+void ToolWindow::AddPreview()
+{
+    auto* dock = new QDockWidget("Page", this);
+    dock->setObjectName("dckPreview");
+    dock->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
+    live = new LivePane(dock);
+    live->Draws = [this](int, const Text& folder, LivePage& page) { return DrawLiveTool(tool, folder, page); };
+    dock->setWidget(live);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+    dock->hide();
+    QAction* toggle = dock->toggleViewAction();
+    toggle->setObjectName("mnuLivePreview");
+    toggle->setText("&Page beside the Boxes");
+    toggle->setShortcut(QKeySequence("Ctrl+F5"));
+    Menu("mnuView")->addAction(toggle);
+}
+
+void ToolWindow::AddStatusBar()
+{
+    project = new QLabel(this);
+    project->setObjectName("lblProject");
+    project->setContentsMargins(8, 0, 8, 0);
+    state = new QLabel(this);
+    state->setObjectName("lblState");
+    state->setContentsMargins(8, 0, 8, 0);
+    statusBar()->addWidget(project, 1);
+    statusBar()->addPermanentWidget(state);
+}
+
+// ---- What is shown
+
+void ToolWindow::ShowState()
+{
+    setWindowModified(FileChanged == 1);
+    if (live)
+        live->Soon();
+    state->setText(ToUi(tool.State()));
+}
+
+void ToolWindow::Typed()
+{
+    for (const std::function<void()>& refresh : refreshers)
+        refresh();
+    ShowState();
+}
+
+void ToolWindow::Refresh()
+{
+    setWindowTitle(ToUi(tool.Title) + "[*]");
+    Typed();
+    if (shownFile != tool.FileName) {
+        shownFile = tool.FileName;
+        for (GridView* view : views)
+            view->Fit();
+    }
+    recent->Show(tool.FileName);
+    project->setText("Project folder: " + ToUi(ProjectPath));
+}
+
+void ToolWindow::Blocking(QWidget* content)
+{
+    auto* whole = new QWidget(this);
+    auto* layout = new QVBoxLayout(whole);
+    layout->setContentsMargins(12, 12, 12, 6);
+    layout->addWidget(content);
+    setCentralWidget(whole);
+    if (tool.drawJob != 0)
+        AddPreview();
+    for (size_t i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
+    resize(QSize(1180, 760).boundedTo(screen()->availableGeometry().size() * 0.94));
+    CentreOnScreen(*this);
+    Refresh();
+    show();
+    activateWindow();
+    if (!order.empty())
+        order.front()->setFocus();
+    tool.active = nullptr; // no grid has been entered by the user yet
+    loop.exec();
+}
+
+// What may have changed while another window was in front.
+void ToolWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && centralWidget() && !leaving)
+        Refresh();
+}
+
+void ToolWindow::Leave()
+{
+    leaving = true;
+    hide();
+    loop.quit();
+}
+
+// The closing of the window leads back to the log window, as the entry of the log tool does.
+void ToolWindow::closeEvent(QCloseEvent* event)
+{
+    if (!leaving)
+        for (GridView* view : views)
+            view->FinishEdit();
+    if (leaving || ToolHandOver(tool, Tool::Log))
+        event->accept();
+    else
+        event->ignore();
+}

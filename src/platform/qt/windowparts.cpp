@@ -1,0 +1,55 @@
+// windowparts.cpp -- what the windows of the tools are made of.
+#include "platform/qt/windowparts.h"
+
+#include "platform/qt/uitext.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QSettings>
+#include <QSplitter>
+#include <utility>
+
+QSplitter* Split(Qt::Orientation orientation, std::initializer_list<QWidget*> boxes, std::initializer_list<int> shares)
+{
+    auto* splitter = new QSplitter(orientation);
+    splitter->setChildrenCollapsible(false);
+    splitter->setHandleWidth(10);
+    for (QWidget* box : boxes)
+        splitter->addWidget(box);
+    int i = 0;
+    QList<int> sizes;
+    for (const int share : shares) {
+        splitter->setStretchFactor(i++, share);
+        sizes << share * 100;
+    }
+    splitter->setSizes(sizes);
+    return splitter;
+}
+
+static constexpr int maxRecent = 9;
+
+RecentFiles::RecentFiles(QMenu* shownIn, const char* keptAs, std::function<void(const Text&)> open)
+    : menu(shownIn), key(keptAs), opens(std::move(open))
+{
+}
+
+void RecentFiles::Show(const Text& current)
+{
+    QSettings settings("Stratavue", "Stratavue");
+    QStringList files = settings.value(key).toStringList();
+    const QString name = ToUi(current);
+    if (!name.isEmpty() && files.value(0) != name) {
+        files.removeAll(name);
+        files.prepend(name);
+        files = files.mid(0, maxRecent);
+        settings.setValue(key, files);
+    }
+    menu->clear();
+    menu->setEnabled(!files.isEmpty());
+    int i = 0;
+    for (const QString& file : files) {
+        QAction* action = menu->addAction(QString("&%1 %2").arg(++i).arg(QString(file).replace("&", "&&")));
+        action->setObjectName(QString("mnuRecent%1").arg(i));
+        QObject::connect(action, &QAction::triggered, menu, [this, file] { opens(FromUi(file)); });
+    }
+}

@@ -1,0 +1,30 @@
+// windowparts.h -- what the windows of the tools are made of: menus, boxes with movable borders, titles, recent files.
+#pragma once
+
+#include "session/text.h"
+
+#include <QString>
+#include <functional>
+#include <initializer_list>
+
+class QAction;
+class QMenu;
+class QSplitter;
+class QWidget;
+
+// Boxes beside or above one another, with movable borders between them; shares of the room.
+QSplitter* Split(Qt::Orientation orientation, std::initializer_list<QWidget*> boxes, std::initializer_list<int> shares);
+
+// The files opened or saved lately, as entries of a menu.
+class RecentFiles
+{
+public:
+    // key: what they are kept under; opens: what an entry does.
+    RecentFiles(QMenu* menu, const char* key, std::function<void(const Text&)> opens);
+    void Show(const Text& current); // the file that has a name now is the most recent one; "" for none
+
+private:
+    QMenu* menu;
+    QString key;
+    std::function<void(const Text&)> opens;
+};

@@ -1,0 +1,40 @@
+// soiltool.cpp -- the soil tool's table.
+#include "sections/soiltool.h"
+
+#include "editors/hush.h"
+
+static void Undisturbed(const std::function<void()>& work)
+{
+    const Kept form(SoilData);
+    work();
+}
+
+static Text State()
+{
+    return PlainNumber(int(frmSoil::MemoSoil.DisplayLines().size())) + " of " + PlainNumber(MaxSoilNotes) +
+           " lines of notes";
+}
+
+ToolRecord SoilForm = {
+    .tool = Tool::Soil,
+    .window = "frmSoil",
+    .title = "VeskSoil - Soil Analysis Table",
+    .ending = ".SOI",
+    .openMode = 7,
+    .drawJob = 7,
+    .FileName = frmSoil::FileName,
+    .Title = frmSoil::Title,
+    .grids = {&frmSoil::SS1},
+    .memo = &frmSoil::MemoSoil,
+    .OpenFile = OpenSoilFile,
+    .SaveFile = SaveSoilFile,
+    .ClearArrays = ClearSoilArrays,
+    .FillForm = FillSoilForm,
+    .Label =
+        [] {
+            frmSoil::LabelBoxes();
+            frmSoil::SizeMemo();
+        },
+    .Undisturbed = Undisturbed,
+    .State = State,
+};

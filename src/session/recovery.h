@@ -1,0 +1,51 @@
+// recovery.h -- copies of what is not saved yet, so that a crash or a power loss costs a minute's work at most.
+//
+// While FileChanged is 1 the document of the tool in front is written once a minute by the tool's own save procedure,
+// into a folder of the program's own, beside a small text file:
+//     4711-27.lock       held as long as the run of the program lives
+//     4711-27-1.txt      tool, the document's own name (may be empty), time, name of the copy, mark of the own file
+//     4711-27-1-7.copy   the copy; a tool may put more beside it, under names that begin with the copy's
+// A copy goes when a save has really written the file, when the user drops the changes, and at a clean end. It stays
+// when a save was refused or failed, although the flag is 0 then. What a run without its lock has left is offered at
+// the next start.
+#pragma once
+
+#include "session/slots.h"
+#include "session/text.h"
+
+enum RecoveryToolNumber { LogTool = 1, CrossTool, FenceTool, SoilTool, GisTool };
+constexpr int MaxRecoveryTools = 5;
+
+// What a tool has to do with its copies.
+struct RecoveryTool {
+    Text Name;                      // as in the title of its window
+    const Text* FileName = nullptr; // the name of its open document; empty: it was never saved
+    // What Save would write, into this file, with no check, message or change of any state.
+    void (*Write)(const Text& copy) = nullptr;
+    // The copy into the boxes, with the document's own name and FileChanged 1.
+    void (*Open)(const Text& copy, const Text& name) = nullptr;
+};
+extern Slots<RecoveryTool, MaxRecoveryTools> RecoveryTools; // filled by the start of the desktop program
+extern int RecoveryInterval;                                // milliseconds between two copies
+
+// This run of the program begins: folder is made if need be, and its lock taken. Where that fails there are no copies.
+void StartRecovery(const Text& folder);
+// The tool in front: FileChanged speaks of its document from now on.
+void WatchTool(int tool);
+// To be called again and again, some ten times in an interval: writes the copy when it is time to, and takes it away
+// when FileChanged has become 0 with no save that failed.
+void KeepCopy();
+// A save of the tool in front. The copy goes if the file has been written, else it is made anew and stays.
+void SaveDocument(void (*save)());
+// The user wished to save and it did not come to it: the copy is made anew and stays, as after a save that failed.
+void OweCopy();
+// The user has dropped the changes: the answer No.
+void DropCopy();
+// Another document comes into the tool's boxes, or its window closes. The copy of a document whose save failed is left
+// for the next start.
+void LeaveDocument();
+// At the start: asks about what other runs have left, newest first, until the user has opened one. No takes the copy
+// away; a tool that is not there keeps its copies.
+void OfferCopies();
+// The clean end.
+void EndRecovery();

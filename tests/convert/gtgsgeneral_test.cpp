@@ -1,0 +1,391 @@
+// gtgsgeneral_test.cpp -- the general GTGS conversion: its map, its file, its editor and the conversion.
+#include "convert/gtgsgeneral.h"
+
+#include "convert/converted.h"
+#include "convert/gtgsgeneditor.h"
+
+#include "boring/boringboxes.h"
+#include "boring/boringdata.h"
+#include "session/files.h"
+#include "session/session.h"
+
+static Text Created(const Text& name)
+{
+    return "New Boring File Created:  " + Scratch(name);
+}
+
+static void UseMap(const Text& name)
+{
+    CopyData("general");
+    OpenGTGSConversionFile(Scratch(name));
+    CHECK(Told() == std::vector<Text>());
+}
+
+// With a map of the test's own: fields 1, 2 are boring information 1 and 2, and the template is there.
+static void OwnMap()
+{
+    CopyData("general");
+    GtgsMapping = GtgsMappingRecord();
+    GtgsMapping.templateFile = "template.BOR";
+    GtgsMapping.fieldMap[1] = {BoringInfo, 1};
+    GtgsMapping.fieldMap[2] = {BoringInfo, 2};
+}
+
+TEST_CASE("text tables by a map become one boring file, byte for byte the kept one")
+{
+    UseMap("comma.GCV");
+    CHECK(ConvertGTGSGeneral(NameFromHeaders) == Scratch("GB-7.bor"));
+    CHECK(Told() == std::vector<Text>{Created("GB-7.bor")});
+    CHECK(Messages[0].icon == Announcement);
+    CheckKept("GB-7.bor", "general/kept/GB-7.bor", " 0", " 0");
+}
+
+TEST_CASE("fields of fixed length by a map become the kept file")
+{
+    UseMap("fixed.GCV");
+    ConvertGTGSGeneral(Scratch("fixed.bor"));
+    CHECK(Told() == std::vector<Text>{Created("fixed.bor")});
+    CheckKept("fixed.bor", "general/kept/fixed.bor", " 0", " 0");
+}
+
+TEST_CASE("fields go where the map says, trimmed, and the well information grows to the rows that it names")
+{
+    UseMap("comma.GCV");
+    ConvertGTGSGeneral(NameFromHeaders);
+    Open("GB-7.bor");
+    CHECK(BoringData.Name == "GB-7");
+    CHECK(BoringData.Client[1] == "Client A");
+    CHECK(BoringData.Client[2] == "North");
+    CHECK(BoringData.Info[3][1] == "Prompt 3");
+    CHECK(BoringData.Info[3][2] == "K.Weber");
+    CHECK(BoringData.Info[1][2] == "");
+    CHECK(BoringData.GenWell[5] == "101.25");
+    CHECK(BoringData.WellInfoCount == 7);
+    CHECK(BoringData.WellInfo[3][2] == "Drilled");
+    CHECK(BoringData.WellInfo[7][2] == "Developd");
+    CHECK(BoringData.WellInfo[1][1] == "");
+}
+
+TEST_CASE("fill codes are translated by the first row that fits, and others stay; blank lines are skipped")
+{
+    UseMap("comma.GCV");
+    ConvertGTGSGeneral(NameFromHeaders);
+    Open("GB-7.bor");
+    REQUIRE(BoringData.LithCount == 4);
+    const char* const soils[] = {"FB", "CL", "SM", "99"};
+    for (int row = 1; row <= 4; ++row)
+        CHECK(BoringData.Lith[row][2] == soils[row - 1]);
+    CHECK(BoringData.Lith[2][1] == "9.0");
+}
+
+TEST_CASE("well lines begin with cap, case, seal or fseal, and the value takes the rest")
+{
+    UseMap("comma.GCV");
+    ConvertGTGSGeneral(NameFromHeaders);
+    Open("GB-7.bor");
+    REQUIRE(BoringData.InnerLayerCount == 2);
+    REQUIRE(BoringData.OuterLayerCount == 2);
+    CHECK(BoringData.InnerLayers[1][3] == "Cap");
+    CHECK(BoringData.InnerLayers[2][1] == "0");
+    CHECK(BoringData.InnerLayers[2][2] == "5");
+    CHECK(BoringData.InnerLayers[2][3] == "Case 2in. ID SCH.40");
+    CHECK(BoringData.OuterLayers[1][3] == "Seal concrete");
+    CHECK(BoringData.OuterLayers[2][3] == "Seal");
+    CHECK(BoringData.DesCount == 6);
+}
+
+TEST_CASE("fields are separated by commas, tabs, or blanks for any other number")
+{
+    for (const auto& [separator, line] : {std::pair<int, const char*>(1, "a b,c"), {0, "a b\tc"}, {2, "a c"}, {3, "a c"}}) {
+        OwnMap();
+        GtgsMapping.fixedFields = 0;
+        GtgsMapping.fieldSpec = int16_t(separator);
+        WriteScratch("headers.txt", line);
+        ConvertGTGSGeneral(Scratch("x.bor"));
+        Open("x.bor");
+        CHECK(BoringData.Info[1][2].starts_with("a"));
+        CHECK(BoringData.Info[2][2] == "c");
+        std::filesystem::remove_all(ScratchFolder());
+        std::filesystem::create_directories(ScratchFolder());
+    }
+}
+
+TEST_CASE("an unknown kind is passed over, number 0 is lost, and a number above its bound is a failure of headers.txt")
+{
+    OwnMap();
+    GtgsMapping.fixedFields = 0;
+    GtgsMapping.fieldMap[1] = {9, 99};
+    GtgsMapping.fieldMap[2] = {WellConstInfo, 0};
+    ConvertGTGSGeneral(Scratch("x.bor"));
+    CHECK(Told() == std::vector<Text>{Created("x.bor")});
+    for (const GtgsMappingRecord::Field field :
+         {GtgsMappingRecord::Field{ClientInfo, 6}, {BoringInfo, 31}, {WellInfo, 15}, {WellConstInfo, 31}}) {
+        GtgsMapping.fieldMap[1] = field;
+        Messages.clear();
+        CHECK(ConvertGTGSGeneral(Scratch("y.bor")) == "");
+        CHECK(Told() == std::vector<Text>{"Error processing headers.txt file:"});
+    }
+    CHECK_FALSE(FileExists(Scratch("y.bor")));
+}
+
+TEST_CASE("a template that is not named, not there or not of the form ends the conversion")
+{
+    OwnMap();
+    const auto told = [](const Text& name) {
+        GtgsMapping.templateFile = name;
+        Messages.clear();
+        CHECK(ConvertGTGSGeneral(Scratch("x.bor")) == "");
+        REQUIRE(Messages.size() == 1);
+        CHECK(Messages[0].icon == Exclamation);
+        return Messages[0].words;
+    };
+    CHECK(told("") == "Please specify a Boring File to be used as a template for the converted GTGS data.");
+    CHECK(told("none") == "The Boring File to be used as a template was not found, please try again.");
+    const Text invalid = "The Boring File to be used as a template has an invalid format, please use another.";
+    WriteScratch("foreign.bor", "4.6\r\nx\r\n");
+    CHECK(told("foreign") == invalid);
+    WriteScratch("foreign.bor", "");
+    CHECK(told("foreign") == invalid);
+    const std::string bytes = ConvertData("general/template.BOR");
+    WriteScratch("early.bor", bytes.substr(0, 500));
+    CHECK(told("early.Bor") == invalid);
+    CHECK_FALSE(FileExists(Scratch("x.bor")));
+}
+
+TEST_CASE("a template of an older form has no client lines")
+{
+    OwnMap();
+    GtgsMapping.templateFile = Scratch("old.BOR");
+    ConvertGTGSGeneral(Scratch("x.bor"));
+    CHECK(Told() == std::vector<Text>{Created("x.bor")});
+    Open("x.bor");
+    CHECK(BoringData.Client[1] == "");
+    CHECK(BoringData.Info[1][1] == "Prompt 1");
+}
+
+TEST_CASE("a folder that is not there, and each table that is not, are told by their paths")
+{
+    OwnMap();
+    GtgsMapping.textPath = "/none";
+    CHECK(ConvertGTGSGeneral(Scratch("x.bor")) == "");
+    CHECK(Told() == std::vector<Text>{"Path does not exist: /none"});
+    GtgsMapping.textPath = "";
+    for (const char* table : {"well.txt", "desc.txt", "lith.txt", "headers.txt"}) {
+        std::filesystem::remove(Scratch(table));
+        Messages.clear();
+        CHECK(ConvertGTGSGeneral(Scratch("x.bor")) == "");
+        CHECK(Told() == std::vector<Text>{"File Not Found: " + Scratch(table)});
+    }
+}
+
+TEST_CASE("a table with too many rows is told by its name")
+{
+    OwnMap();
+    std::string rows;
+    for (int i = 1; i <= 1001; ++i)
+        rows += "case 1 2 3\r\n";
+    for (const char* table : {"well.txt", "desc.txt", "lith.txt"}) {
+        WriteScratch(table, rows);
+        Messages.clear();
+        CHECK(ConvertGTGSGeneral(Scratch("x.bor")) == "");
+        CHECK(Told() == std::vector<Text>{Text("Error processing ") + table + " file:"});
+    }
+    WriteScratch("headers.txt", "");
+    Messages.clear();
+    ConvertGTGSGeneral(Scratch("x.bor"));
+    CHECK(Told() == std::vector<Text>{"Error processing headers.txt file:"});
+}
+
+TEST_CASE("without a name in headers.txt the new file is gtgs1.bor, and says so")
+{
+    OwnMap();
+    CHECK(ConvertGTGSGeneral(NameFromHeaders) == Scratch("gtgs1.bor"));
+    CHECK(Told() == std::vector<Text>{"Since no boring name was mapped in headers.txt, the new boring file will be "
+                                      "saved as GTGS1.BOR",
+                                      Created("gtgs1.bor")});
+}
+
+TEST_CASE("an existing file is asked about; at No nothing is written and another name is asked for")
+{
+    OwnMap();
+    WriteScratch("x.bor", "older");
+    const Text question = "The file, " + Scratch("x.bor") + " already exists.  Do you wish to overwrite it?";
+    Answers = {No};
+    CHECK(ConvertGTGSGeneral(Scratch("x.bor")) == "");
+    CHECK(Told() == std::vector<Text>{question, "Please enter a different filename"});
+    CHECK(ReadScratch("x.bor") == "older");
+    Answers = {Yes};
+    Messages.clear();
+    CHECK(ConvertGTGSGeneral(Scratch("x.bor")) != "");
+    CHECK(Told() == std::vector<Text>{question, Created("x.bor")});
+    CHECK(ReadScratch("x.bor").starts_with("5.0.12"));
+}
+
+// ---------------------------------------------------------------------------------------------------- the editor
+
+using namespace frmGTGSGenEditor;
+
+static Text chosen;
+
+static void Choose(const Text& name)
+{
+    chosen = name;
+    Platform.ShowChooser = [] { DialogResult = chosen; };
+}
+
+TEST_CASE("a new map has fields of fixed length 0, and the boring's own name for the new file")
+{
+    frmGTGSGenEditor::Load();
+    CHECK(Dialog.Title == "GTGS General Conversion Editor");
+    CHECK(Dialog.Option2);
+    CHECK(Dialog.Option3);
+    Choose(Scratch("new"));
+    frmGTGSGenEditor::mnuSaveGTGSConvFile();
+    CHECK(Dialog.Title == "GTGS General Conversion Editor - " + Scratch("new.GCV"));
+    std::string lines = "\r\n\r\n 2 \r\n 0 \r\n";
+    for (int i = 0; i < 50; ++i)
+        lines += " 0 \r\n";
+    for (int i = 0; i < 50; ++i)
+        lines += "\r\n";
+    CHECK(ReadScratch("new.GCV") == lines);
+}
+
+TEST_CASE("a map that was saved shows the same boxes when it is opened, and is saved as it was")
+{
+    CopyData("general");
+    frmGTGSGenEditor::Load();
+    static int mode;
+    for (const char* name : {"comma.GCV", "fixed.GCV"}) {
+        chosen = Scratch(name);
+        Platform.ShowChooser = [] {
+            mode = DialogMode;
+            DialogResult = chosen;
+        };
+        frmGTGSGenEditor::mnuOpenGTGSConvFile();
+        CHECK(mode == 20);
+        CHECK(Dialog.Title == "GTGS General Conversion Editor - " + Scratch(name));
+        CHECK(SS1.Cell(1, 1) == "Boring Name");
+        CHECK(SS1.Cell(6, 1) == "Well Const. Info");
+        CHECK(SS1.Cell(6, 2) == "3");
+        CHECK(SS1.Cell(25, 1) == "");
+        CHECK(SS2.Cell(1, 2) == "FB");
+        const std::vector<Text> fields = SS1.cells, fills = SS2.cells;
+        Choose(Scratch("copy"));
+        std::filesystem::remove(Scratch("copy.GCV"));
+        frmGTGSGenEditor::mnuSaveAs();
+        frmGTGSGenEditor::Load();
+        Choose(Scratch("copy.GCV"));
+        frmGTGSGenEditor::mnuOpenGTGSConvFile();
+        CHECK(SS1.cells == fields);
+        CHECK(SS2.cells == fills);
+    }
+    CHECK(Dialog.Option2);
+    CHECK(Dialog.Text3 == "8");
+    CHECK(ReadScratch("copy.GCV").starts_with("template.BOR\r\n\r\n 2 \r\n 8 \r\n 1 \r\n 0 \r\n 2 \r\n 2 \r\n 0 \r\n"));
+}
+
+TEST_CASE("the separator shown is comma for 1, space for 2, tab for others, and one that only looks like tab stays")
+{
+    CopyData("general");
+    frmGTGSGenEditor::Load();
+    for (const auto& [separator, shown] : {std::pair<int, int>(1, 0), {2, 1}, {0, 2}, {3, 2}}) {
+        GtgsMapping.templateFile = "template";
+        GtgsMapping.fixedFields = 0;
+        GtgsMapping.fieldSpec = int16_t(separator);
+        SaveGTGSConversionFile(Scratch("s.GCV"));
+        Choose(Scratch("s.GCV"));
+        frmGTGSGenEditor::mnuOpenGTGSConvFile();
+        CHECK(Dialog.Combo1 == shown);
+        frmGTGSGenEditor::mnuSaveGTGSConvFile();
+        CHECK(GtgsMapping.fieldSpec == separator);
+    }
+    // Blanks separate in the conversion, though the box shows "Tab".
+    SS1.Cell(1, 1) = "boring info";
+    SS1.Cell(1, 2) = "1";
+    WriteScratch("headers.txt", "first second\r\n");
+    Dialog.Option3 = false;
+    Dialog.Text4 = "s";
+    frmGTGSGenEditor::Command1();
+    CHECK(BoringData.Info[1][2] == "first");
+    Dialog.Combo1 = 0;
+    frmGTGSGenEditor::mnuSaveGTGSConvFile();
+    CHECK(GtgsMapping.fieldSpec == 1);
+}
+
+TEST_CASE("Save As adds the ending, and asks before it replaces a map")
+{
+    frmGTGSGenEditor::Load();
+    WriteScratch("m.GCV", "older");
+    Choose(Scratch("m"));
+    Answers = {No};
+    frmGTGSGenEditor::mnuSaveAs();
+    CHECK(Told() ==
+          std::vector<Text>{"The file, " + Scratch("m.GCV") + " already exists.  Do you wish to overwrite it?"});
+    CHECK(ReadScratch("m.GCV") == "older");
+    CHECK(Dialog.Title == "GTGS General Conversion Editor");
+    Answers = {Yes};
+    frmGTGSGenEditor::mnuSaveAs();
+    CHECK(ReadScratch("m.GCV") != "older");
+    Dialog.Text1 = "t.BOR";
+    frmGTGSGenEditor::mnuSaveGTGSConvFile();
+    CHECK(ReadScratch("m.GCV").starts_with("t.BOR\r\n"));
+}
+
+TEST_CASE("a map that ends early is error 62, and shows what was read of it")
+{
+    WriteScratch("m.GCV", "t.BOR\r\n/p\r\n 0 \r\n 1 \r\n 1 \r\n");
+    frmGTGSGenEditor::Load();
+    Choose(Scratch("m.GCV"));
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    CHECK(Told() == std::vector<Text>{"Error 62 in OpenGTGSConversionFile.  Please contact Norvane"});
+    CHECK(Dialog.Text2 == "/p");
+    CHECK(SS1.Cell(1, 1) == "Boring Name");
+}
+
+TEST_CASE("the new file is named by its box, with the ending, in the folder of the tables; GTGS1.BOR when it is blank")
+{
+    CopyData("general");
+    std::filesystem::create_directory(Scratch("tables"));
+    for (const char* table : {"headers.txt", "lith.txt", "desc.txt", "well.txt"})
+        std::filesystem::rename(Scratch(table), Scratch(Text("tables/") + table));
+    frmGTGSGenEditor::Load();
+    Dialog.Text1 = "template";
+    Dialog.Text2 = Scratch("tables");
+    Dialog.Option3 = false;
+    Dialog.Text4 = "mine";
+    frmGTGSGenEditor::Command1();
+    CHECK(FileExists(Scratch("tables/mine.bor")));
+    Dialog.Text4 = "other.Bor";
+    frmGTGSGenEditor::Command1();
+    CHECK(FileExists(Scratch("tables/other.Bor")));
+    Dialog.Text4 = "";
+    Messages.clear();
+    frmGTGSGenEditor::Command1();
+    CHECK(Told() == std::vector<Text>{"Since you have left the New Boring File text box blank, the new boring file "
+                                      "will be saved as GTGS1.BOR",
+                                      Created("GTGS1.BOR")});
+}
+
+TEST_CASE("the new boring is opened in the log tool, and unsaved work there is asked about first")
+{
+    CopyData("general");
+    frmGTGSGenEditor::Load();
+    Choose(Scratch("comma.GCV"));
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    frmGTGSGenEditor::Command1();
+    CHECK(BoringFileName == Scratch("GB-7.bor"));
+    CHECK(frmBorinput::Text1 == "GB-7");
+    CHECK(frmBorinput::SSLith.Cell(1, 2) == "FB");
+    CHECK(FileChanged == 0);
+    frmBorinput::Text1 = "typed";
+    FileChanged = 1;
+    Messages.clear();
+    Answers = {Yes, Ok, Cancel}; // overwrite, created, save first
+    frmGTGSGenEditor::Command1();
+    CHECK(Told().back() == "Would you like to save the current file before opening another file?");
+    CHECK(frmBorinput::Text1 == "typed");
+    Messages.clear();
+    Answers = {No};
+    frmGTGSGenEditor::Command1(); // refused: the file is there
+    CHECK(frmBorinput::Text1 == "typed");
+}

@@ -1,0 +1,197 @@
+// pictures_test.cpp -- every window as its user sees it, on a screen of 1280 by 720: it fits, and its picture in
+// docs/gallery/windows is of that window still. With STRATAVUE_ACCEPT=gallery the pictures are taken anew
+// (./check --gallery, on a virtual screen).
+#include "boring/projectlist.h"
+#include "session/session.h"
+#include "session/startup.h"
+#include "windows/driver.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QImage>
+#include <QMainWindow>
+#include <QScreen>
+#include <QTabWidget>
+#include <cstdlib>
+
+static const std::string gallery = std::string(SOURCE_DIR) + "/docs/gallery/windows/";
+static constexpr QSize screenSize(1280, 720);
+
+static bool real()
+{
+    return QGuiApplication::platformName() == "xcb";
+}
+
+static QImage Taken(QWidget* window)
+{
+    const QPixmap picture = real() ? window->screen()->grabWindow(window->winId()) : window->grab();
+    return picture.toImage().convertToFormat(QImage::Format_RGB888);
+}
+
+static void Picture(QWidget* window, const Text& name)
+{
+    CAPTURE(name);
+    window->raise();          // a virtual screen has no one to see to it
+    Settle(real() ? 300 : 0); // what was asked for is on the screen
+    CHECK(window->width() <= screenSize.width());
+    CHECK(window->height() <= screenSize.height());
+    const QImage now = Taken(window);
+    const QString kept = QString::fromStdString(gallery + name + ".png");
+    if (const char* accept = std::getenv("STRATAVUE_ACCEPT"); accept && std::string(accept) == "gallery") {
+        std::filesystem::create_directories(gallery);
+        REQUIRE(now.save(kept, "PNG", 0));
+        return;
+    }
+    // Widths of letters differ from one machine to the next, and with them the sizes of windows.
+    const QImage before(kept);
+    REQUIRE_FALSE(before.isNull());
+    CHECK(std::abs(now.width() - before.width()) <= before.width() / 8);
+    CHECK(std::abs(now.height() - before.height()) <= before.height() / 8);
+}
+
+static void Escape(QWidget* window)
+{
+    Key(window, Qt::Key_Escape);
+}
+
+// The log window at the size of the screen, with a sample in it.
+static QMainWindow* LogWith(const char* sample)
+{
+    QMainWindow* log = LogWindow();
+    REQUIRE(log);
+    Platform.ShortDate = [] { return Text("1/2/2026"); }; // the same page on every day
+    log->setGeometry(QRect(QPoint(0, 0), screenSize));
+    Settle();
+    if (*sample)
+        OpenSample(sample);
+    return log;
+}
+
+// A window that a menu entry opens, seen and closed again.
+static void WindowOf(QMainWindow* log, const char* menu, const char* entry, const char* window)
+{
+    Then(window, [name = Text(window)](QWidget* shown) {
+        Picture(shown, name);
+        Escape(shown);
+        if (shown->isVisible())
+            shown->close();
+    });
+    ClickMenu(log, menu, entry);
+    CheckAllDone();
+}
+
+TEST_CASE("pictures of the start: the title box and the welcome")
+{
+    UseDesktop();
+    WriteScratch("device.cfg", Lines({Scratch("samples"), "0,0", "Arial"}));
+    Then("frmAbout5", [](QWidget* window) {
+        Picture(window, "frmAbout5");
+        Click(window);
+    });
+    Then("frmWelcome", [](QWidget* window) {
+        Picture(window, "frmWelcome");
+        ClickButton(window, "Command1");
+    });
+    Main();
+    CheckAllDone();
+}
+
+TEST_CASE("pictures of the log window, a tab each")
+{
+    QMainWindow* log = LogWith("MW-109.BOR");
+    auto* tabs = Find<QTabWidget>(log, "SSTab1");
+    REQUIRE(tabs->count() == 7);
+    const char* const names[] = {"general", "lithology", "samples", "parameters", "well", "remarks", "cuttings"};
+    for (int i = 0; i < tabs->count(); ++i) {
+        tabs->setCurrentIndex(i);
+        Picture(log, Text("frmBorinput-") + names[i]);
+    }
+}
+
+TEST_CASE("pictures of the log window with the page beside the boxes")
+{
+    QMainWindow* log = LogWith("TC-101.BOR");
+    Find<QTabWidget>(log, "SSTab1")->setCurrentIndex(1);
+    log->findChild<QAction*>("mnuLivePreview")->trigger();
+    Settle(600); // the page is drawn when the typing pauses
+    Picture(log, "frmBorinput-page");
+}
+
+TEST_CASE("pictures of the chooser with its projects, and of the editor of their list")
+{
+    LogWith("");
+    WriteScratch("svproj.lst", Lines({"2", "Harbour wall,us.hdg,logo.txt", Scratch("samples"),
+                                      "Quarry road,us.hdg,logo.txt", ScratchFolder()}));
+    LoadProjectList();
+    DialogMode = 1;
+    Then("frmOpenSave", [](QWidget* window) {
+        Picture(window, "frmOpenSave");
+        ClickButton(window, "Command4");
+        Escape(window);
+    });
+    Then("frmProjEdit", [](QWidget* window) {
+        Picture(window, "frmProjEdit");
+        Escape(window);
+    });
+    Platform.ShowChooser();
+    CheckAllDone();
+}
+
+TEST_CASE("pictures of the set-up, the logo and the print set-up")
+{
+    QMainWindow* log = LogWith("");
+    WindowOf(log, "mnuUtilities", "mnuGraphicSetup", "frmPrinterSetup");
+    WindowOf(log, "mnuUtilities", "mnuCreateLogo", "frmLogo");
+    WindowOf(log, "mnuFile", "mnuPrintSetup", "PrintSetup");
+    WindowOf(log, "mnuHelpMenu", "mnuHelp", "Help");
+}
+
+TEST_CASE("pictures of the heading editor and its legend")
+{
+    QMainWindow* log = LogWith("");
+    Then("frmHeading", [](QWidget* window) {
+        Platform.ShowChooser = [] { DialogResult = "us.hdg"; };
+        ClickMenu(window, "mnuFile", "mnuOpen");
+        Picture(window, "frmHeading");
+        Then("frmDescLegend", [](QWidget* legend) {
+            Picture(legend, "frmDescLegend");
+            legend->close();
+        });
+        ClickButton(window, "Command1");
+        window->close();
+    });
+    ClickMenu(log, "mnuEdit", "mnuEditHeading");
+    CheckAllDone();
+}
+
+TEST_CASE("pictures of the layout, prompt and description item editors")
+{
+    QMainWindow* log = LogWith("");
+    Platform.ShowChooser = [] { DialogResult = "PORTRAIT.LAY"; };
+    Then("frmLayout", [](QWidget* window) {
+        ClickMenu(window, "mnuFile", "mnuOpen");
+        Picture(window, "frmLayout");
+        window->close();
+    });
+    ClickMenu(log, "mnuEdit", "mnuEditLayout");
+    CheckAllDone();
+    WindowOf(log, "mnuEdit", "mnuEditPromptFile", "frmPrompt");
+    WindowOf(log, "mnuEdit", "mnuEditDesItems", "frmDesItems");
+}
+
+TEST_CASE("pictures of the batch dialog, the screen view and the printing notice")
+{
+    QMainWindow* log = LogWith("MW-109.BOR");
+    WindowOf(log, "mnuFile", "mnuBatchDraw", "frmDrawPrint");
+    Then("DrawArea", [](QWidget* window) {
+        window->setGeometry(QRect(QPoint(0, 0), screenSize));
+        Settle();
+        Picture(window, "frmDrawArea");
+        ClickMenu(window, "mnuFile", "mnuPrint");
+        ClickMenu(window, "mnuFile", "mnuExit");
+    });
+    Then("frmPrinting", [](QWidget* window) { Picture(window, "frmPrinting"); });
+    Then("MsgBox", [](QWidget* window) { Key(window, Qt::Key_Return); });
+    ClickMenu(log, "mnuFile", "mnuPreview");
+    CheckAllDone();
+}
