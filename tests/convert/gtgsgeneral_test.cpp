@@ -96,7 +96,8 @@ TEST_CASE("well lines begin with cap, case, seal or fseal, and the value takes t
 
 TEST_CASE("fields are separated by commas, tabs, or blanks for any other number")
 {
-    for (const auto& [separator, line] : {std::pair<int, const char*>(1, "a b,c"), {0, "a b\tc"}, {2, "a c"}, {3, "a c"}}) {
+    for (const auto& [separator, line] :
+         {std::pair<int, const char*>(1, "a b,c"), {0, "a b\tc"}, {2, "a c"}, {3, "a c"}}) {
         OwnMap();
         GtgsMapping.fixedFields = 0;
         GtgsMapping.fieldSpec = int16_t(separator);
@@ -388,4 +389,20 @@ TEST_CASE("the new boring is opened in the log tool, and unsaved work there is a
     Answers = {No};
     frmGTGSGenEditor::Command1(); // refused: the file is there
     CHECK(frmBorinput::Text1 == "typed");
+}
+
+TEST_CASE("a template without a folder is one of the project folder, and one with a folder is taken as it is")
+{
+    OwnMap();
+    std::filesystem::create_directories(Scratch("job"));
+    std::filesystem::rename(Scratch("template.BOR"), Scratch("job/template.BOR"));
+    CHECK(ConvertGTGSGeneral(Scratch("x.bor")) == "");
+    Messages.clear();
+    ProjectPath = Scratch("job");
+    GtgsMapping.textPath = ScratchFolder();
+    CHECK(ConvertGTGSGeneral(Scratch("x.bor")) == Scratch("x.bor"));
+    CHECK(Told() == std::vector<Text>{Created("x.bor")});
+    ProjectPath = ScratchFolder();
+    GtgsMapping.templateFile = Scratch("job/template");
+    CHECK(ConvertGTGSGeneral(Scratch("y.bor")) == Scratch("y.bor"));
 }
