@@ -1,5 +1,6 @@
 // toollabels_test.cpp -- which line of prompt.txt stands over which box, in each of the five tools.
 #include "boring/boringboxes.h"
+#include "editors/borinput.h"
 #include "gis/gistool.h"
 #include "report/prompts.h"
 #include "sections/crosstool.h"
@@ -105,4 +106,40 @@ TEST_CASE("by design the boxes of the four tools beside the log tool bear these 
     std::vector<Text> words = frmGIS::SSGISInfo.headings;
     words.resize(6);
     CHECK(words == std::vector<Text>{"", "Boring", "X Coord.", "Y Coord.", "Surf. Elev.", "Filename"});
+}
+
+TEST_CASE("by design the grids of the log tool bear the words of the stock prompt file")
+{
+    using namespace frmBorinput;
+    std::filesystem::copy_file(SOURCE_DIR "/data/prompt.txt", Scratch("prompt.txt"));
+    for (Grid* grid : {&SSInfo, &SSScale, &SSRepParts, &SSP1Setup, &SSP2Setup, &SSSamp, &SSPar, &SSLith, &SSGenWellInfo,
+                       &SSOuterLay, &SSInnerLay, &SSW, &SSFormations, &SSCuttings, &SSLegend}) {
+        grid->title.clear();
+        grid->headings.clear();
+        grid->rowHeadings.clear();
+    }
+    frmBorinput::Load();
+    const auto check = [](const Grid& grid, int title, int first, int last, bool rows = false) {
+        CAPTURE(title);
+        CHECK(grid.title == PromptTable[title][DefaultText]);
+        const std::vector<Text>& words = rows ? grid.rowHeadings : grid.headings;
+        REQUIRE(words.size() > size_t(last - first + 1));
+        for (int slot = first; slot <= last; ++slot)
+            CHECK(words[size_t(slot - first) + 1] == PromptTable[slot][DefaultText]);
+    };
+    check(SSInfo, 8, 9, 10);
+    check(SSScale, 11, 12, 18, true);
+    check(SSRepParts, 22, 23, 24);
+    check(SSP1Setup, 32, 34, 42);
+    check(SSP2Setup, 43, 45, 52);
+    check(SSSamp, 58, 59, 63);
+    check(SSPar, 64, 65, 65);
+    check(SSLith, 67, 68, 71);
+    check(SSGenWellInfo, 76, 77, 90, true);
+    check(SSOuterLay, 96, 97, 101);
+    check(SSInnerLay, 102, 103, 107);
+    check(SSW, 109, 110, 111);
+    check(SSFormations, 115, 116, 117);
+    check(SSCuttings, 118, 119, 122);
+    check(SSLegend, 124, 125, 126);
 }
