@@ -13,7 +13,9 @@
 #include "session/files.h"
 #include "session/session.h"
 
-#include <regex>
+#include <algorithm>
+#include <cstdio>
+#include <sstream>
 
 using VCROSS::SoilRun;
 
@@ -91,21 +93,20 @@ static void DrawTable(const SoilText& soil, const BoringText& boring)
 // Places of a drawing from another point: (x, y) of what Drawn tells.
 static Drawing From(const Drawing& drawing, int x, int y)
 {
-    static const std::regex place(" (-?[0-9]+),(-?[0-9]+)");
     Drawing moved;
     for (const Text& object : drawing) {
+        std::istringstream in(object);
         Text words;
-        std::smatch found;
-        Text rest = object;
-        const bool text = object.starts_with("text ");
-        while (std::regex_search(rest, found, place)) {
-            words += found.prefix().str() + " " + std::to_string(std::stoi(found[1]) - x) + "," +
-                     std::to_string(std::stoi(found[2]) - y);
-            rest = found.suffix().str();
-            if (text)
-                break;
+        bool done = false; // behind the place of a text comes the text itself
+        for (Text word; std::getline(in, word, ' ');) {
+            int atX = 0, atY = 0, read = 0;
+            if (!done && std::sscanf(word.c_str(), "%d,%d%n", &atX, &atY, &read) == 2 && size_t(read) == word.size()) {
+                word = std::to_string(atX - x) + "," + std::to_string(atY - y);
+                done = object.starts_with("text ");
+            }
+            words += (words.empty() ? "" : " ") + word;
         }
-        moved.push_back(words + rest);
+        moved.push_back(words);
     }
     return moved;
 }
