@@ -1,6 +1,7 @@
 // main.cpp -- stratavue-batch: the jobs of the program without its windows. The printer is replaced by files, and
 // the boxes by lines on standard error.
 #include "batch/commandline.h"
+#include "batch/jobtable.h"
 #include "canvas/batch.h"
 #include "canvas/dxf.h"
 #include "canvas/pagelisting.h"
@@ -9,7 +10,6 @@
 #include "convert/gtgsgeneral.h"
 #include "convert/gtgstext.h"
 #include "convert/winlog.h"
-#include "editors/jobtable.h"
 #include "gis/gisfile.h"
 #include "platform/qt/headless.h"
 #include "platform/qt/pagepainter.h"

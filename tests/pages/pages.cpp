@@ -3,10 +3,10 @@
 
 #include "testing.h"
 
+#include "batch/jobtable.h"
 #include "canvas/batch.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
-#include "editors/jobtable.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"

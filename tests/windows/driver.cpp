@@ -1,7 +1,7 @@
 // driver.cpp -- the user of the window tests.
 #include "windows/driver.h"
 
-#include "editors/jobtable.h"
+#include "batch/jobtable.h"
 #include "platform/qt/application.h"
 #include "platform/qt/printers.h"
 #include "platform/qt/uitext.h"

@@ -1,5 +1,5 @@
 // jobtable.cpp -- which procedure each job of the batch dialog starts.
-#include "editors/jobtable.h"
+#include "batch/jobtable.h"
 
 #include "canvas/batch.h"
 #include "canvas/patterns.h"
