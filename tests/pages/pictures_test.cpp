@@ -113,9 +113,9 @@ TEST_CASE("the intro pages of a sample boring look like the kept pictures, in bo
 TEST_CASE("the sample sections, fences and soil tables look like the kept pictures")
 {
     const std::string folder = std::string(BUILD_DIR) + "/samples";
-    const std::pair<const char*, int16_t> sheets[] = {{"TC-S1.CRO", 4},  {"TC-S2.CRO", 4}, {"TC-S3.CRO", 4},
-                                                      {"TC-F1.FEN", 6},  {"TC-F2.FEN", 6}, {"TC-F3.FEN", 6},
-                                                      {"MW-108.SOI", 8}, {"SB-111.SOI", 8}};
+    const std::pair<Text, int16_t> sheets[] = {{"TC-S1.CRO", 4},  {"TC-S2.CRO", 4}, {"TC-S3.CRO", 4},
+                                               {"TC-F1.FEN", 6},  {"TC-F2.FEN", 6}, {"TC-F3.FEN", 6},
+                                               {"MW-108.SOI", 8}, {"SB-111.SOI", 8}};
     for (const auto& [file, job] : sheets) {
         CAPTURE(file);
         StartPictures();
