@@ -313,3 +313,28 @@ TEST_CASE("a heading file that cannot be written is told by name")
     SaveHeadingFile();
     CheckOneMessage("Error 76 in SaveHeadingFile.  Please contact Norvane");
 }
+
+TEST_CASE("the four legend boxes keep their usual patterns where no number is told")
+{
+    WriteScratch("us.hdg", HeadingText({{41, "a"}, {42, "b"}, {43, "c"}, {44, "d"}}));
+    WriteLogo();
+    getclientlogo(1);
+    const int usual[] = {0, 1, 7, 20, 9};
+    for (int box = 0; box <= 4; ++box)
+        CHECK(LegendBoxFill[box] == usual[box]);
+}
+
+TEST_CASE("the first word of a heading table counts among its blanks as the twentieth does")
+{
+    DialogResult = Scratch("a.hdg");
+    for (const int filled : {1, 20}) {
+        HeadingTable = {};
+        for (int slot = 4; slot <= 17; ++slot)
+            HeadingTable[slot] = "x";
+        SaveHeadingFile();
+        CHECK_FALSE(std::filesystem::exists(Scratch("a.hdg")));
+        HeadingTable[filled] = "x";
+        SaveHeadingFile();
+        CHECK(std::filesystem::remove(Scratch("a.hdg")));
+    }
+}

@@ -280,3 +280,17 @@ TEST_CASE("a list that is not there is told and draws nothing")
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "Error 53 in getsvfiles.  Please contact Norvane");
 }
+
+TEST_CASE("water marks are the last on a page of layers, one for each boring with a water depth")
+{
+    WriteBorings();
+    WriteSection("A.CRO", TwoBorings("Main", "Y"));
+    WriteSectionList({"A.CRO"});
+    vcrossstart();
+    REQUIRE(Listings.size() == 1);
+    const size_t last = Listings[0].rfind("{\"kind\"");
+    const Text mark = Listings[0].substr(last);
+    CHECK(mark.starts_with("{\"kind\": \"polygon\""));
+    CHECK(mark.find("\"color\": \"0 0 0\"") != Text::npos);
+    CHECK(Times(Listings[0], mark) == 1);
+}

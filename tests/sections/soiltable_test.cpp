@@ -594,3 +594,39 @@ TEST_CASE("a list of tables that cannot be read is told, and draws nothing")
     CHECK(!Messages.empty());
     CHECK(Messages[0].words.starts_with("Error 53 in getsvfiles"));
 }
+
+TEST_CASE("a boring with something in every list is read through to its client")
+{
+    BoringText boring = Boring();
+    boring.WellInfo = {{"Driller", "X"}, {"Rig", "Y"}, {"Bit", "Z"}};
+    boring.WellNotes = {"n1", "n2"};
+    boring.OuterLayers = {{"0", "8", "Grout"}, {"8", "12", "Seal"}};
+    boring.InnerLayers = {{"0", "8", "Pipe"}, {"8", "12", "Screen"}};
+    boring.Remarks = {"r1", "r2"};
+    boring.Cuttings = {{"1", "2", "3", "4"}};
+    boring.Legend = {{"SM", "Sand"}};
+    boring.Formations = {{"5", "Fill"}, {"9", "Till"}};
+    WriteBoring("B-1.BOR", boring);
+    WriteSoil("A.SOI", SoilText());
+    RunPages.pageFile = Scratch("A.SOI");
+    CHECK(VCROSS::getsoildata());
+    CHECK(Messages.empty());
+    CHECK(SoilRun.layerCount == 2);
+    CHECK(SoilRun.sampleCount == 1);
+    CHECK(SoilRun.split1[2] == "100");
+    for (int line = 1; line <= 5; ++line)
+        CHECK(LogBoring.Client[line] == "c" + std::to_string(line));
+    CHECK(LogBoring.Style == 3);
+}
+
+TEST_CASE("the tenth note of a table is read as the first is, each up to its mark")
+{
+    WriteBoring("B-1.BOR", Boring());
+    SoilText soil;
+    soil.Notes = {"1\xB6", "2", "3", "4", "5", "6", "7", "8", "9", "10\xB6"};
+    WriteSoil("A.SOI", soil);
+    RunPages.pageFile = Scratch("A.SOI");
+    CHECK(VCROSS::getsoildata());
+    CHECK(SoilRun.notes[1] == "1");
+    CHECK(SoilRun.notes[10] == "10");
+}
