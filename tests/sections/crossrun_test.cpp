@@ -285,7 +285,7 @@ TEST_CASE("water marks are the last on a page of layers, one for each boring wit
 {
     WriteBorings();
     WriteSection("A.CRO", TwoBorings("Main", "Y"));
-    WriteSectionList({"A.CRO"});
+    WriteRunList({"A.CRO"});
     vcrossstart();
     REQUIRE(Listings.size() == 1);
     const size_t last = Listings[0].rfind("{\"kind\"");
