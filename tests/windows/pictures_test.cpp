@@ -213,7 +213,7 @@ TEST_CASE("a picture of the editor of the general conversion, with a map open")
     std::filesystem::copy_file(SOURCE_DIR "/tests/convert/data/general/comma.GCV", Scratch("comma.GCV"));
     Platform.ShowChooser = [] { DialogResult = Scratch("comma.GCV"); };
     Then("frmGTGSGenEditor", [](QWidget* window) {
-        ClickMenu(window, "mnuFile", "mnuOpen");
+        ClickMenu(window, "mnuFile", "mnuOpenGTGSConvFile");
         Picture(window, "frmGTGSGenEditor");
         ClickMenu(window, "mnuFile", "mnuExit");
     });
