@@ -195,6 +195,7 @@ TEST_CASE("pictures of the other tools, each with a sample of the project")
     for (const ToolWindow& tool : tools) {
         chosen = tool.sample;
         Then(tool.window, [&tool](QWidget* window) {
+            window->setGeometry(QRect(QPoint(0, 0), QSize(1180, 676))); // as on a screen of that size
             ClickMenu(window, "mnuFile", "mnuOpen");
             if (auto* page = window->findChild<QAction*>("mnuLivePreview"))
                 page->trigger();
