@@ -1,24 +1,10 @@
 // heading_test.cpp -- the heading file and the logo.
 #include "report/heading.h"
 
-#include "testing.h"
+#include "report/choosing.h"
 
 #include "session/deviceconfig.h"
 #include "session/session.h"
-
-// A heading file of the current form: slot n holds "wn", but for what is set.
-static std::string HeadingText(std::initializer_list<std::pair<int, Text>> slots = {})
-{
-    Text words[85];
-    for (int slot = 1; slot <= 84; ++slot)
-        words[slot] = "w" + std::to_string(slot);
-    for (const auto& [slot, word] : slots)
-        words[slot] = word;
-    std::string file = "5.0\r\n";
-    for (int slot = 1; slot <= 84; ++slot)
-        file += words[slot] + "\r\n";
-    return file;
-}
 
 static void WriteLogo()
 {

@@ -1,7 +1,7 @@
 // layoutedit_test.cpp -- the commands of the layout editor and the drops of its tiles.
 #include "report/layoutedit.h"
 
-#include "testing.h"
+#include "report/choosing.h"
 
 #include "boring/boringboxes.h"
 #include "report/layout.h"
@@ -10,19 +10,6 @@
 
 using frmLayout::Tile;
 using frmLayout::TilePoint;
-
-static Text chosen;
-static int16_t modeAsked;
-
-static void Choose(const Text& name)
-{
-    chosen = name;
-    Platform.ShowChooser = [] {
-        modeAsked = DialogMode;
-        DialogResult = chosen;
-        DialogMode = -1;
-    };
-}
 
 static int BlocksInUse()
 {

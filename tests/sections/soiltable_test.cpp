@@ -74,11 +74,7 @@ static BoringText Boring()
 static void Run(std::initializer_list<Text> files)
 {
     WriteHeadings();
-    LineWriter out(MasFile(), Durability::Scratch);
-    out.Line(PlainNumber(int(files.size())));
-    for (const Text& file : files)
-        out.Line(Scratch(file));
-    out.Close();
+    WriteRunList(files);
     VCROSS::vsoilstart();
 }
 
