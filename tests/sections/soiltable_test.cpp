@@ -91,7 +91,7 @@ static Drawing From(const Drawing& drawing, int x, int y)
 {
     Drawing moved;
     for (const Text& object : drawing) {
-        std::istringstream in(object);
+        std::istringstream in(object + " "); // so that an empty text stays
         Text words;
         bool done = false; // behind the place of a text comes the text itself
         for (Text word; std::getline(in, word, ' ');) {
