@@ -226,7 +226,7 @@ protected:
             sizes.clear();
         }
         QSize& size = sizes[model()->headerData(section, orientation()).toString()];
-        if (size.isNull())
+        if (!size.isValid())
             size = QHeaderView::sectionSizeFromContents(section);
         return size;
     }
