@@ -27,6 +27,7 @@
 #include <QComboBox>
 #include <QDockWidget>
 #include <QGridLayout>
+#include <QHash>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -809,9 +810,13 @@ void BorinputWindow::OrderTabs()
         "SSInnerLay",   "SSW",           "MemoWcon",   "cmdAdj3", "cmdAdj4",    "MemoRemarks",   "cmdAdj5",
         "cmdAdj6",      "MemoBottNotes", "cmdAdj7",    "cmdAdj8", "SSCuttings", "SSLegend",      "cmdLivePrevious",
         "cmdLiveNext",  "lstCheck"};
+    QHash<QString, QWidget*> boxes; // one look through the window, not one for each box
+    for (QWidget* box : findChildren<QWidget*>())
+        if (!box->objectName().isEmpty())
+            boxes.insert(box->objectName(), box);
     QWidget* before = nullptr;
     for (const char* name : order) {
-        auto* next = findChild<QWidget*>(name);
+        QWidget* next = boxes.value(name);
         if (next == tabs)
             next = tabs->tabBar(); // with the tabs themselves all that stands on them would move
         if (before)

@@ -139,8 +139,14 @@ void ClickMenu(QWidget* window, const char* menu, const char* entry)
         QTest::mouseClick(bar, Qt::LeftButton, {}, at(bar, entry));
         return;
     }
-    QTest::mouseClick(bar, Qt::LeftButton, {}, at(bar, menu));
-    QWidget* popup = QApplication::activePopupWidget();
+    // On a busy machine a change of the active window comes late, and takes with it the menu that was just opened.
+    QWidget* popup = nullptr;
+    for (int tries = 0; !popup && tries < 5; ++tries) {
+        if (tries > 0)
+            Settle(50);
+        QTest::mouseClick(bar, Qt::LeftButton, {}, at(bar, menu));
+        popup = QApplication::activePopupWidget();
+    }
     REQUIRE(popup);
     auto* list = qobject_cast<QMenu*>(popup);
     QTest::mouseClick(popup, Qt::LeftButton, {}, at(list, entry));

@@ -35,6 +35,28 @@
 #include <cstdlib>
 #include <fstream>
 
+TEST_CASE("each heading and each row number has room for its words")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("MW-109.BOR");
+    for (QTableView* grid : log->findChildren<QTableView*>()) {
+        CAPTURE(grid->objectName().toStdString());
+        for (QHeaderView* header : {grid->horizontalHeader(), grid->verticalHeader()}) {
+            QFont bold = header->font();
+            bold.setBold(true);
+            const bool across = header == grid->horizontalHeader();
+            CHECK(header->sizeHint().height() >= (across ? QFontMetrics(bold).height() : 0));
+            CHECK(header->sizeHint().width() >= (across ? 0 : QFontMetrics(bold).horizontalAdvance("8")));
+            for (int section = 0; section < header->count(); ++section) {
+                const QString words = grid->model()->headerData(section, header->orientation()).toString();
+                CAPTURE(words.toStdString());
+                const int wanted = std::min(QFontMetrics(bold).horizontalAdvance(words), 260);
+                CHECK((across ? header->sectionSize(section) : header->sizeHint().width()) >= wanted);
+            }
+        }
+    }
+}
+
 TEST_CASE("typing starts an edit, Tab goes right, Enter goes down, and the title marks the change")
 {
     QMainWindow* log = LogWindow();

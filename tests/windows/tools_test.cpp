@@ -738,3 +738,98 @@ TEST_CASE("a walk through all five tools in one session, saving and not saving o
     CHECK(ReadScratch("samples/W.SOI").starts_with("TC-103\r\n"));
     CHECK(ReadScratch("samples/W.GIS").starts_with(" 1 \r\nSM\r\n"));
 }
+
+namespace
+{
+// What is opened in each tool of the round, and the cell that is typed over.
+struct Stop {
+    const char* file;
+    const char* grid;
+    int row, column;
+    const char* was;
+};
+} // namespace
+
+static const Stop stops[] = {{"TC-S1.CRO", "SS3", 1, 1, "\r\nFormer Hallam Wire Works\r\n"},
+                             {"TC-F1.FEN", "SS3", 1, 1, "\r\nTamber River Crossing\r\n"},
+                             {"MW-108.SOI", "SS1", 6, 1, "\r\nFormer Hallam Wire Works\r\n"},
+                             {"WIREWICK.GIS", "SSGISLayers", 1, 2, "\r\nGRAY\r\n"}};
+
+static std::string With(std::string file, const std::string& was, const std::string& now)
+{
+    const size_t at = file.find(was);
+    REQUIRE(at != std::string::npos);
+    return file.replace(at, was.size(), now);
+}
+
+// In one tool, and from there through the rest: Cancel keeps the user and the file as they are, then the other answer
+// leads on, with the file saved or not.
+static void GoRound(size_t at, QWidget* tool, const char* answer, const char* typed)
+{
+    const Stop& stop = stops[at];
+    const Text name = Text("samples/") + stop.file;
+    CAPTURE(name);
+    CHECK(FileChanged == 0);
+    ThenChoose(stop.file);
+    ClickMenu(tool, "mnuFile", "mnuOpen");
+    const std::string before = ReadScratch(name);
+    ClickCell(tool, stop.grid, stop.row, stop.column);
+    TypeText(tool, (Text(typed) + "\n").c_str());
+    CHECK(FileChanged == 1);
+    const bool last = at + 1 == std::size(stops);
+    const char* const next = last ? "mnuVeskLog" : cases[at + 1].back;
+    ThenAnswer(quitting, "Cancel");
+    ClickMenu(tool, "mnuTools", next);
+    CHECK(tool->isVisible());
+    CHECK(FileChanged == 1);
+    CHECK((ReadScratch(name) == before));
+    const std::string expected = answer == Text("Yes") ? With(before, stop.was, Text("\r\n") + typed + "\r\n") : before;
+    ThenAnswer(quitting, answer);
+    if (!last)
+        InTool(cases[at + 1].window, [=](QWidget* other) {
+            CHECK((ReadScratch(name) == expected));
+            GoRound(at + 1, other, answer, typed);
+        });
+    ClickMenu(tool, "mnuTools", next);
+    CHECK((ReadScratch(name) == expected));
+}
+
+TEST_CASE(
+    "round through all five tools: at each hand-over Cancel stays, Yes saves the file, and No leaves it as it was")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-103.BOR");
+    ClickMenu(log, "mnuFile", "mnuSave"); // each cell as a save writes it
+    const std::string boring = ReadScratch("samples/TC-103.BOR");
+    std::string expected = boring;
+    const std::pair<const char*, const char*> rounds[] = {{"No", "One"}, {"Yes", "Two"}, {"No", "Three"}};
+    for (const auto& [answer, typed] : rounds) {
+        CAPTURE(typed);
+        auto* name = Find<QLineEdit>(log, "Text1");
+        name->setFocus();
+        QTest::keyClick(name, Qt::Key_End);
+        QTest::keyClicks(name, "x");
+        CHECK(FileChanged == 1);
+        ThenAnswer(quitting, "Cancel");
+        ClickMenu(log, "mnuTools", "mnuvcross");
+        CheckAllDone();
+        CHECK(FileChanged == 1);
+        CHECK((ReadScratch("samples/TC-103.BOR") == expected));
+        if (answer == Text("Yes")) // with what was typed in the round before
+            expected = With(boring, "\r\nTC-103\r\n", "\r\nTC-103xx\r\n");
+        ThenAnswer(quitting, answer);
+        InTool("frmCross", [&, answer = answer, typed = typed](QWidget* tool) {
+            CHECK((ReadScratch("samples/TC-103.BOR") == expected));
+            GoRound(0, tool, answer, typed);
+        });
+        ClickMenu(log, "mnuTools", "mnuvcross");
+        CheckAllDone();
+        CHECK(log->isVisible());
+        CHECK(QApplication::activeModalWidget() == nullptr);
+        CHECK(FileChanged == 0);
+        CHECK((ReadScratch("samples/TC-103.BOR") == expected));
+        log->activateWindow(); // there is no window manager here to do it
+        Settle();
+    }
+    CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-103xxx");
+}

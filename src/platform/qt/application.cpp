@@ -5,6 +5,7 @@
 #include "session/platform.h"
 #include "session/text.h"
 
+#include <QFile>
 #include <QIcon>
 #include <QPalette>
 #include <QProxyStyle>
@@ -54,10 +55,10 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName("Stratavue");
     setDesktopFileName("stratavue");
-    setWindowIcon(QIcon(applicationDirPath() + "/stratavue.png"));
-    if (windowIcon().availableSizes().isEmpty())
-        setWindowIcon(QIcon::fromTheme("stratavue")); // an installed program's
-    setQuitOnLastWindowClosed(false);                 // the log window ends the program, not the last box that closes
+    // An installed program's is the desktop's.
+    const QString icon = applicationDirPath() + "/stratavue.png";
+    setWindowIcon(QFile::exists(icon) ? QIcon(icon) : QIcon::fromTheme("stratavue"));
+    setQuitOnLastWindowClosed(false); // the log window ends the program, not the last box that closes
     Dress();
 }
 

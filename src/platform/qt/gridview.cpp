@@ -6,6 +6,7 @@
 
 #include <QAbstractTableModel>
 #include <QComboBox>
+#include <QHash>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -202,12 +203,44 @@ private:
 };
 } // namespace
 
+namespace
+{
+// A heading's size depends on its words and its font alone. A table asks for that of each heading and row number many
+// times while it is built, and the log window builds a dozen tables.
+class Headings : public QHeaderView
+{
+public:
+    Headings(Qt::Orientation side, QWidget* parent) : QHeaderView(side, parent)
+    {
+        setSectionsClickable(true);
+    }
+
+protected:
+    QSize sectionSizeFromContents(int section) const override
+    {
+        static QFont known;
+        static QHash<QString, QSize> sizes;
+        ensurePolished(); // from here on the font is the one that is painted with
+        if (known != font()) {
+            known = font();
+            sizes.clear();
+        }
+        QSize& size = sizes[model()->headerData(section, orientation()).toString()];
+        if (!size.isValid())
+            size = QHeaderView::sectionSizeFromContents(section);
+        return size;
+    }
+};
+} // namespace
+
 GridView::GridView(const char* name, Grid& shown, QWidget* parent, const QString& keptAs)
     : QTableView(parent), grid(shown), widthsKept("columns/" + (keptAs.isEmpty() ? QString(name) : keptAs))
 {
     setObjectName(name);
     setAccessibleName(ToUi(shown.title));
     model = new GridModel(shown, this);
+    setHorizontalHeader(new Headings(Qt::Horizontal, this));
+    setVerticalHeader(new Headings(Qt::Vertical, this));
     setModel(model);
     setItemDelegate(new CellDelegate(grid, up, this));
     setAlternatingRowColors(true);
