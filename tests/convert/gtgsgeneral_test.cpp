@@ -96,7 +96,8 @@ TEST_CASE("well lines begin with cap, case, seal or fseal, and the value takes t
 
 TEST_CASE("fields are separated by commas, tabs, or blanks for any other number")
 {
-    for (const auto& [separator, line] : {std::pair<int, const char*>(1, "a b,c"), {0, "a b\tc"}, {2, "a c"}, {3, "a c"}}) {
+    for (const auto& [separator, line] :
+         {std::pair<int, const char*>(1, "a b,c"), {0, "a b\tc"}, {2, "a c"}, {3, "a c"}}) {
         OwnMap();
         GtgsMapping.fixedFields = 0;
         GtgsMapping.fieldSpec = int16_t(separator);
