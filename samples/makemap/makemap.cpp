@@ -1,5 +1,5 @@
 // makemap.cpp -- makemap: draws the plans of the sample project. SITEMAP.BMP is the location plan of the title blocks,
-// which two of its borings name; PROJECT.BMP is the project map of the intro pages, which finds it by that name.
+// which some of its borings name; PROJECT.BMP is the project map of the intro pages, which finds it by that name.
 //
 //     makemap SITEMAP.BMP PROJECT.BMP
 //
@@ -95,6 +95,9 @@ static void DrawBorings(Plan& plan)
     plan.Boring("105", 2918, 978, -16, 1);
     plan.Boring("107", 2984, 981, 4, -3);
     plan.Boring("108", 2930, 1160, 4, -1);
+    plan.Boring("109", 2960, 1205, 4, -3);
+    plan.Boring("110", 2950, 1085, 4, -1);
+    plan.Boring("112", 2945, 1140, -14.5, -1.5);
 }
 
 // North, and a hundred feet, in the plan's lower left corner and below its upper one.

@@ -1,30 +1,25 @@
 // main.cpp -- stratavue-batch: the jobs of the program without its windows. The printer is replaced by files, and
 // the boxes by lines on standard error.
 #include "batch/commandline.h"
+#include "batch/jobtable.h"
 #include "canvas/batch.h"
 #include "canvas/dxf.h"
 #include "canvas/pagelisting.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
 #include "convert/gtgsgeneral.h"
-#include "convert/gtgsprt.h"
 #include "convert/gtgstext.h"
-#include "convert/irpims.h"
 #include "convert/winlog.h"
 #include "gis/gisfile.h"
-#include "logrender/intropage.h"
-#include "logrender/vlog.h"
 #include "platform/qt/headless.h"
 #include "platform/qt/pagepainter.h"
 #include "platform/qt/pdfrun.h"
 #include "platform/qt/pngpages.h"
-#include "sections/crossrun.h"
-#include "sections/fencerun.h"
-#include "sections/soiltable.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/platform.h"
+#include "session/savename.h"
 #include "session/session.h"
 #include "session/stockfiles.h"
 
@@ -223,19 +218,6 @@ static void FillPlatform()
     Platform.Unattended = true;
 }
 
-static void FillJobTable()
-{
-    JobTable[1] = JobTable[2] = VLOG::vlogstart;
-    JobTable[3] = JobTable[4] = VCROSS::vcrossstart;
-    JobTable[5] = JobTable[6] = VCROSS::vfencestart;
-    JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
-    JobTable[9] = patternstart;
-    JobTable[10] = Export2IRPIMS;
-    JobTable[11] = ConvertGTGS2BOR;
-    JobTable[12] = ConvertWinLog;
-    IntroPages = VLOG::vlogintrostart;
-}
-
 // ---- The run
 
 namespace
@@ -410,7 +392,7 @@ static bool OpenTable(const Text& file)
 // A table that cannot be read is left as it is; a boring that cannot be read has its row with its name alone.
 static void AddToGis()
 {
-    const Text table = HasEnding(Asked.Gis) ? Asked.Gis : Asked.Gis + ".GIS";
+    const Text table = WithEnding(Asked.Gis, ".GIS");
     ClearGISForm();
     if (FileExists(table) && !OpenTable(table))
         return;

@@ -6,6 +6,15 @@
 
 #include <algorithm>
 
+// Lines of a row of each table, and of the two parameter set-ups together, which have no count.
+constexpr int SampleCells = 5 + SampleParams, LithCells = 4, LayerCells = 5, CuttingCells = 4;
+constexpr int SetupLines = 9 * SampleParams + 8 * GenParams;
+// Of a row of general parameters, its depth among them; the first form had eight parameters.
+inline int ParamCells(const Text& version)
+{
+    return version == "5.0" ? 9 : 1 + GenParams;
+}
+
 template <int Rows>
 void ReadLines(LineReader& in, Slots<Text, Rows>& lines, int count = Rows)
 {

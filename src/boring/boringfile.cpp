@@ -80,7 +80,7 @@ try {
     ReadBlock(in, BoringData.Samples, BoringData.SampleCount);
     ReadBlock(in, BoringData.Lith, BoringData.LithCount);
     ReadBlock(in, BoringData.Des, BoringData.DesCount);
-    ReadBlock(in, BoringData.Params, BoringData.ParamCount, version == "5.0" ? 9 : 21);
+    ReadBlock(in, BoringData.Params, BoringData.ParamCount, ParamCells(version));
     ReadCells(in, BoringData.SampleParamSetup);
     ReadCells(in, BoringData.GenParamSetup);
     ReadBlock(in, BoringData.WellInfo, BoringData.WellInfoCount);

@@ -7,6 +7,7 @@
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/platform.h"
+#include "session/savename.h"
 #include "session/session.h"
 
 #include <algorithm>
@@ -129,11 +130,8 @@ static void WritePages(const PageTable& pages, int count)
 
 void getpage(Text& first, Text& second)
 try {
-    Text name = DeviceConfig.SystemFiles[HeadingFile];
-    if (name.empty())
-        name = "us.hdg";
-    else if (!HasEnding(name))
-        name += ".hdg";
+    const Text& told = DeviceConfig.SystemFiles[HeadingFile];
+    const Text name = told.empty() ? "us.hdg" : WithEnding(told, ".hdg");
     if (!FileExists(name)) {
         first = "";
         MsgBox("Heading File Not Found: " + name, OkOnly, Exclamation);

@@ -19,10 +19,17 @@ void ClearForConversion()
     ClearBoringArrays();
 }
 
-void SetReportPart(int row, const FixedPart& part)
+void SetFixedForm(std::span<const char* const> prompts, std::span<const FixedPart> parts, const char* layout)
 {
-    BoringData.RepParts[row] = {part.Item, part.Width};
+    int row = 0;
+    for (const char* prompt : prompts)
+        BoringData.Info[++row][1] = prompt;
+    row = 0;
+    for (const FixedPart& part : parts)
+        BoringData.RepParts[++row] = {part.Item, part.Width};
     BoringData.RepPartCount = row;
+    BoringData.Scale[4] = "Feet";
+    BoringData.LayoutFile = layout;
 }
 
 void WriteBesideSource(const Text& source, const Text& style, const Text& draft)

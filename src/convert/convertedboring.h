@@ -4,6 +4,8 @@
 
 #include "session/text.h"
 
+#include <span>
+
 // ClearBoringArrays, and the rows above the counts too: a foreign file may name rows beyond its own count, and a run
 // that has failed leaves them; they must not show up in the next boring. Columns 10 to 21 of Params stay as they are.
 void ClearForConversion();
@@ -13,7 +15,8 @@ struct FixedPart {
     const char* Item;
     const char* Width;
 };
-void SetReportPart(int row, const FixedPart& part); // RepPartCount becomes the row
+// Title prompts, report parts and layout, and feet: what a form without a template gives every boring.
+void SetFixedForm(std::span<const char* const> prompts, std::span<const FixedPart> parts, const char* layout);
 
 // Writes BoringData beside its source, with the texts of Style and Draft given and without blank report parts at the
 // end. Failures by number. Kept: the name is the path up to its first ".", also where that stands in the name of a

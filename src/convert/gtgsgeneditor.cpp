@@ -6,6 +6,7 @@
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/platform.h"
+#include "session/savename.h"
 #include "session/session.h"
 
 #include <algorithm>
@@ -144,11 +145,8 @@ void frmGTGSGenEditor::mnuSaveAs()
     Platform.ShowChooser();
     if (DialogResult.empty())
         return;
-    Text name = DialogResult;
-    if (!HasEnding(name))
-        name += ".GCV";
-    if (FileExists(name) &&
-        MsgBox("The file, " + name + " already exists.  Do you wish to overwrite it?", YesNo, Question) == No)
+    const Text name = WithEnding(DialogResult, ".GCV");
+    if (!MayReplace(name))
         return;
     TakeMapping();
     Dialog.File = name;

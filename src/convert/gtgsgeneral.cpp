@@ -15,6 +15,7 @@
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/platform.h"
+#include "session/savename.h"
 #include "session/session.h"
 
 #include <algorithm>
@@ -283,8 +284,7 @@ try {
     if (!ReadTables(folder))
         return "";
     const Text name = newFile == NameFromHeaders ? FileByHeaders() : newFile;
-    if (FileExists(name) &&
-        MsgBox("The file, " + name + " already exists.  Do you wish to overwrite it?", YesNo, Question) == No) {
+    if (!MayReplace(name)) {
         MsgBox("Please enter a different filename", OkOnly, Exclamation);
         return "";
     }

@@ -50,14 +50,7 @@ static void SetDefaults()
     // The client of the job that this conversion was made for.
     static const char* const client[] = {"Area Data Review", "Harlan Test Range", "Rivertown, ST", "Job # 00X-000-00",
                                          "OU No. A"};
-    int row = 0;
-    for (const char* prompt : prompts)
-        BoringData.Info[++row][1] = prompt;
-    row = 0;
-    for (const FixedPart& part : parts)
-        SetReportPart(++row, part);
-    BoringData.Scale[4] = "Feet";
-    BoringData.LayoutFile = "PWELL.LAY";
+    SetFixedForm(prompts, parts, "PWELL.LAY");
     auto& setup = BoringData.SampleParamSetup;
     setup[1][1] = "%Recov";
     setup[1][4] = "PERCENT RECOV.";
@@ -65,7 +58,7 @@ static void SetDefaults()
     setup[2][4] = "SAMPLE";
     setup[2][5] = "NUMBER";
     BoringData.GenParamSetup[1][1] = BoringData.GenParamSetup[1][4] = "PID/FID";
-    row = 0;
+    int row = 0;
     for (const char* line : client)
         BoringData.Client[++row] = line;
 }

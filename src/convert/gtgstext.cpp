@@ -148,14 +148,7 @@ static void SetDefaults()
     static constexpr FixedPart parts[] = {{"P1", "0.6"},         {"P2", "0.4"},      {"P3", "0.4"},
                                           {"depth scale", ".6"}, {"graphic", "0.4"}, {"descriptions", "2.5"},
                                           {"remarks", "1.9"}};
-    int row = 0;
-    for (const char* prompt : prompts)
-        BoringData.Info[++row][1] = prompt;
-    row = 0;
-    for (const FixedPart& part : parts)
-        SetReportPart(++row, part);
-    BoringData.Scale[4] = "Feet";
-    BoringData.LayoutFile = "Pbasic.lay";
+    SetFixedForm(prompts, parts, "Pbasic.lay");
     // Name, graph heading, graph range, then the three lines of the column's own heading.
     auto& setup = BoringData.SampleParamSetup;
     setup[1][1] = "Samp#";
@@ -168,7 +161,7 @@ static void SetDefaults()
     setup[3][1] = "PID";
     setup[3][4] = "PID";
     setup[3][5] = "(ppm)";
-    row = 0;
+    int row = 0;
     for (const char* prompt : wellPrompts)
         BoringData.WellInfo[++row][1] = prompt;
     BoringData.WellInfo[1][2] = "heading";

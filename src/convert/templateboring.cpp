@@ -30,7 +30,7 @@ void ReadBoringBlocks(LineReader& in, const Text& version, BoringRecord& boring,
     ReadBlock(in, boring.Samples, boring.SampleCount);
     ReadBlock(in, boring.Lith, boring.LithCount);
     ReadBlock(in, boring.Des, boring.DesCount);
-    ReadBlock(in, boring.Params, boring.ParamCount, version == "5.0" ? 9 : 21);
+    ReadBlock(in, boring.Params, boring.ParamCount, ParamCells(version));
     ReadCells(in, boring.SampleParamSetup);
     ReadCells(in, boring.GenParamSetup);
     if (last == LastBlock::GenParamSetup || (last == LastBlock::Client && !HasClient(version)))

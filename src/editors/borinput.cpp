@@ -18,6 +18,7 @@
 #include "session/gridedit.h"
 #include "session/platform.h"
 #include "session/recovery.h"
+#include "session/savename.h"
 #include "session/session.h"
 
 frmBorinput::CommandTable frmBorinput::Commands;
@@ -190,11 +191,8 @@ void frmBorinput::mnuSaveAs()
     Platform.ShowChooser();
     if (DialogResult.empty())
         return;
-    Text name = DialogResult;
-    if (!HasEnding(name))
-        name += ".BOR";
-    if (FileExists(name) &&
-        MsgBox("The file, " + name + " already exists.  Do you wish to overwrite it?", YesNo, Question) == No)
+    const Text name = WithEnding(DialogResult, ".BOR");
+    if (!MayReplace(name))
         return;
     boringcheck();
     BoringFileName = name;

@@ -156,14 +156,7 @@ BorinputWindow::BorinputWindow()
                 [this, step] { tabs->setCurrentIndex((tabs->currentIndex() + step + tabs->count()) % tabs->count()); });
     }
 
-    project = new QLabel(this);
-    project->setObjectName("lblProject");
-    project->setContentsMargins(8, 0, 8, 0);
-    state = new QLabel(this);
-    state->setObjectName("lblState");
-    state->setContentsMargins(8, 0, 8, 0);
-    statusBar()->addWidget(project, 1);
-    statusBar()->addPermanentWidget(state);
+    AddStatusWords(statusBar(), project, state);
     auto* copies = new QTimer(this);
     connect(copies, &QTimer::timeout, this, [this] {
         // With what is being typed in a cell; there is one such cell at most.

@@ -10,6 +10,7 @@
 #include "session/files.h"
 #include "session/gridedit.h"
 #include "session/recovery.h"
+#include "session/savename.h"
 #include "session/session.h"
 
 #include <algorithm>
@@ -234,11 +235,8 @@ bool ToolSaveAs(ToolRecord& tool)
     Platform.ShowChooser();
     if (DialogResult.empty())
         return false;
-    Text name = DialogResult;
-    if (!HasEnding(name))
-        name += tool.ending;
-    if (FileExists(name) &&
-        MsgBox("The file, " + name + " already exists.  Do you wish to overwrite it?", YesNo, Question) != Yes)
+    const Text name = WithEnding(DialogResult, tool.ending);
+    if (!MayReplace(name))
         return false;
     const Text before = tool.FileName;
     tool.FileName = name;

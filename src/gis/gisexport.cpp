@@ -6,6 +6,7 @@
 #include "gis/gisfile.h"
 #include "session/files.h"
 #include "session/platform.h"
+#include "session/savename.h"
 #include "session/session.h"
 
 using frmGIS::SSGISInfo;
@@ -64,12 +65,8 @@ static void Export(bool (*write)(const Text& path))
     DialogMode = anyFile;
     Platform.ShowChooser();
     const Text name = DialogResult;
-    if (name.empty())
-        return;
-    if (FileExists(name) &&
-        MsgBox("The file, " + name + " already exists.  Do you wish to overwrite it?", YesNo, Question) != Yes)
-        return;
-    write(name);
+    if (!name.empty() && MayReplace(name))
+        write(name);
 }
 
 void frmGIS::mnuExportArcView()

@@ -8,6 +8,7 @@
 #include "session/files.h"
 #include "session/gridedit.h"
 #include "session/platform.h"
+#include "session/savename.h"
 #include "session/session.h"
 
 #include <algorithm>
@@ -95,7 +96,7 @@ void OpenGISFile(const Text& path)
 try {
     // Emptied also for a file that is not there: a section must not be filled from the table of another one.
     ClearGISArrays();
-    const Text name = HasEnding(path) ? path : path + ".gis";
+    const Text name = WithEnding(path, ".gis");
     if (!FileExists(name)) {
         MsgBox("GIS File Not Found: " + name, OkOnly, Exclamation);
         return;
@@ -248,15 +249,15 @@ try {
         boringSummary[2] = Before(place, ',');
         boringSummary[3] = Behind(place, ',');
     }
-    SkipBlock(in, 2);
-    in.Skip(1);
-    SkipBlock(in, 5 + SampleParams);
+    SkipBlock(in, 2); // report parts
+    in.Skip(1);       // layout file
+    SkipBlock(in, SampleCells);
     ReadLithology(in);
-    SkipBlock(in, 1);
-    SkipBlock(in, version == "5.0" ? 9 : 1 + GenParams);
-    in.Skip(9 * SampleParams + 8 * GenParams);
-    SkipBlock(in, 2);
-    SkipBlock(in, 1);
+    SkipBlock(in, 1); // descriptions
+    SkipBlock(in, ParamCells(version));
+    in.Skip(SetupLines);
+    SkipBlock(in, 2); // well construction
+    SkipBlock(in, 1); // its notes
     in.Skip(MaxGenWell);
     ReadWellTable(in, 6, false);
     ReadWellTable(in, 7, true);

@@ -11,6 +11,7 @@
 #include "canvas/patterns.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
+#include "logrender/welldiagram.h"
 #include "report/heading.h"
 
 namespace
@@ -58,19 +59,6 @@ void BoxPanel(float x)
         BoxKey(key);
 }
 
-// Black, r to each corner, centred on the pen, which is put back exactly.
-void Diamond(float r)
-{
-    const float penX = PageCanvas.penX, penY = PageCanvas.penY;
-    moveleft(r);
-    polyby(r, r);
-    polyby(r, -r);
-    polyby(-r, -r);
-    polyfillrgb("0 0 0");
-    PageCanvas.penX = penX;
-    PageCanvas.penY = penY;
-}
-
 // One mark on its water line, and its words.
 void WaterKey(void (*mark)(float r), const Text& words)
 {
@@ -93,7 +81,7 @@ void WaterPanel(float x)
     WaterKey(triangledown, HeadingWords[48]);
     const Text diamond(Behind(HeadingWords[47], '|'));
     if (!diamond.empty())
-        WaterKey(Diamond, diamond);
+        WaterKey(VLOG::diamond, diamond);
 }
 
 void TextPanel(float x, float y, int title)

@@ -4,6 +4,7 @@
 // the editor holds, and it takes only what is drawn.
 #include "logrender/logdata.h"
 
+#include "boring/boringblocks.h"
 #include "canvas/batch.h"
 #include "canvas/screenview.h"
 #include "logrender/vlog.h"
@@ -251,12 +252,6 @@ static void ReadTail(LineReader& in)
         LogBoring.Draft = RoundInt16(TextNumber(in.Line()));
 }
 
-// Values in a row of general parameters.
-static int ParamCells()
-{
-    return LogBoring.Version == "5.0" ? 9 : 21;
-}
-
 // The lines behind the version word, in file order.
 static void ReadBoring(LineReader& in)
 {
@@ -278,7 +273,7 @@ static void ReadBoring(LineReader& in)
     ReadStoredLines(in, b.Des, b.DesCount);
     if (UpperCase(b.Des[1]) != "MANUAL")
         VLOG::ArrangeDescs();
-    const int cells = ParamCells();
+    const int cells = ParamCells(b.Version);
     b.ParamCount = in.Count();
     for (int row = 1; row <= b.ParamCount; ++row)
         for (int column = 1; column <= cells; ++column)
@@ -346,12 +341,6 @@ try {
 
 // ---- The boring of an intro page
 
-static void SkipRows(LineReader& in, int cells)
-{
-    for (int32_t count = in.Count(); count > 0; --count)
-        in.Skip(cells);
-}
-
 void VLOG::getintrodata()
 try {
     LogBoringRecord& b = LogBoring;
@@ -361,22 +350,22 @@ try {
         return;
     b.Name = in.Line();
     in.Skip(1 + 2 * MaxInfo + MaxScale); // the map of the title blocks, their rows, the scale
-    SkipRows(in, 2);                     // report parts
+    SkipBlock(in, 2);                    // report parts
     in.Skip(1);                          // layout file
-    SkipRows(in, 5 + SampleParams);
-    SkipRows(in, 4); // lithology
-    SkipRows(in, 1); // descriptions
-    SkipRows(in, ParamCells());
-    in.Skip(9 * SampleParams + 8 * GenParams);
+    SkipBlock(in, SampleCells);
+    SkipBlock(in, LithCells);
+    SkipBlock(in, 1); // descriptions
+    SkipBlock(in, ParamCells(b.Version));
+    in.Skip(SetupLines);
     ReadRows(in, b.WellInfo, b.WellInfoCount);
     ReadStoredLines(in, b.WellNotes, b.WellNoteCount);
     in.Skip(MaxGenWell);
-    SkipRows(in, 5); // outer layers
-    SkipRows(in, 5); // inner layers
-    SkipRows(in, 1); // remarks
-    SkipRows(in, 4); // cuttings
+    SkipBlock(in, LayerCells); // outer layers
+    SkipBlock(in, LayerCells); // inner layers
+    SkipBlock(in, 1);          // remarks
+    SkipBlock(in, CuttingCells);
     ReadRows(in, b.Legend, b.LegendCount);
-    SkipRows(in, 2); // formations
+    SkipBlock(in, 2); // formations
     ReadTail(in);
     SetProgress(b.LegendCount + 2);
 } catch (...) {

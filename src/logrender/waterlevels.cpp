@@ -6,8 +6,7 @@
 #include "report/heading.h"
 #include "session/failure.h"
 
-// A black diamond about the pen, r to each corner in true inches; the pen is put back exactly.
-static void Diamond(float r)
+void VLOG::diamond(float r)
 {
     const float penX = PageCanvas.penX, penY = PageCanvas.penY;
     moveleft(r);
@@ -20,7 +19,7 @@ static void Diamond(float r)
 }
 
 const VLOG::WaterMark VLOG::waterMarks[3] = {
-    {WaterDepth1, triangledownsolid}, {WaterDepth2, triangledown}, {OtherDepth, Diamond}};
+    {WaterDepth1, triangledownsolid}, {WaterDepth2, triangledown}, {OtherDepth, diamond}};
 
 // Water depths are measured from the top of the pipe, so the stick-up is taken off.
 bool VLOG::wateronpage(const WaterMark& mark, double& depth)

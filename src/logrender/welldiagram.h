@@ -37,6 +37,7 @@ double findscwidth(double depth, double t = 0); // see wellcasings.cpp
 void surfacecasings(bool large);
 void wellcover(bool large);
 // waterlevels.cpp
+void diamond(float r); // black about the pen, r to each corner in true inches; the pen is put back exactly
 struct WaterMark {
     WellCell Cell;
     void (*Draw)(float);

@@ -9,6 +9,7 @@
 #include "session/files.h"
 #include "session/gridedit.h"
 #include "session/platform.h"
+#include "session/savename.h"
 #include "session/session.h"
 
 SetupChangeRecord SetupChange;
@@ -181,8 +182,7 @@ void frmPrinterSetup::mnuSave()
     Platform.ShowChooser();
     if (DialogResult.empty())
         return;
-    if (!HasEnding(DialogResult))
-        DialogResult += ".PRF";
+    DialogResult = WithEnding(DialogResult, ".PRF");
     WriteProfile(DialogResult, {Dialog.fontText, DeviceConfig.TextAdjust});
 }
 

@@ -5,6 +5,7 @@
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/platform.h"
+#include "session/savename.h"
 #include "session/session.h"
 
 Slots<Text, MaxHeadings> HeadingTable;
@@ -155,11 +156,8 @@ static void ReadLogo()
 
 void getclientlogo(int kind)
 try {
-    Text name = DeviceConfig.SystemFiles[HeadingFile];
-    if (name.empty())
-        name = "us.hdg";
-    else if (!HasEnding(name))
-        name += ".hdg";
+    const Text& told = DeviceConfig.SystemFiles[HeadingFile];
+    const Text name = told.empty() ? "us.hdg" : WithEnding(told, ".hdg");
     if (FileExists(name)) {
         LineReader in(name);
         if (!CurrentForm(in.Line())) {

@@ -5,6 +5,7 @@
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/platform.h"
+#include "session/savename.h"
 #include "session/session.h"
 
 Text frmHeading::Title;
@@ -72,10 +73,8 @@ void frmHeading::mnuSaveAs()
     Platform.ShowChooser();
     if (DialogResult.empty())
         return;
-    if (!HasEnding(DialogResult))
-        DialogResult += ".HDG";
-    if (FileExists(DialogResult) &&
-        MsgBox("The file, " + DialogResult + " already exists.  Do you wish to overwrite it?", YesNo, Question) == No)
+    DialogResult = WithEnding(DialogResult, ".HDG");
+    if (!MayReplace(DialogResult))
         return;
     SaveHeadingFile();
     Title = "Heading Editor - " + DialogResult;

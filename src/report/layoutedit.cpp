@@ -11,6 +11,7 @@
 #include "report/layout.h"
 #include "session/files.h"
 #include "session/platform.h"
+#include "session/savename.h"
 #include "session/session.h"
 
 #include <cstdlib>
@@ -118,12 +119,10 @@ void frmLayout::mnuSaveAs()
     Platform.ShowChooser();
     if (DialogResult.empty())
         return;
-    if (!HasEnding(DialogResult))
-        DialogResult += ".LAY";
+    DialogResult = WithEnding(DialogResult, ".LAY");
     // Kept: at No the title changes all the same.
     Title = "Layout Editor: " + DialogResult;
-    if (FileExists(DialogResult) &&
-        MsgBox("The file, " + DialogResult + " already exists.  Do you wish to overwrite it?", YesNo, Question) == No)
+    if (!MayReplace(DialogResult))
         return;
     SaveLayoutFile();
 }

@@ -456,8 +456,7 @@ static void DrawClient()
     VLOG::drawclient(CrossRun.pageWidth >= 17 ? 0.1 : 0);
 }
 
-// To the middle of the column at the reference level, x in inches from there on.
-static void ToBoring(int i)
+void VCROSS::toboring(int i)
 {
     dataorigin();
     setscaley(CrossRun.scaleY);
@@ -465,7 +464,6 @@ static void ToBoring(int i)
     moveto(0, 0);
     moveright(CrossRun.distance[i]);
     movedown(double(CrossRun.vStart) - CrossRun.refElevation[i]);
-    setscalex(1);
 }
 
 static void DrawBoring(Column& column, float deepest)
@@ -475,7 +473,8 @@ static void DrawBoring(Column& column, float deepest)
     column.casingHeight = double(column.well.casingDepth) + CrossRun.stickUp[i];
     column.width = CrossRun.columnWidth;
     column.lineStep = CrossRun.labelSize / 72.0;
-    ToBoring(i);
+    toboring(i);
+    setscalex(1); // widths are inches from here on
     textcenter();
     setfontsize(CrossRun.labelSize);
     const Text& label = CrossRun.labelBoringName[i] == 1 ? column.well.Name : column.well.WellName;

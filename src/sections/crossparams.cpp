@@ -1,6 +1,7 @@
 // crossparams.cpp -- sample or general parameters beside the columns of a section, as boxes of text or small graphs.
 //
 // A graph is a strip 0.2 inch wide on the column's left side, its values growing leftward from the strip's right edge.
+#include "boring/boringblocks.h"
 #include "boring/boringdata.h"
 #include "canvas/batch.h"
 #include "canvas/metaugl.h"
@@ -61,7 +62,7 @@ static Text TakeLine(LineReader& in, int lines)
 static void ReadSamples(BoringBlocks& boring, Values& values)
 {
     if (GeneralTable())
-        return boring.Pass(5 + SampleParams);
+        return boring.Pass(SampleCells);
     values.paramRowCount = boring.in.Count();
     for (int row = 1; row <= values.paramRowCount; ++row) {
         const double start = TextNumber(boring.in.Line());
@@ -121,7 +122,7 @@ static void ReadBoring(const Text& path, int i, Values& values, DataFile& file)
     BoringBlocks boring(path);
     boring.ToSamples();
     ReadSamples(boring, values);
-    boring.Pass(4); // lithology
+    boring.Pass(LithCells);
     boring.Pass(1); // descriptions
     ReadParams(boring, values);
     ReadSetups(boring.in, file);
@@ -267,12 +268,7 @@ static void DrawCurve(const DataFile& file)
 
 static void DrawValues(int i, const Values& values, const DataFile& file)
 {
-    dataorigin();
-    setscaley(CrossRun.scaleY);
-    setscalex(CrossRun.scaleX);
-    moveto(0, 0);
-    moveright(CrossRun.distance[i]);
-    movedown(double(CrossRun.vStart) - CrossRun.refElevation[i]);
+    toboring(i);
     movedown(CrossRun.stickUp[i]);
     bool any = !file.paramFile.empty();
     for (int row = 1; row <= values.paramRowCount; ++row)

@@ -70,6 +70,7 @@ void dataorigin();   // origin of the data area; the scales stay
 void drawcrossframe();
 void drawcrossborings();
 void drawwaterlevels();
+void toboring(int i); // the pen to the middle of the column at the reference level, in the section's scales
 // crossparams.cpp
 void drawcrossparams();
 // sectionfoot.cpp: the title block and legend of a section, kind 'C', or a fence, 'F'

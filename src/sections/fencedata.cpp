@@ -1,6 +1,7 @@
 // fencedata.cpp -- the definition of a fence diagram as it is drawn: the renderer's own reader of the .FEN file.
 #include "canvas/screenview.h"
 #include "sections/fencerun.h"
+#include "sections/sectionboring.h"
 #include "sections/sheetrun.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -34,10 +35,8 @@ static void ReadBoring(const Text& line, int i)
     };
     FenceRun.siteX[i] = coordinate();
     FenceRun.siteY[i] = coordinate();
-    Text& file = CrossRun.boringFile[i];
-    file = TakePiece(row);
-    if (!file.empty() && !HasEnding(file))
-        file += ".bor";
+    const Text file(TakePiece(row));
+    CrossRun.boringFile[i] = file.empty() ? file : BoringFileOf(file);
     CrossRun.waterDepth[i] = TextNumber(TakePiece(row));
     CrossRun.labelAtBottom[i] = SameText(TakePiece(row), "B");
     CrossRun.labelBoringName[i] = SameText(Trim(row), "B");

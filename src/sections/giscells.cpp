@@ -7,6 +7,7 @@
 #include "gis/gisfile.h"
 #include "sections/layershapes.h"
 #include "session/files.h"
+#include "session/savename.h"
 
 namespace
 {
@@ -22,9 +23,7 @@ void VCROSS::spellgisnames()
 {
     for (int row = 1; row <= GisData.boringCount; ++row) {
         Text& name = GisData.boringCells[row][GisFileName];
-        if (!HasEnding(name))
-            name += ".BOR";
-        name = UpperCase(name);
+        name = UpperCase(WithEnding(name, ".BOR"));
     }
 }
 

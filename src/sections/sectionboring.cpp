@@ -6,6 +6,7 @@
 #include "logrender/logdata.h"
 #include "sections/crossrun.h"
 #include "session/platform.h"
+#include "session/savename.h"
 #include "session/session.h"
 
 #include <algorithm>
@@ -13,17 +14,19 @@
 
 using namespace VCROSS;
 
-static constexpr int sampleCells = 5 + SampleParams, lithCells = 4, layerCells = 5, cuttingCells = 4;
-static constexpr int setupLines = 9 * SampleParams + 8 * GenParams;
-
 Text VCROSS::BoringFileOf(const Text& name)
 {
-    return HasEnding(name) ? name : name + ".bor";
+    return WithEnding(name, ".bor");
 }
 
 Text VCROSS::SectionBoringPath(const Text& name)
 {
     return name.find_first_of(":\\/") == Text::npos ? JoinPath(ProjectPath, name) : name;
+}
+
+Text VCROSS::LayerCode(const Text& code)
+{
+    return IsBlank(code) ? "F0," : code;
 }
 
 bool VCROSS::SectionBoringThere(const Text& path)
@@ -67,7 +70,7 @@ void BoringBlocks::Pass(int cells)
 
 int BoringBlocks::ParamCells() const
 {
-    return version == "5.0" ? 9 : 21;
+    return ::ParamCells(version);
 }
 
 void BoringBlocks::GenWell(int i, SectionWell& well)
@@ -84,7 +87,7 @@ void BoringBlocks::OuterLayers(SectionWell& well)
     for (int32_t rows = in.Count(); rows > 0; --rows) {
         in.Skip(1);
         well.boreDepth = std::max(well.boreDepth, static_cast<float>(TextNumber(in.Line())));
-        in.Skip(layerCells - 2);
+        in.Skip(LayerCells - 2);
     }
 }
 
@@ -96,9 +99,8 @@ static void Layers(BoringBlocks& boring, int i)
     run.layerCount[i] = static_cast<int16_t>(std::min<int32_t>(count, INT16_MAX));
     for (int k = 1; k <= count; ++k) {
         run.layerDepth[i][k] = TextNumber(boring.in.Line());
-        Text code = boring.in.Line();
-        run.layerCode[i][k] = IsBlank(code) ? "F0," : std::move(code);
-        boring.in.Skip(lithCells - 2);
+        run.layerCode[i][k] = LayerCode(boring.in.Line());
+        boring.in.Skip(LithCells - 2);
     }
     run.deepestLayer[i] = run.layerDepth[i][count];
 }
@@ -108,7 +110,7 @@ static void ToGenWell(BoringBlocks& boring)
 {
     boring.Pass(1); // descriptions
     boring.Pass(boring.ParamCells());
-    boring.in.Skip(setupLines);
+    boring.in.Skip(SetupLines);
     boring.Pass(2); // well construction
     boring.Pass(1); // its notes
 }
@@ -126,14 +128,14 @@ static void InnerLayers(BoringBlocks& boring, SectionWell& well)
             well.screenTop[well.screenCount] = start;
             well.screenBottom[well.screenCount] = end;
         }
-        boring.in.Skip(layerCells - 3);
+        boring.in.Skip(LayerCells - 3);
     }
 }
 
 void BoringBlocks::ClientBlock()
 {
     Pass(1); // remarks
-    Pass(cuttingCells);
+    Pass(CuttingCells);
     Pass(2); // legend
     Pass(2); // formations
     in.Skip(MaxBottNotes);
@@ -151,7 +153,7 @@ void VCROSS::ReadSectionLayers(const Text& path, int i)
 {
     BoringBlocks boring(path);
     boring.ToSamples();
-    boring.Pass(sampleCells);
+    boring.Pass(SampleCells);
     Layers(boring, i);
 }
 
@@ -160,8 +162,8 @@ void VCROSS::ReadSectionWell(const Text& path, int i, SectionWell& well, bool wi
     well = SectionWell();
     BoringBlocks boring(path);
     well.Name = boring.ToSamples();
-    boring.Pass(sampleCells);
-    boring.Pass(lithCells);
+    boring.Pass(SampleCells);
+    boring.Pass(LithCells);
     ToGenWell(boring);
     boring.GenWell(i, well);
     boring.OuterLayers(well);
@@ -175,13 +177,13 @@ void VCROSS::ReadFenceBoring(const Text& path, int i, SectionWell& well, bool wi
     well = SectionWell();
     BoringBlocks boring(path);
     well.Name = boring.ToSamples();
-    boring.Pass(sampleCells);
+    boring.Pass(SampleCells);
     Layers(boring, i);
     ToGenWell(boring);
     boring.GenWell(i, well);
     if (!withClient)
         return;
-    boring.Pass(layerCells); // outer layers
-    boring.Pass(layerCells); // inner layers
+    boring.Pass(LayerCells); // outer layers
+    boring.Pass(LayerCells); // inner layers
     boring.ClientBlock();
 }

@@ -14,6 +14,9 @@ Text BoringFileOf(const Text& name); // ".bor" behind a name with no "."
 // The whole path of a boring named in a definition file: the project folder in front of a name without a folder.
 Text SectionBoringPath(const Text& name);
 
+// What stands for a layer's fill: its code, the blank pattern for one without.
+Text LayerCode(const Text& code);
+
 // True when the file is there and begins with "5."; else its box is shown: "Boring File Not Found: " or "This boring
 // file has the format of a previous version: ". The file counter of the run is the caller's, by StepOverEntry.
 bool SectionBoringThere(const Text& path);

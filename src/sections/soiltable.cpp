@@ -4,6 +4,7 @@
 // depth 0, from which a depth of depthMax reaches 4.4 inches down.
 #include "sections/soiltable.h"
 
+#include "boring/boringblocks.h"
 #include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
@@ -81,8 +82,7 @@ static void ReadLayers(LineReader& in)
     const int rows = in.Count();
     for (int row = 1; row <= rows; ++row) {
         SoilRun.layerDepth[row] = TextNumber(in.Line());
-        const Text code = in.Line();
-        SoilRun.layerCode[row] = IsBlank(code) ? "F0," : code;
+        SoilRun.layerCode[row] = LayerCode(in.Line());
         in.Skip(2);
         SoilRun.layerCount = row;
     }
@@ -115,8 +115,8 @@ static void ReadBoring(const Text& path)
     boring.Pass(2); // well information
     boring.Pass(1); // well notes
     in.Skip(MaxGenWell);
-    boring.Pass(5); // outer and inner layers
-    boring.Pass(5);
+    boring.Pass(LayerCells); // outer layers
+    boring.Pass(LayerCells); // inner layers
     boring.ClientBlock();
 }
 

@@ -390,3 +390,16 @@ TEST_CASE("a converted boring with a count past its bound is error 9, and no fil
     CheckOneMessage("Error 9 in WriteConvertedBoring.  Please contact Norvane");
     CHECK_FALSE(std::filesystem::exists(Scratch("C.BOR")));
 }
+
+TEST_CASE("a number behind the notes of any other 5 is no draft mark")
+{
+    BoringLines lines;
+    lines.version = "5.1";
+    lines.client = {"1", "2", "3", "4", "5"};
+    lines.tail = {"3", "1"};
+    OpenText(lines.File());
+    CHECK(Messages.empty());
+    CHECK(BoringData.Draft == 0);
+    CHECK(BoringData.Client[1] == "");
+    CHECK(BoringData.Style == 0);
+}

@@ -310,3 +310,33 @@ TEST_CASE("a 5.0 file that was read is saved with 21 parameter cells a row")
     lines.params[14] = "left there";
     CHECK(Saved() == lines.File());
 }
+
+TEST_CASE("a boring without contacts is told of at each save, and saved")
+{
+    Text1 = "B-1";
+    boringcheck();
+    CHECK(Messages.size() == 1);
+    const std::string saved = Saved();
+    CHECK(saved.starts_with("5.0.12\r\nB-1\r\n"));
+    CHECK(saved.ends_with("\r\n4\r\n 0 \r\n"));
+    CHECK(Messages.size() == 1);
+}
+
+TEST_CASE("only a marker's number is held against the contacts, the first line's too, and no other line's figure")
+{
+    SSLith.Cell(1, 1) = "5";
+    MemoDes.text = "@2\r\nx9 is no marker\r\n-9\r\n";
+    Saved();
+    CheckWarnings({Missing("1"), NoSuchContact("@2\xB6")});
+}
+
+TEST_CASE("all four cells of a contact are saved in upper case")
+{
+    const char* const typed[] = {"5 ft", "sp,sand", "d", "tan"};
+    for (int column = 1; column <= 4; ++column)
+        SSLith.Cell(1, column) = typed[column - 1];
+    BoringLines lines;
+    lines.layoutFile = ".lay";
+    lines.lith = {"5 FT", "SP,SAND", "D", "TAN"};
+    CHECK(Saved() == lines.File());
+}

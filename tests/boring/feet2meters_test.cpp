@@ -186,3 +186,17 @@ TEST_CASE("texts of more lines than the record holds are not converted: nothing 
         CHECK(FileChanged == 0);
     }
 }
+
+TEST_CASE("texts of just as many lines as the record holds are converted")
+{
+    for (int i = 0; i < 999; ++i)
+        MemoDes.text += "x\r\n";
+    MemoDes.text += "-10\r\n";
+    for (int i = 0; i < 599; ++i)
+        MemoRemarks.text += "x\r\n";
+    MemoRemarks.text += "-10\r\n";
+    convertfeet2meters();
+    CHECK(Messages.empty());
+    CHECK(MemoDes.text.ends_with("x-3.05\r\n")); // only 600 paragraphs keep their ends
+    CHECK(MemoRemarks.text.ends_with("x\r\n-3.05\r\n"));
+}

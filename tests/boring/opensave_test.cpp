@@ -333,3 +333,35 @@ TEST_CASE("any other mode of the layout list fills the chooser's hidden list alo
     CHECK(frmBorinput::LayFiles.empty());
     CHECK(frmOpenSave::HiddenFiles == std::vector<Text>{"here.lay"});
 }
+
+TEST_CASE("a logo.txt of more lines keeps its six when a project brings its logo")
+{
+    WriteScratch("logo.txt", Lines({"1", "2", "3", "4", "5", "6", "7", "8"}));
+    OneProject(ScratchFolder(), "", "HARBOUR.BMP");
+    frmOpenSave::SelectProject(1);
+    CHECK(Messages.empty());
+    CHECK(ReadScratch("logo.txt") == Lines({"1", "2", "3", "4", "HARBOUR.BMP", "6"}));
+}
+
+TEST_CASE("a project's heading file is in the set-up file at once, though its folder is refused")
+{
+    OneProject("/nowhere", "harbour.hdg");
+    frmOpenSave::SelectProject(1);
+    LineReader device("device.cfg");
+    CHECK(device.Line() == ScratchFolder());
+    device.Skip(7);
+    CHECK(device.Line() == "harbour.hdg");
+}
+
+TEST_CASE("the chooser shows no project that has left the list since it was open last")
+{
+    ProjectCount = 2;
+    ProjectList[1] = {"Harbour", ScratchFolder(), "", ""};
+    ProjectList[2] = {"Mill", ScratchFolder(), "", ""};
+    Open(1);
+    CHECK(frmOpenSave::SS.Cell(2, 1) == "Mill");
+    ProjectCount = 1;
+    Open(1);
+    CHECK(frmOpenSave::SS.Cell(1, 1) == "Harbour");
+    CHECK(frmOpenSave::SS.Cell(2, 1) == "");
+}

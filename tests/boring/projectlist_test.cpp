@@ -148,3 +148,29 @@ TEST_CASE("a project whose folder cannot be written is warned of and kept, a bla
     CHECK(ProjectCount == 3);
     CHECK(ReadScratch("svproj.lst") == Lines({" 3 ", "Gone,,", "/nowhere", ",,", "", "Here,,", ScratchFolder()}));
 }
+
+TEST_CASE("a list of one project is a list, and the last of its folders is looked at as the others are")
+{
+    frmProjEdit::Load();
+    frmProjEdit::SS.Cell(1, 1) = "Gone";
+    frmProjEdit::SS.Cell(1, 2) = "/nowhere";
+    CHECK(frmProjEdit::Command1());
+    REQUIRE(Messages.size() == 1);
+    CHECK(Messages[0].words == "Warning:  /nowhere path does not exist.");
+    CHECK(ReadScratch("svproj.lst") == Lines({" 1 ", "Gone,,", "/nowhere"}));
+}
+
+TEST_CASE("the project list's editor opens on the list alone, in its first cell")
+{
+    ProjectCount = 1;
+    ProjectList[1] = {"Harbour", ScratchFolder(), "", ""};
+    frmProjEdit::Load();
+    frmProjEdit::SS.Cell(7, 1) = "never stored";
+    frmProjEdit::SS.row = 7;
+    frmProjEdit::SS.column = 2;
+    frmProjEdit::Load();
+    CHECK(frmProjEdit::SS.DataRowCount() == 1);
+    CHECK(frmProjEdit::SS.row == 1);
+    CHECK(frmProjEdit::SS.column == 1);
+    CHECK(frmProjEdit::SS.done.empty());
+}

@@ -526,3 +526,42 @@ TEST_CASE("a percentage of 0 shows no number")
     CHECK(shownPercent == 0);
     CHECK(Messages.empty());
 }
+
+TEST_CASE("a conversion opens on the working folder when no folder was shown before, and keeps the one that is shown")
+{
+    std::filesystem::create_directories(Scratch("job"));
+    std::filesystem::create_directories(Scratch("tables"));
+    ProjectPath = Scratch("job");
+    lastDir = "";
+    jobCode = 11;
+    DrawPrintLoad();
+    CHECK(Dialog.Dir1 == WorkingFolder);
+    WriteScratch("tables/a.PRT", "");
+    frmDrawPrint::ChangeFolder(Scratch("tables"));
+    frmDrawPrint::Option1();
+    JobTable[11] = StartFirst;
+    frmDrawPrint::Command1();
+    CHECK(lastDir == Scratch("tables"));
+    CHECK(ReadScratch("log.mas") == Lines({"1", Scratch("tables/a.PRT")}));
+}
+
+TEST_CASE("a conversion prints nothing and ends no print run")
+{
+    WriteScratch("a.LOG", "");
+    RunPages.printing = 1;
+    jobCode = 12;
+    DrawPrintLoad();
+    frmDrawPrint::Option1();
+    JobTable[12] = StartFirst;
+    started = "";
+    frmDrawPrint::Command1();
+    CHECK(started == "1");
+    CHECK(PlainRunsEnded == 0);
+    RunPages.printing = 0;
+    jobCode = 12;
+    DrawPrintLoad();
+    frmDrawPrint::Option1();
+    frmDrawPrint::Command1();
+    CHECK(RunPages.printing == 0);
+    CHECK(PlainRunsEnded == 0);
+}

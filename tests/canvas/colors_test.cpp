@@ -56,3 +56,16 @@ TEST_CASE("a quiet reading takes what is no name for white and says nothing")
     CHECK(getcolor("mauve", true) == "255 255 255");
     CHECK(Messages.empty());
 }
+
+TEST_CASE("each of the three numbers of a colour may be 255 and none 256")
+{
+    CHECK(getcolor("255 255 255", false) == "255 255 255");
+    CHECK(getcolor("255 0 255", false) == "255 0 255");
+    CHECK(Messages.empty());
+    for (const char* colour : {"256 0 0", "0 256 0", "0 0 256", "0 -1 0", "-1 0 0"}) {
+        Messages.clear();
+        CHECK(getcolor(colour, false) == "255 255 255");
+        REQUIRE(Messages.size() == 1);
+        CHECK(Messages[0].words == Text("Color values must be in the range of 0 to 255: ") + colour);
+    }
+}

@@ -365,3 +365,117 @@ TEST_CASE("a new page resets text, pen width and fill but not the pen, the origi
     CHECK(PageList.Default.PenWidth == 4);
     CHECK(PageCanvas.fillFile == PageCanvas.fillsDir + "F01.BMP");
 }
+
+TEST_CASE("moveto takes a target on each edge of the sheet and none beyond it")
+{
+    StartPage();
+    moveto(1, 1);
+    moveto(0, 10.5);
+    CHECK(PageCanvas.penX == 0);
+    CHECK(PageCanvas.penY == 0);
+    moveto(8, 0);
+    CHECK(PageCanvas.penX == 4800);
+    CHECK(PageCanvas.penY == 6300);
+    moveto(1, 1);
+    moveto(8.002f, -0.002f);
+    CHECK(PageCanvas.penX == 600);
+    CHECK(PageCanvas.penY == 5700);
+    moveto(-0.002f, 10.502f);
+    CHECK(PageCanvas.penX == 600);
+    CHECK(PageCanvas.penY == 5700);
+}
+
+TEST_CASE("setorigin gives a scale of 0 on either axis the value 1, and leaves any other")
+{
+    canvasstart("P");
+    PageCanvas.scaleX = 0;
+    PageCanvas.scaleY = 5;
+    float x = 1, y = 1;
+    setorigin(x, y);
+    CHECK(PageCanvas.scaleX == 1);
+    CHECK(PageCanvas.scaleY == 5);
+    PageCanvas.scaleX = 4;
+    PageCanvas.scaleY = 0;
+    setorigin(x, y);
+    CHECK(PageCanvas.scaleX == 4);
+    CHECK(PageCanvas.scaleY == 1);
+}
+
+TEST_CASE("a polygon's sides go right, down, left and up, each by its scale")
+{
+    StartPage();
+    setscaley(10);
+    moveto(1, 50);
+    polyright(1);
+    polydown(10);
+    polyleft(1);
+    polyup(10);
+    polyfillrgb("0 0 0");
+    const PageObject& polygon = Last();
+    REQUIRE(polygon.Vertices.size() == 5);
+    const int32_t x[] = {600, 1200, 1200, 600, 600}, y[] = {3300, 3300, 3900, 3900, 3300};
+    for (size_t i = 0; i < 5; ++i) {
+        CHECK(polygon.Vertices[i].X == x[i]);
+        CHECK(polygon.Vertices[i].Y == y[i]);
+    }
+}
+
+TEST_CASE("a filled rectangle needs more than 0.01 both ways, upward and downward alike")
+{
+    StartPage();
+    moveto(1, 1);
+    rectfillwhite(1, 0.01f);
+    rectfillrgb(1, -0.01f, "0 0 0");
+    rectfillrgb(0.01f, 1, "0 0 0");
+    rectfillcolored(1, 0.005f, "255 0 0");
+    rectfillflag(1, 0.01f, 1);
+    CHECK(PageList.Objects.empty());
+    rectfillrgb(1, -0.011f, "0 0 0");
+    CHECK(PageList.Objects.size() == 1);
+}
+
+TEST_CASE("line types outside 1 to 5 are solid, the ends of the range are what they are")
+{
+    StartPage();
+    const std::pair<int16_t, int16_t> styles[] = {{0, 0}, {-3, 0}, {1, 0}, {5, 2}, {6, 0}};
+    for (const auto& [type, style] : styles) {
+        int16_t n = type;
+        setlinestyle(n);
+        CHECK(n == style);
+    }
+}
+
+TEST_CASE("the pen colour is held at 0 to 15")
+{
+    StartPage();
+    const std::pair<int, int32_t> colours[] = {{-1, 0}, {0, 0}, {7, 7}, {15, 15}, {16, 15}};
+    for (const auto& [n, colour] : colours) {
+        setcolor(n);
+        lineright(1);
+        CHECK(Last().PenColor == colour);
+    }
+}
+
+TEST_CASE("the numbers of a colour are held at 0 to 255 each")
+{
+    StartPage();
+    moveto(1, 1);
+    rectfillrgb(1, 1, "300 -5 255");
+    CHECK(Last().BrushColor == 0xFF00FF);
+    rectfillrgb(1, 1, "1 2 3");
+    CHECK(Last().BrushColor == 0x030201);
+}
+
+TEST_CASE("a backslash with no N behind it is a letter of the text, at its end too")
+{
+    StartPage();
+    const size_t before = PageList.Objects.size();
+    printtext("a\\b\\");
+    CHECK(PageList.Objects.size() == before + 1);
+    CHECK(Last().String == "a\\b\\");
+    printtext("x\\y\\nz\\N");
+    CHECK(PageList.Objects.size() == before + 4);
+    CHECK(PageList.Objects[before + 1].String == "x\\y");
+    CHECK(PageList.Objects[before + 2].String == "z");
+    CHECK(Last().String == "");
+}

@@ -118,3 +118,27 @@ TEST_CASE("the guide runs as job 9 with no dialog")
     CHECK(Messages.empty());
     CHECK(PlainRunsEnded == 0);
 }
+
+TEST_CASE("an entry of the guide is its number, a box of 0.4 by 0.3 lower right of it, and its name in 9 point")
+{
+    patternstart();
+    // The frame's corner is at 0.15 inch from the left and from the top; the entries start 0.2 and 1.1 inside it.
+    const int32_t x = 90 + 120, y = 90 + 660;
+    CHECK(At(3).X1 == x);
+    CHECK(At(3).Y1 == y + 8);
+    CHECK(At(3).FontHeight == doctest::Approx(-75));
+    CHECK(At(4).X1 == x + 150);
+    CHECK(At(4).Y1 == y + 90);
+    CHECK(At(4).X2 == x + 390);
+    CHECK(At(4).Y2 == y - 90);
+    CHECK(At(9).X1 == x + 450);
+    CHECK(At(9).Y1 == y + 240 + 8);
+    CHECK(At(9).HAlign == 0);
+    const PageObject& fill = At(7);
+    REQUIRE(fill.Vertices.size() == 4);
+    CHECK(fill.Vertices[0].X == x + 150);
+    CHECK(fill.Vertices[0].Y == y + 240 + 90);
+    CHECK(fill.Vertices[2].X == x + 390);
+    CHECK(fill.Vertices[2].Y == y + 240 - 90);
+    CHECK(At(8).X2 == x + 390);
+}

@@ -245,3 +245,11 @@ TEST_CASE("a Zoom Window without width or height is a division by zero")
     CHECK(FailureOf([] { ZoomWindow(10, 10, 10, 20, 900, 600, 1, 1); }) == DivisionByZero);
     CHECK(FailureOf([] { ZoomWindow(10, 10, 20, 10, 900, 600, 1, 1); }) == DivisionByZero);
 }
+
+TEST_CASE("a page whose source has fewer than four characters has no name for its drawing")
+{
+    RunPages.pageFile = "abc";
+    CHECK(FailureOf([] { DxfName(); }) == InvalidCall);
+    RunPages.pageFile = ".BOR";
+    CHECK(DxfName() == ".dxf");
+}

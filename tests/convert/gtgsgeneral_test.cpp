@@ -390,3 +390,83 @@ TEST_CASE("the new boring is opened in the log tool, and unsaved work there is a
     frmGTGSGenEditor::Command1(); // refused: the file is there
     CHECK(frmBorinput::Text1 == "typed");
 }
+
+TEST_CASE("a template without a folder is one of the project folder, and one with a folder is taken as it is")
+{
+    OwnMap();
+    std::filesystem::create_directories(Scratch("job"));
+    std::filesystem::rename(Scratch("template.BOR"), Scratch("job/template.BOR"));
+    CHECK(ConvertGTGSGeneral(Scratch("x.bor")) == "");
+    Messages.clear();
+    ProjectPath = Scratch("job");
+    GtgsMapping.textPath = ScratchFolder();
+    CHECK(ConvertGTGSGeneral(Scratch("x.bor")) == Scratch("x.bor"));
+    CHECK(Told() == std::vector<Text>{Created("x.bor")});
+    ProjectPath = ScratchFolder();
+    GtgsMapping.templateFile = Scratch("job/template");
+    CHECK(ConvertGTGSGeneral(Scratch("y.bor")) == Scratch("y.bor"));
+}
+
+TEST_CASE(
+    "the separator that is chosen is saved as 1 for comma, 2 for space and 0 for tab, fixed fields with their length")
+{
+    frmGTGSGenEditor::Load();
+    Choose(Scratch("m.GCV"));
+    static int mode;
+    Platform.ShowChooser = [] {
+        mode = DialogMode;
+        DialogResult = chosen;
+    };
+    frmGTGSGenEditor::mnuSaveAs();
+    CHECK(mode == 21);
+    Dialog.Option2 = false;
+    for (const auto& [index, separator] : {std::pair<int, int>(0, 1), {1, 2}, {2, 0}, {1, 2}}) {
+        Dialog.Combo1 = index;
+        frmGTGSGenEditor::mnuSaveGTGSConvFile();
+        OpenGTGSConversionFile(Scratch("m.GCV"));
+        CHECK(GtgsMapping.fixedFields == 0);
+        CHECK(GtgsMapping.fieldSpec == separator);
+    }
+    Dialog.Option2 = true;
+    Dialog.Text3 = "12";
+    frmGTGSGenEditor::mnuSaveGTGSConvFile();
+    OpenGTGSConversionFile(Scratch("m.GCV"));
+    CHECK(GtgsMapping.fixedFields == 2);
+    CHECK(GtgsMapping.fieldSpec == 12);
+}
+
+TEST_CASE("a chooser that is cancelled opens and saves no map")
+{
+    frmGTGSGenEditor::Load();
+    Dialog.Text1 = "typed";
+    Choose("");
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    frmGTGSGenEditor::mnuSaveGTGSConvFile();
+    CHECK(Dialog.Text1 == "typed");
+    CHECK(Dialog.File == "");
+    CHECK(Dialog.Title == "GTGS General Conversion Editor");
+    CHECK(Told() == std::vector<Text>());
+}
+
+TEST_CASE("the last rows of a map's grids are saved as the first are")
+{
+    frmGTGSGenEditor::Load();
+    Choose(Scratch("m.GCV"));
+    for (const int row : {1, 25}) {
+        SS1.Cell(row, 1) = "Well Info";
+        SS1.Cell(row, 2) = "14";
+        SS2.Cell(row, 1) = "99";
+        SS2.Cell(row, 2) = "GW";
+    }
+    frmGTGSGenEditor::mnuSaveAs();
+    frmGTGSGenEditor::Load();
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    for (const int row : {1, 25}) {
+        CHECK(SS1.Cell(row, 1) == "Well Info");
+        CHECK(SS1.Cell(row, 2) == "14");
+        CHECK(SS2.Cell(row, 1) == "99");
+        CHECK(SS2.Cell(row, 2) == "GW");
+        CHECK(GtgsMapping.fieldMap[row].kind == 4);
+        CHECK(GtgsMapping.fieldMap[row].number == 14);
+    }
+}

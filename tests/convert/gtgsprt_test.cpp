@@ -6,6 +6,7 @@
 #include "boring/boringdata.h"
 #include "canvas/batch.h"
 #include "session/files.h"
+#include "session/platform.h"
 
 static const Text done = "All .PRT Files Converted";
 
@@ -215,6 +216,39 @@ TEST_CASE("a run of conversions shows its progress, a step for each file")
 
 TEST_CASE("the menu shows the batch dialog for print files")
 {
+    static int dialogs;
+    dialogs = 0;
+    Platform.ShowDrawPrint = [] { ++dialogs; };
     frmBorinput::mnuGTGS();
     CHECK(jobCode == 11);
+    CHECK(dialogs == 1);
+}
+
+TEST_CASE("between the sample values and the contacts, and between descriptions and remarks, nothing is taken")
+{
+    ConvertChanged("ordinary.PRT",
+                   {{"[EXT]\r\n", "[EXT]\r\n      1.0      9)                        GW\r\n"},
+                    {"****REMARKS\r\nheading\r\n",
+                     "      .D=1\r\n      lost\r\n****REMARKS\r\n      .D=2\r\n      .D=3.5\r\n      kept\r\n"}});
+    REQUIRE(BoringData.LithCount == 3);
+    CHECK(BoringData.Lith[1][1] == "5.0");
+    CHECK(BoringData.Params[1][1] == "3.5");
+    CHECK(BoringData.Params[1][2] == "keptbefore any depth");
+    CHECK(BoringData.Params[2][1] == "5.0");
+}
+
+TEST_CASE("sample values stand in columns of 13, and what is not there is empty")
+{
+    ConvertChanged("ordinary.PRT", {{"      10      5-8-12       80           S-2",
+                                     "      10      1234567890123ABCDEFGHIJKLMnumber and all"},
+                                    {"      0.0     2-2          ", "      0.0     2-2          7"}});
+    CHECK(BoringData.Samples[3][4] == "1234567890123");
+    CHECK(BoringData.Samples[3][6] == "ABCDEFGHIJKLM");
+    CHECK(BoringData.Samples[3][7] == "number and all");
+    CHECK(BoringData.Samples[1][4] == "2-2");
+    CHECK(BoringData.Samples[1][6] == "7");
+    CHECK(BoringData.Samples[1][7] == "");
+    ConvertChanged("ordinary.PRT", {{"      10      5-8-12       80           S-2", "      10"}});
+    CHECK(BoringData.Samples[3][4] == "");
+    CHECK(BoringData.Samples[3][3] == "1");
 }

@@ -4,7 +4,9 @@
 #include "convert/converted.h"
 
 #include "canvas/batch.h"
+#include "logrender/boringtext.h"
 #include "session/files.h"
+#include "session/platform.h"
 
 static const Text done = "Created TIMBORE.TXT, TIMLITH.TXT, TIMCONS.TXT";
 
@@ -120,6 +122,21 @@ TEST_CASE("a folder that is not there is told by number")
 
 TEST_CASE("the menu shows the batch dialog for the export")
 {
+    static int dialogs;
+    dialogs = 0;
+    Platform.ShowDrawPrint = [] { ++dialogs; };
     frmBorinput::mnuExp2IRPIMS();
     CHECK(jobCode == 10);
+    CHECK(dialogs == 1);
+}
+
+TEST_CASE("the deepest inner layer is found in the first row as in any other")
+{
+    CopyData("irpims");
+    BoringText boring;
+    boring.InnerLayers = {{"0", "20"}, {"20", "5"}, {"5", "12"}};
+    WriteBoring("B-9.BOR", boring);
+    lastDir = ScratchFolder();
+    Run(Export2IRPIMS, {"B-9.BOR"});
+    CHECK(Fields("timcons.txt", 1)[14] == "20");
 }

@@ -6,6 +6,7 @@
 #include "boring/boringdata.h"
 #include "canvas/batch.h"
 #include "session/files.h"
+#include "session/platform.h"
 #include "session/session.h"
 
 static const Text done = "All .LOG Files Converted";
@@ -282,11 +283,29 @@ TEST_CASE("the menu asks for the template, then shows the batch dialog; with non
         mode = DialogMode;
         DialogResult = "/p/T.BOR";
     };
+    static int dialogs;
+    dialogs = 0;
+    Platform.ShowDrawPrint = [] { ++dialogs; };
     frmBorinput::mnuConvertWinLog();
     CHECK(mode == 19);
     CHECK(jobCode == 12);
+    CHECK(dialogs == 1);
     CHECK(WinLogTemplate == "/p/T.BOR");
     Platform.ShowChooser = [] { DialogResult = ""; };
     frmBorinput::mnuConvertWinLog();
     CHECK(WinLogTemplate == "");
+}
+
+TEST_CASE("lines that are no headers, codes, titles of other values and the line below a count are passed over")
+{
+    ConvertChanged("ordinary.LOG", {{"Font=3\r\n", "Font 1='no name'\r\nFont 7='no information'\r\n"},
+                                    {"Samples=3\r\nskipped\r\n", "Samples=3\r\nSample2='skipped'\r\n"},
+                                    {"Other Title 1='PID'\r\nCode1=7\r\n", "Other Title 1 2='PID'\r\nCode2=7\r\n"}});
+    CHECK(BoringData.Name == "B-21");
+    CHECK(BoringData.Info[2][2] == "Drill Co.");
+    CHECK(BoringData.Samples[2][6] == "");
+    for (int column = 6; column <= 21; ++column)
+        CHECK(BoringData.Samples[2][column] == "");
+    CHECK(BoringData.Samples[1][10] == "0.5");
+    CHECK(BoringData.Samples[1][21] == "last");
 }

@@ -222,3 +222,67 @@ TEST_CASE("Exit rewrites device.cfg only when the set-up has changed")
     CHECK(FileExists("device.cfg"));
     CHECK(DeviceChanged == 0);
 }
+
+TEST_CASE("Yes to a question saves the boring first, without asking for its name")
+{
+    Prepare();
+    frmBorinput::Text1 = "B-9";
+    BoringFileName = Scratch("B-9.BOR");
+    FileChanged = 1;
+    Answers = {Yes};
+    frmBorinput::mnuNew();
+    CHECK(ReadScratch("B-9.BOR").starts_with("5.0.12\r\nB-9\r\n"));
+    CHECK(FileChanged == 0);
+    CHECK(frmBorinput::Text1 == "");
+    CHECK(BoringFileName == "");
+    CHECK(choosers == 0);
+}
+
+TEST_CASE("Save of a boring with no name is Save As, whose Cancel leaves the flag")
+{
+    Prepare();
+    frmBorinput::Text1 = "B-9";
+    FileChanged = 1;
+    frmBorinput::mnuSave();
+    CHECK(choosers == 1);
+    CHECK(BoringFileName == "");
+    CHECK(FileChanged == 1);
+    CHECK(Messages.empty());
+    chosen = Scratch("b-9.bor");
+    frmBorinput::mnuSave();
+    CHECK(BoringFileName == Scratch("b-9.bor"));
+    CHECK(ReadScratch("b-9.bor").starts_with("5.0.12\r\nB-9\r\n"));
+    CHECK(FileChanged == 0);
+}
+
+TEST_CASE("the scale is checked at each Save and each Save As")
+{
+    Prepare();
+    const Text lastContact = "The last contact depth, in the lithology section, determines";
+    BoringFileName = Scratch("B-9.BOR");
+    frmBorinput::mnuSave();
+    REQUIRE(Messages.size() == 1);
+    CHECK(Messages[0].words.starts_with(lastContact));
+    chosen = Scratch("B-10.BOR");
+    frmBorinput::mnuSaveAs();
+    REQUIRE(Messages.size() == 2);
+    CHECK(Messages[1].words.starts_with(lastContact));
+}
+
+TEST_CASE("a save that is refused clears the flag all the same")
+{
+    Prepare();
+    WriteScratch("B-9.BOR", "old");
+    BoringFileName = Scratch("B-9.BOR");
+    for (int i = 1; i <= 61; ++i)
+        frmBorinput::MemoWcon.text += "x\r\n";
+    FileChanged = 1;
+    frmBorinput::mnuSave();
+    CHECK(FileChanged == 0);
+    FileChanged = 1;
+    chosen = Scratch("B-10.BOR");
+    frmBorinput::mnuSaveAs();
+    CHECK(FileChanged == 0);
+    CHECK(ReadScratch("B-9.BOR") == "old");
+    CHECK_FALSE(std::filesystem::exists(Scratch("B-10.BOR")));
+}

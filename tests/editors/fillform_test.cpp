@@ -402,3 +402,27 @@ TEST_CASE("adjustments widen the notes boxes up to their limits")
     ResetTextBoxes();
     CHECK(MemoBottNotes.widthTwips == 9000);
 }
+
+TEST_CASE("notes in the first or the last place of a layout size the notes box too")
+{
+    for (const int place : {1, 12}) {
+        std::string layout = " 0 \r\n";
+        for (int i = 1; i <= 12; ++i)
+            layout += i == place ? " 11 \r\n" : " 0 \r\n";
+        WriteScratch("P.LAY", layout);
+        MemoBottNotes.widthTwips = 1;
+        cmbLayFile = "P.LAY";
+        LayoutFileChange();
+        CHECK(MemoBottNotes.widthTwips > 1);
+    }
+}
+
+TEST_CASE("a style beyond the four switches no option on")
+{
+    for (const auto& [style, option] : {std::pair(0, 0), {1, 1}, {4, 4}, {5, 0}, {-1, 0}}) {
+        BoringData = BoringRecord();
+        BoringData.Style = int16_t(style);
+        FillBoringForm();
+        CHECK(Option == option);
+    }
+}

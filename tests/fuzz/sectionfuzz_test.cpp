@@ -118,7 +118,7 @@ static bool Run(const char* file)
     PageCanvas = CanvasRecord();
     PageList = PageListRecord();
     Messages.clear();
-    WriteSectionList({file});
+    WriteRunList({file});
     const auto before = std::chrono::steady_clock::now();
     vcrossstart();
     const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - before;

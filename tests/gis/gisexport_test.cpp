@@ -35,7 +35,7 @@ TEST_CASE("the ArcView file has a line for each layer and boring, layer after la
                                          "B-2,110,210,X-7,CL", "B,3,,220,8,CL"}));
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "Done Creating ArcView Export File.");
-    CHECK(Messages[0].icon == NoIcon);
+    CHECK(Messages[0].icon == Announcement);
 }
 
 TEST_CASE("the EVS file has a heading, -1, the counts and a line for each boring; a blank cell leaves its six blanks")

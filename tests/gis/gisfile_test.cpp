@@ -231,3 +231,16 @@ TEST_CASE("a GIS file that cannot be written is told, and the answer is no")
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "Error 76 in SaveGISFile.  Please contact Norvane");
 }
+
+TEST_CASE("a save takes every cell of the list and of the table as typed, the first and the last of each row")
+{
+    OpenInForm(table);
+    for (int k = 1; k <= 2; ++k)
+        for (int column = 1; column <= 2; ++column)
+            SSGISLayers.Cell(k, column) = "l" + std::to_string(k) + std::to_string(column);
+    for (int row = 1; row <= 2; ++row)
+        for (int column = 1; column <= 7; ++column)
+            SSGISInfo.Cell(row, column) = "c" + std::to_string(row) + std::to_string(column);
+    CHECK(Saved() == Lines({" 2 ", "l11", "l12", "l21", "l22", " 2 ", "c11", "c12", "c13", "c14",    "c15",
+                            "c16", "c17", "c21", "c22", "c23", "c24", "c25", "c26", "c27", "the end"}));
+}

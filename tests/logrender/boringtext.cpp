@@ -94,6 +94,15 @@ void WriteHeadings()
     WriteScratch("logo.txt", Lines({"", "", "", "0", "", ""}));
 }
 
+void WriteRunList(std::initializer_list<Text> files)
+{
+    LineWriter out(MasFile(), Durability::Scratch);
+    out.Line(std::to_string(files.size()));
+    for (const Text& file : files)
+        out.Line(Scratch(file));
+    out.Close();
+}
+
 void WriteMas(std::initializer_list<MasEntry> entries)
 {
     LineWriter out(MasFile(), Durability::Scratch);

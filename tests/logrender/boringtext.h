@@ -43,4 +43,5 @@ void WriteHeadings();
 struct MasEntry {
     Text File, Caption, Start, End;
 };
+void WriteRunList(std::initializer_list<Text> files);   // log.mas in its list form: files of the working folder
 void WriteMas(std::initializer_list<MasEntry> entries); // log.mas in its page form, and break.mas with "0"

@@ -164,6 +164,25 @@ Drawing Drawn(size_t skip)
     return drawing;
 }
 
+Drawing DrawnFrom(int32_t x, int32_t y, size_t skip)
+{
+    const PageListRecord kept = PageList;
+    const int32_t right = ColumnX - x, down = ColumnY + 60 - y;
+    for (PageObject& object : PageList.Objects) {
+        object.X1 += right;
+        object.X2 += right;
+        object.Y1 += down;
+        object.Y2 += down;
+        for (PagePoint& point : object.Vertices) {
+            point.X += right;
+            point.Y += down;
+        }
+    }
+    const Drawing drawing = Drawn(skip);
+    PageList = kept;
+    return drawing;
+}
+
 Drawing DrawnTexts()
 {
     Drawing words;

@@ -39,6 +39,8 @@ void AddSample(float top, float bottom);
 //     picture 0,0 600,300 SITE.BMP
 Drawing Drawn(size_t skip = 0);
 Drawing DrawnTexts(); // the words only
+// The same with places from (x, y) of the page, in device units.
+Drawing DrawnFrom(int32_t x, int32_t y, size_t skip);
 
 // Where the pen is, "1200,-60" for the right edge on the baseline.
 Text PenPlace();

@@ -134,3 +134,20 @@ TEST_CASE("each report part is one progress step, known or not")
     ColumnOf("lab number");
     CHECK(progressValue == 2);
 }
+
+TEST_CASE("behind a column that failed on a page of no depth the next one's heading stands in its place")
+{
+    StartColumn();
+    LogPage.PageStartDepth = LogPage.PageEndDepth = 20;
+    LogBoring.RepParts[1] = {"depth scale", "-"};
+    LogBoring.RepParts[2] = {"lab number", "-"};
+    LogGeometry.ColumnNumber = 1;
+    VLOG::processrepparts();
+    REQUIRE(Messages.size() == 1);
+    CHECK(Messages[0].words == "Error 11 in drawscale.  Please contact Norvane");
+    CHECK(PageCanvas.scaleY == 0);
+    const size_t before = Drawn().size();
+    VLOG::processrepparts();
+    CHECK(Drawn().size() > before);
+    CHECK(LogGeometry.ColumnNumber == 3);
+}

@@ -95,3 +95,11 @@ TEST_CASE("the first bar word gives the pattern and the height of all bars")
     CHECK(Drawn(BarsFront) ==
           Drawing{"polygon 0,240 270,240 270,90 0,90 white", "polygon 0,240 270,240 270,90 0,90 F32"});
 }
+
+TEST_CASE("a boring with a single row of cuttings shows it")
+{
+    StartCuttings({{5, 1, 2, 3}});
+    VLOG::drawcuttings();
+    CHECK(Drawn(TableFront - 1) ==
+          Drawing{"text 90,300 6pt 1 centred", "text 270,300 6pt 2 centred", "text 450,300 6pt 3 centred"});
+}

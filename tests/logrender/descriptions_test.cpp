@@ -336,3 +336,14 @@ TEST_CASE("a depth line that opens a block as the very last line is a failure, a
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "Error 9 in ArrangeDescs.  Please contact Norvane");
 }
+
+TEST_CASE("text just as high as the room above the page's end is printed there")
+{
+    StartColumn();
+    LogPage.PageEndDepth = 4;
+    SetContacts({4});
+    SetLines({"@1", "a", "b", "c"});
+    VLOG::drawdes();
+    CHECK(DrawnTexts() == Drawing{" W12 ", "a", "b", "c"});
+    CHECK(BreakFile() == "Y");
+}

@@ -131,3 +131,15 @@ TEST_CASE("with dot commands the top line of a later page is solid")
     VLOG::drawdesdot();
     CHECK(Drawn().back() == "line 1200,0 0,0");
 }
+
+TEST_CASE("a line across at the page's end is on the page")
+{
+    CHECK(DrawnFor({".L=67"}) == Drawing{"line 0,4020 1200,4020"});
+    CHECK(DrawnFor({".L=5U67"}) == Drawing{"line 0,300 30,4020", "line 30,4020 1170,4020", "line 1170,4020 1200,300"});
+}
+
+TEST_CASE("a tick just where the text stands has nothing to lead past")
+{
+    // After the line at 4.2 the text stands at 5.
+    CHECK(DrawnFor({".L4.2", ".D 5", "a"}) == Drawing{"line 0,252 1200,252", "text 30,300 8pt a"});
+}

@@ -221,3 +221,11 @@ TEST_CASE("only a draft mark of 1 stamps the page")
     LogBoring.Draft = 2;
     CHECK(Frame(3).empty());
 }
+
+TEST_CASE("the stamp of a draft is left aligned behind a block that centres its words")
+{
+    StartFrame('P');
+    LogBoring.Draft = 1;
+    LogGeometry.TitleBlocks[1] = 3;
+    CHECK(Frame().back() == "text 1800,1500 32pt CHECK PRINT at 45");
+}

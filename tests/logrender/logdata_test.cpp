@@ -411,6 +411,9 @@ TEST_CASE("a portrait page has a bottom row when one of its three positions hold
     CHECK(bottomRow({0, 0, 0, 0, 0, 10, 0, 0, 0}) == 1);
     CHECK(bottomRow({0, 0, -1, 0, 0, -1, 0, 0, 10}) == 1);
     CHECK(bottomRow({0, 0, -1, 0, 0, -1, 0, 0, -1}) == 0);
+    CHECK(bottomRow({0, 0, 1}) == 1);
+    CHECK(bottomRow({0, 0, 0, 0, 0, 1}) == 1);
+    CHECK(bottomRow({0, 0, 0, 0, 0, 0, 0, 0, 1}) == 1);
 }
 
 TEST_CASE("the layout is looked for in the layout folder, in any case of its letters")

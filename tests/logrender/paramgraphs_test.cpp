@@ -409,3 +409,19 @@ TEST_CASE("four curves: each has its own mark, and a value text counts by the nu
                                "line 626,75 600,30", "line 600,30 574,75", "dot 1140,60 24", "line 1140,60 1140,660",
                                "dot 1140,660 24", "polygon 34,675 86,675 60,630 black"});
 }
+
+TEST_CASE("a logarithmic axis of one decade has just that")
+{
+    SetGraph({"500", "5000"}, Setup(-999, 2, 3));
+    VLOG::drawpargraph(1);
+    CHECK(DrawnTexts() == Drawing{"  ", "  ", " 10 ", "2", " 10 ", "3"});
+    CHECK(Drawn().back() == "dot 570,660 18"); // beyond 1000
+}
+
+TEST_CASE("four curves: the last one's axis serves all when it reaches furthest")
+{
+    SetCurves();
+    LogBoring.SampleSetup[4] = Setup(0, 400, 200);
+    VLOG::draw4pargraph();
+    CHECK(DrawnTexts() == Drawing{"A", "B", "C", "", "0", "200", "400"});
+}

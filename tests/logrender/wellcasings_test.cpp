@@ -106,3 +106,14 @@ TEST_CASE("a cover is not drawn on a continuation page, nor for another word tha
     LogBoring.GenWell[VLOG::WellCover] = "yes";
     CHECK(Diagram() == Drawing{});
 }
+
+TEST_CASE("a stick-up of half a foot is one too, and one below the ground is none")
+{
+    for (const char* up : {".5", "-2"}) {
+        StartWell(Small);
+        LogBoring.GenWell[VLOG::StickUp] = up;
+        LogBoring.GenWell[7] = "20";
+        const bool closed = Text(up) == ".5";
+        CHECK((Diagram()[6] == "line 180,-180 360,-180 wide") == closed);
+    }
+}

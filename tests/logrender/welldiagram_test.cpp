@@ -340,3 +340,16 @@ TEST_CASE("the names of report parts choose the form of the diagram")
     }
     CHECK(Messages.empty());
 }
+
+TEST_CASE("two wells are numbered, and one is not")
+{
+    StartWell();
+    LogBoring.GenWell[1] = "A";
+    LogBoring.GenWell[2] = "B";
+    VLOG::drawgw();
+    CHECK(DrawnTexts() == Drawing{"Elev.: ", "Well 2: B", "Well 1: A"});
+    StartWell();
+    LogBoring.GenWell[1] = "A";
+    VLOG::drawgw();
+    CHECK(DrawnTexts() == Drawing{"Elev.: ", "Well: A"});
+}

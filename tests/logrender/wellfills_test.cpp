@@ -59,3 +59,9 @@ TEST_CASE("findcenttype cuts a centralizer's text at its comma and gives the num
     CHECK(VLOG::findcenttype(text) == 0);
     CHECK(text == "Sand, 20/40");
 }
+
+TEST_CASE("the words of a screen and a pump are no materials of the annulus")
+{
+    CHECK(FillOf("Screen") == 0);
+    CHECK(FillOf("Pump") == 0);
+}

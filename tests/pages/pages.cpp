@@ -3,14 +3,10 @@
 
 #include "testing.h"
 
+#include "batch/jobtable.h"
 #include "canvas/batch.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
-#include "logrender/intropage.h"
-#include "logrender/vlog.h"
-#include "sections/crossrun.h"
-#include "sections/fencerun.h"
-#include "sections/soiltable.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"
@@ -21,10 +17,12 @@
 
 void LayOutFolder(const std::string& folder)
 {
+    namespace fs = std::filesystem;
+    fs::remove_all(ScratchFolder());
+    fs::create_directories(ScratchFolder());
     WorkingFolder = RunFolder = ProjectPath = ScratchFolder();
     DeviceConfig = DeviceRecord();
     DefaultSystemFiles();
-    namespace fs = std::filesystem;
     const fs::path stock = BUILD_DIR;
     for (const char* name : {"us.hdg", "logo.txt", "LOGO.BMP", "fills"})
         fs::create_symlink(stock / name, Scratch(name));
@@ -44,11 +42,7 @@ static std::string DrawFiles(const std::string& folder, int16_t job, const std::
 {
     LayOutFolder(folder);
     TintsInMemory = true;
-    JobTable[2] = VLOG::vlogstart;
-    JobTable[4] = VCROSS::vcrossstart;
-    JobTable[6] = VCROSS::vfencestart;
-    JobTable[8] = VCROSS::vsoilstart;
-    IntroPages = VLOG::vlogintrostart;
+    FillJobTable();
     std::string listing;
     Listings.clear();
     for (const Text& file : files) {
@@ -117,4 +111,12 @@ void CheckListing(const std::string& name, const std::string& listing)
             FAIL_CHECK(name << ", line " << i + 1 << "\n  kept:  " << before << "\n  drawn: " << now);
         }
     }
+}
+
+void CheckSilentListing(const std::string& name, const std::string& listing)
+{
+    for (const PlainMessage& message : Messages)
+        FAIL_CHECK(message.words);
+    Messages.clear();
+    CheckListing(name, listing);
 }

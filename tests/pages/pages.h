@@ -5,8 +5,8 @@
 
 #include <vector>
 
-// Makes the scratch folder a working folder: links to the stock data of the build, and the files of the folder over
-// them.
+// Makes the scratch folder, emptied first, a working folder: links to the stock data of the build, and the files of the
+// folder over them.
 void LayOutFolder(const std::string& folder);
 
 // Draws the borings in a working folder made of the stock data with the files of the folder over it, and gives the
@@ -24,3 +24,4 @@ std::string DrawSheets(const std::string& folder, int16_t job, const std::vector
 // Compares with the kept listing tests/pages/NAME.jsonl, line by line; says the first lines that differ. With
 // STRATAVUE_ACCEPT set to the name, its folder or "all", the kept listing is replaced instead.
 void CheckListing(const std::string& name, const std::string& listing);
+void CheckSilentListing(const std::string& name, const std::string& listing); // and that the run has shown no message

@@ -10,6 +10,7 @@
 #include "canvas/patterns.h"
 #include "platform/qt/headless.h"
 #include "platform/qt/pngpages.h"
+#include "session/files.h"
 
 #include <QImage>
 #include <cstdlib>
@@ -76,8 +77,6 @@ TEST_CASE("the first pages of the sample borings look like the kept pictures")
     for (const Text name : {"TC-101", "TC-102", "TC-103", "TC-104", "TC-105", "TC-106", "TC-107", "MW-108", "MW-109",
                             "MW-110", "MW-112", "CP-111"}) {
         CAPTURE(name);
-        std::filesystem::remove_all(ScratchFolder());
-        std::filesystem::create_directories(ScratchFolder());
         StartPictures();
         pageName = name;
         DrawLogs(folder, {name + ".BOR"});
@@ -90,8 +89,6 @@ TEST_CASE("the pages with every column look like the kept pictures")
     const std::string folder = std::string(SOURCE_DIR) + "/tests/pages/columns";
     for (const Text name : {"PAGE-1", "PAGE-2", "PAGE-3"}) {
         CAPTURE(name);
-        std::filesystem::remove_all(ScratchFolder());
-        std::filesystem::create_directories(ScratchFolder());
         StartPictures();
         pageName = "columns-" + name.substr(5);
         const Text kept = pageName;
@@ -105,12 +102,26 @@ TEST_CASE("the intro pages of a sample boring look like the kept pictures, in bo
     const std::string folder = std::string(BUILD_DIR) + "/samples";
     for (const int arrangement : {1, 2}) {
         CAPTURE(arrangement);
-        std::filesystem::remove_all(ScratchFolder());
-        std::filesystem::create_directories(ScratchFolder());
         StartPictures();
         const Text name = "MW-108-intro" + PlainNumber(arrangement);
         pageName = name;
         DrawIntro(folder, {"MW-108.BOR"}, arrangement);
+        CheckPicture(name);
+    }
+}
+
+TEST_CASE("the sample sections, fences and soil tables look like the kept pictures")
+{
+    const std::string folder = std::string(BUILD_DIR) + "/samples";
+    const std::pair<Text, int16_t> sheets[] = {{"TC-S1.CRO", 4},  {"TC-S2.CRO", 4}, {"TC-S3.CRO", 4},
+                                               {"TC-F1.FEN", 6},  {"TC-F2.FEN", 6}, {"TC-F3.FEN", 6},
+                                               {"MW-108.SOI", 8}, {"SB-111.SOI", 8}};
+    for (const auto& [file, job] : sheets) {
+        CAPTURE(file);
+        StartPictures();
+        const Text name = Text(Before(file, '.')) + (job == 8 ? "-soil" : "");
+        pageName = name;
+        DrawSheets(folder, job, {file});
         CheckPicture(name);
     }
 }

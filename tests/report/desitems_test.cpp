@@ -105,3 +105,12 @@ TEST_CASE("an item file that cannot be written is told in the words of the item 
     CHECK(Messages[0].words == "Error 76 in DesItems Command 1.  Please contact Norvane");
     CHECK(frmBorinput::List[1].empty());
 }
+
+TEST_CASE("50 items typed are all saved, with no warning")
+{
+    for (int i = 1; i <= 50; ++i)
+        frmDesItems::Box[4] += "item " + std::to_string(i) + "\r\n";
+    CHECK(frmDesItems::Command1());
+    CHECK(Messages.empty());
+    CHECK(frmBorinput::List[4].size() == 50);
+}

@@ -341,3 +341,18 @@ TEST_CASE("a copy to a drive that is not there is reported under its own name")
     CopyMainFiles();
     CHECK(Messages.back().words == "Error 76 in CopyMainFiles.  Please contact Norvane");
 }
+
+TEST_CASE("the first and the last of the system files are taken from the set-up window too")
+{
+    OpenSetup();
+    frmPrinterSetup::SSMainFilePath.Cell(1, 1) = "office.hdg";
+    frmPrinterSetup::SSMainFilePath.Cell(7, 1) = "office fills";
+    frmPrinterSetup::Command1();
+    CHECK(DeviceConfig.SystemFiles[HeadingFile] == "office.hdg");
+    CHECK(DeviceConfig.SystemFiles[FillFolder] == "office fills");
+    LineReader in("device.cfg");
+    in.Skip(8);
+    CHECK(in.Line() == "office.hdg");
+    in.Skip(5);
+    CHECK(in.Line() == "office fills");
+}

@@ -1,24 +1,10 @@
 // heading_test.cpp -- the heading file and the logo.
 #include "report/heading.h"
 
-#include "testing.h"
+#include "report/choosing.h"
 
 #include "session/deviceconfig.h"
 #include "session/session.h"
-
-// A heading file of the current form: slot n holds "wn", but for what is set.
-static std::string HeadingText(std::initializer_list<std::pair<int, Text>> slots = {})
-{
-    Text words[85];
-    for (int slot = 1; slot <= 84; ++slot)
-        words[slot] = "w" + std::to_string(slot);
-    for (const auto& [slot, word] : slots)
-        words[slot] = word;
-    std::string file = "5.0\r\n";
-    for (int slot = 1; slot <= 84; ++slot)
-        file += words[slot] + "\r\n";
-    return file;
-}
 
 static void WriteLogo()
 {
@@ -326,4 +312,29 @@ TEST_CASE("a heading file that cannot be written is told by name")
     DialogResult = Scratch("nowhere/a.hdg");
     SaveHeadingFile();
     CheckOneMessage("Error 76 in SaveHeadingFile.  Please contact Norvane");
+}
+
+TEST_CASE("the four legend boxes keep their usual patterns where no number is told")
+{
+    WriteScratch("us.hdg", HeadingText({{41, "a"}, {42, "b"}, {43, "c"}, {44, "d"}}));
+    WriteLogo();
+    getclientlogo(1);
+    const int usual[] = {0, 1, 7, 20, 9};
+    for (int box = 0; box <= 4; ++box)
+        CHECK(LegendBoxFill[box] == usual[box]);
+}
+
+TEST_CASE("the first word of a heading table counts among its blanks as the twentieth does")
+{
+    DialogResult = Scratch("a.hdg");
+    for (const int filled : {1, 20}) {
+        HeadingTable = {};
+        for (int slot = 4; slot <= 17; ++slot)
+            HeadingTable[slot] = "x";
+        SaveHeadingFile();
+        CHECK_FALSE(std::filesystem::exists(Scratch("a.hdg")));
+        HeadingTable[filled] = "x";
+        SaveHeadingFile();
+        CHECK(std::filesystem::remove(Scratch("a.hdg")));
+    }
 }

@@ -1,36 +1,15 @@
 // headingedit_test.cpp -- the commands of the heading editor and of its legend editor.
 #include "report/headingedit.h"
 
-#include "testing.h"
+#include "report/choosing.h"
 
 #include "report/heading.h"
 #include "session/files.h"
 #include "session/session.h"
 
-static Text chosen;
-static int16_t modeAsked;
-
-static void Choose(const Text& name)
-{
-    chosen = name;
-    Platform.ShowChooser = [] {
-        modeAsked = DialogMode;
-        DialogResult = chosen;
-        DialogMode = -1;
-    };
-}
-
 static void WriteHeadings(const Text& name, std::initializer_list<std::pair<int, Text>> slots = {})
 {
-    Text words[85];
-    for (int slot = 1; slot <= 84; ++slot)
-        words[slot] = "w" + std::to_string(slot);
-    for (const auto& [slot, word] : slots)
-        words[slot] = word;
-    std::string file = "5.0\r\n";
-    for (int slot = 1; slot <= 84; ++slot)
-        file += words[slot] + "\r\n";
-    WriteScratch(name, file);
+    WriteScratch(name, HeadingText(slots));
 }
 
 static Text SlotInFile(const Text& name, int slot)

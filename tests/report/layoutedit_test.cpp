@@ -1,27 +1,15 @@
 // layoutedit_test.cpp -- the commands of the layout editor and the drops of its tiles.
 #include "report/layoutedit.h"
 
-#include "testing.h"
+#include "report/choosing.h"
 
+#include "boring/boringboxes.h"
 #include "report/layout.h"
 #include "session/files.h"
 #include "session/session.h"
 
 using frmLayout::Tile;
 using frmLayout::TilePoint;
-
-static Text chosen;
-static int16_t modeAsked;
-
-static void Choose(const Text& name)
-{
-    chosen = name;
-    Platform.ShowChooser = [] {
-        modeAsked = DialogMode;
-        DialogResult = chosen;
-        DialogMode = -1;
-    };
-}
 
 static int BlocksInUse()
 {
@@ -240,4 +228,63 @@ TEST_CASE("by the keyboard a tile goes from place to place, enters from beside t
     frmLayout::StepTile(12, -1, 0);
     CHECK(Tile[12] == beside);
     CHECK(BlocksInUse() == 0);
+}
+
+TEST_CASE("every place of every page holds the tile that is dropped there")
+{
+    const std::vector<std::vector<int>> columns{
+        {5400, 6465, 7530}, {4680, 5745, 6810, 7875}, {2520, 3585, 4650, 5715, 6780, 7845}};
+    const std::vector<std::vector<int>> rows{{1080, 1425, 4530}, {2160, 2505}, {2400, 2745}};
+    for (int orientation = 0; orientation <= 2; ++orientation) {
+        frmLayout::mnuNew();
+        frmLayout::ChooseOrientation(orientation);
+        int place = 0;
+        for (const int x : columns[size_t(orientation)])
+            for (const int y : rows[size_t(orientation)]) {
+                frmLayout::DropTile(12, x, y);
+                CHECK(LayoutData.Blocks[++place] == 12);
+                CHECK(BlocksInUse() == 1);
+            }
+    }
+}
+
+TEST_CASE("a tile that stands on a place of the page before and has none on this one goes beside the page")
+{
+    frmLayout::mnuNew();
+    for (const int code : {1, 12}) {
+        frmLayout::ChooseOrientation(2);
+        const TilePoint beside = Tile[code];
+        frmLayout::DropTile(code, 7845, 2745); // place 12, which only the large page has
+        frmLayout::ChooseOrientation(1);
+        CHECK(Tile[code] == beside);
+        CHECK(LayoutData.Blocks[12] == code);
+        frmLayout::ChooseOrientation(2);
+        CHECK(Tile[code] == TilePoint{7845, 2745});
+        frmLayout::TakeOutTile(code);
+    }
+}
+
+TEST_CASE("a layout that is opened puts no tile of the layout before into the picture")
+{
+    frmLayout::mnuNew();
+    const TilePoint beside = Tile[7];
+    frmLayout::DropTile(7, 5400, 1080);
+    WriteScratch("a.lay", [&] {
+        std::string text = " 0 \r\n";
+        for (int place = 1; place <= 12; ++place)
+            text += place == 2 ? " 3 \r\n" : " 0 \r\n";
+        return text;
+    }());
+    Choose(Scratch("a.lay"));
+    frmLayout::mnuOpen();
+    CHECK(Tile[7] == beside);
+    CHECK(Tile[3] == TilePoint{5400, 1425});
+}
+
+TEST_CASE("the layouts are listed anew when the layout editor is left")
+{
+    frmLayout::mnuNew();
+    WriteScratch("new.lay", "");
+    frmLayout::mnuExit();
+    CHECK(frmBorinput::LayFiles == std::vector<Text>{"new.lay"});
 }

@@ -45,3 +45,12 @@ TEST_CASE("a missing logo.txt makes the logo window fail at opening")
 {
     CHECK(FailureOf(frmLogo::Load) == 53);
 }
+
+TEST_CASE("lines behind the sixth of logo.txt are passed over")
+{
+    WriteScratch("logo.txt", Lines({"one", "two", "three", "1", "LOGO.BMP", "300", "7", "8"}));
+    frmLogo::Load();
+    CHECK(Dialog.resolutionText == "300");
+    frmLogo::Command1();
+    CHECK(ReadScratch("logo.txt") == Lines({"one", "two", "three", "1", "LOGO.BMP", "300"}));
+}

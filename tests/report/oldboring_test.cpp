@@ -6,6 +6,7 @@
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
+#include "boring/opensave.h"
 #include "editors/fillform.h"
 #include "session/session.h"
 
@@ -335,4 +336,29 @@ TEST_CASE("a list of columns that is too long is told by its own name, and the r
     REQUIRE(Messages.size() == 2);
     CHECK(Messages[1].words == "Error 9 in convertrepparts.  Please contact Norvane");
     CHECK(BoringData.Formations[2][2] == "f4");
+}
+
+TEST_CASE("a name typed without its ending for an older form is a file that is not there")
+{
+    WriteScratch("old.SV3", OldLines().File());
+    DialogMode = 1;
+    frmOpenSave::Load();
+    frmOpenSave::ChangeVersion(0);
+    frmOpenSave::Dialog.fileText = "old";
+    frmOpenSave::Command1();
+    BoringFileName = DialogResult;
+    FillOlderForms();
+    OpenBoringFile2();
+    REQUIRE(Messages.size() == 1);
+    CHECK(Messages[0].words == "Error 53 in OpenSV3.  Please contact Norvane");
+    CHECK(BoringData.Name == "");
+}
+
+TEST_CASE("the last contact of a 4.6 file has its colour behind the comma as the others have")
+{
+    OldLines lines;
+    lines.lith = {"4", "SM", "1,red", "9", "CL", "2,10 20 30"};
+    Open(lines.File(), 2);
+    CHECK(BoringData.Lith[2][3] == "2");
+    CHECK(BoringData.Lith[2][4] == "10 20 30");
 }

@@ -168,3 +168,25 @@ TEST_CASE("Exit of the prompt editor asks only when cells were changed")
     CHECK(frmPrompt::mnuExit());
     CHECK(PromptLabel(19, "Boring Name") == "Hole Name");
 }
+
+TEST_CASE("the first and the last of the prompts are read, shown, saved and put back as the others are")
+{
+    const Text last = "d" + std::to_string(MaxPrompts);
+    WritePrompts({{1, "first"}, {MaxPrompts, "last"}});
+    LoadPrompts();
+    CHECK(PromptTable[1][NewText] == "first");
+    CHECK(PromptTable[MaxPrompts][NewText] == "last");
+    CHECK(PromptTable[MaxPrompts][DefaultText] == last);
+    frmPrompt::Load();
+    CHECK(frmPrompt::SS1.Cell(1, NewText) == "first");
+    CHECK(frmPrompt::SS1.Cell(MaxPrompts, NewText) == "last");
+    CHECK(frmPrompt::SS1.Cell(MaxPrompts, DefaultText) == last);
+    frmPrompt::mnuSave();
+    LoadPrompts();
+    CHECK(PromptTable[MaxPrompts][NewText] == "last");
+    frmPrompt::mnuRevert();
+    CHECK(frmPrompt::SS1.Cell(1, NewText) == "d1");
+    CHECK(frmPrompt::SS1.Cell(MaxPrompts, NewText) == last);
+    CHECK(PromptTable[1][NewText] == "d1");
+    CHECK(PromptTable[MaxPrompts][NewText] == last);
+}

@@ -9,8 +9,6 @@
 #include "sections/crossrun.h"
 #include "session/files.h"
 
-#include <cmath>
-
 static void AddLines(std::string& bytes, const std::vector<Text>& lines, size_t count, const Text& empty)
 {
     for (size_t line = 0; line < count; ++line)
@@ -32,15 +30,6 @@ std::string SectionText::Bytes() const
 void WriteSection(const Text& file, const SectionText& section)
 {
     WriteScratch(file, section.Bytes());
-}
-
-void WriteSectionList(std::initializer_list<const char*> files)
-{
-    LineWriter out(MasFile(), Durability::Scratch);
-    out.Line(std::to_string(files.size()));
-    for (const char* file : files)
-        out.Line(Scratch(file));
-    out.Close();
 }
 
 bool ReadSection(const SectionText& section)
@@ -69,36 +58,16 @@ void StartSection()
     canvasstart(VCROSS::CrossRun.pageMode);
 }
 
-static Drawing DrawnFrom(double xInches, double yInches, size_t skip)
-{
-    const auto x = static_cast<int32_t>(std::lround(600 * xInches)),
-               y = static_cast<int32_t>(std::lround(600 * yInches));
-    const PageListRecord kept = PageList;
-    for (PageObject& object : PageList.Objects) {
-        object.X1 += ColumnX - x;
-        object.X2 += ColumnX - x;
-        object.Y1 += ColumnY + 60 - y;
-        object.Y2 += ColumnY + 60 - y;
-        for (PagePoint& point : object.Vertices) {
-            point.X += ColumnX - x;
-            point.Y += ColumnY + 60 - y;
-        }
-    }
-    const Drawing drawing = Drawn(skip);
-    PageList = kept;
-    return drawing;
-}
-
 // The margins of the sheet are 0.25 wide: the frame's corner is 0.45 from the printable sheet's left edge and from its
 // upper one.
 Drawing SectionDrawn(size_t skip)
 {
-    return DrawnFrom(1.05, 0.95, skip);
+    return DrawnFrom(630, 570, skip);
 }
 
 Drawing SheetDrawn(size_t skip)
 {
-    return DrawnFrom(0.45, 0.45, skip);
+    return DrawnFrom(270, 270, skip);
 }
 
 size_t Objects()

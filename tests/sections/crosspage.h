@@ -22,7 +22,6 @@ struct SectionText {
 };
 
 void WriteSection(const Text& file, const SectionText& section); // into the working folder of the test
-void WriteSectionList(std::initializer_list<const char*> files); // log.mas for sections of the working folder
 // A file into CrossRun, as a run does it; the working folder of the test is the project.
 bool ReadSection(const SectionText& section);
 

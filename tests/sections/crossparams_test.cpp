@@ -285,3 +285,27 @@ TEST_CASE("a missing boring ends the parameters, and the counter of the screen m
     CHECK(OnlyMessage() == "Boring File Not Found: " + Scratch("NONE.bor"));
     CHECK(RunPages.pageIndex == 2);
 }
+
+TEST_CASE("parameters are found in a boring that has something in every list")
+{
+    BoringText boring = SectionBoring("B-1", {{"4", "GW", "D", "RED"}, {"10", "CL"}});
+    boring.RepParts = {{"DEP", ".4"}, {"GRAPHIC", ".3"}};
+    boring.Samples = {{"1", "3", "1", "2-3-4", "L", "one", "two", "12"}, {"4", "6", "1", "", "", "", "", "7"}};
+    boring.Des = {"@1", "Gravel", "@2", "Clay"};
+    boring.Params = {{"2", "one", "30"}, {"5", "", "45"}};
+    boring.SampleSetup = {{}, {}, {"Name", "Heading", "0,60,10"}};
+    boring.GenSetup = {{}, {"Name", "Heading", "0,60,10"}};
+    boring.WellInfo = {{"Driller", "X"}, {"Rig", "Y"}, {"Bit", "Z"}};
+    boring.WellNotes = {"Note", "Another"};
+    boring.OuterLayers = {{"0", "8"}, {"8", "10"}};
+    WriteBoring("B-1.BOR", boring);
+    Drawing drawing = Parameters(OneBoring("P3"));
+    REQUIRE(drawing.size() == 8);
+    CHECK(drawing[3] == "text 502,717 6pt  12  centred");
+    CHECK(drawing[7] == "text 502,897 6pt  7  centred");
+    drawing = Parameters(OneBoring("GP2"));
+    REQUIRE(drawing.size() == 8);
+    CHECK(drawing[3] == "text 502,717 6pt  30  centred");
+    CHECK(drawing[7] == "text 502,897 6pt  45  centred");
+    CHECK(Messages.empty());
+}

@@ -53,7 +53,7 @@ TEST_CASE("every file of the list is a page, on the sheet that it names")
     wide.Tail = {"T", "", "", ""};
     WriteSection("A.CRO", TwoBorings("Letter"));
     WriteSection("W.CRO", wide);
-    WriteSectionList({"A.CRO", "W.CRO"});
+    WriteRunList({"A.CRO", "W.CRO"});
     vcrossstart();
     REQUIRE(Listings.size() == 2);
     CHECK(Shows(0, "Letter"));
@@ -67,7 +67,7 @@ TEST_CASE("the words of a section are those of the heading file for sections")
 {
     WriteBorings();
     WriteSection("A.CRO", TwoBorings("Main"));
-    WriteSectionList({"A.CRO"});
+    WriteRunList({"A.CRO"});
     vcrossstart();
     CHECK(Shows(0, "W62 (Feet MSL)"));
     CHECK(Shows(0, "W63 (Feet)"));
@@ -80,7 +80,7 @@ TEST_CASE("a list of one file leaves the run when the window is closed")
 {
     WriteBorings();
     WriteSection("A.CRO", TwoBorings("Main"));
-    WriteSectionList({"A.CRO"});
+    WriteRunList({"A.CRO"});
     for (void (*close)() : {+[] { NextPage(); }, +[] { ExitRun(); }}) {
         PlainShowPage = close;
         Listings.clear();
@@ -94,7 +94,7 @@ TEST_CASE("layers by code are drawn over the columns and under the water marks")
 {
     WriteBorings();
     WriteSection("A.CRO", TwoBorings("Main", "Y"));
-    WriteSectionList({"A.CRO"});
+    WriteRunList({"A.CRO"});
     vcrossstart();
     REQUIRE(Listings.size() == 1);
     const Text column = "\"picture\": \"F0.bmp\"", fill = "\"picture\": \"F21_sc.BMP\"", mark = "\"color\": \"0 0 0\"";
@@ -115,7 +115,7 @@ TEST_CASE("layers of a GIS file are drawn under the columns")
     section.Legend = {"CL;Clay"};
     section.Tail = {"L", "SITE", "", ""};
     WriteSection("A.CRO", section);
-    WriteSectionList({"A.CRO"});
+    WriteRunList({"A.CRO"});
     vcrossstart();
     REQUIRE(Listings.size() == 1);
     const Text column = "\"picture\": \"F0.bmp\"";
@@ -134,7 +134,7 @@ TEST_CASE("a GIS file that is missing is told in every kind of section, which ha
         section.Legend = {};
         section.Tail = {"L", "NONE", "", ""};
         WriteSection("A.CRO", section);
-        WriteSectionList({"A.CRO"});
+        WriteRunList({"A.CRO"});
         Messages.clear();
         vcrossstart();
         REQUIRE(Messages.size() == 1);
@@ -153,7 +153,7 @@ TEST_CASE("parameters are drawn when the file names one")
     SectionText section = TwoBorings("Main");
     section.Tail = {"L", "", "P1", ""};
     WriteSection("A.CRO", section);
-    WriteSectionList({"A.CRO"});
+    WriteRunList({"A.CRO"});
     vcrossstart();
     CHECK(Shows(0, "4711"));
     CHECK(progressValue == progressTotal);
@@ -168,7 +168,7 @@ TEST_CASE("a missing definition file is told, has no page, and the run goes on")
     WriteBorings();
     WriteSection("A.CRO", TwoBorings("First"));
     WriteSection("C.CRO", TwoBorings("Last"));
-    WriteSectionList({"A.CRO", "B.CRO", "C.CRO"});
+    WriteRunList({"A.CRO", "B.CRO", "C.CRO"});
     vcrossstart();
     REQUIRE(Listings.size() == 2);
     CHECK(Shows(0, "First"));
@@ -181,7 +181,7 @@ TEST_CASE("from a page in front of the first the message has no name, and the fi
 {
     WriteBorings();
     WriteSection("A.CRO", TwoBorings("First"));
-    WriteSectionList({"A.CRO"});
+    WriteRunList({"A.CRO"});
     PlainShowPage = [] {
         InputAnswers = {"1"};
         if (Listings.size() == 1)
@@ -203,7 +203,7 @@ TEST_CASE("on the screen a missing boring lets Next leave a file out")
     WriteSection("A.CRO", broken);
     WriteSection("B.CRO", TwoBorings("Second"));
     WriteSection("C.CRO", TwoBorings("Third"));
-    WriteSectionList({"A.CRO", "B.CRO", "C.CRO"});
+    WriteRunList({"A.CRO", "B.CRO", "C.CRO"});
     vcrossstart();
     REQUIRE(Listings.size() == 2);
     CHECK(Shows(0, "Broken"));
@@ -224,7 +224,7 @@ TEST_CASE("in a print run, where nobody sits in front, and in an export each fil
     broken.Tail = {"L", "", "P1", ""};
     WriteSection("A.CRO", broken);
     WriteSection("B.CRO", TwoBorings("Second"));
-    WriteSectionList({"A.CRO", "B.CRO"});
+    WriteRunList({"A.CRO", "B.CRO"});
     RunPages.printing = 1;
     vcrossstart();
     CHECK(PlainPrinted == 2);
@@ -252,7 +252,7 @@ TEST_CASE("a file that fails to be read has its page of what was read and of the
     WriteBorings();
     WriteSection("A.CRO", TwoBorings("Before"));
     WriteScratch("B.CRO", Lines({"0", "", "0"}));
-    WriteSectionList({"A.CRO", "B.CRO"});
+    WriteRunList({"A.CRO", "B.CRO"});
     vcrossstart();
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "Error 62 in getcrossdata.  Please contact Norvane");
@@ -265,7 +265,7 @@ TEST_CASE("a Cancel before the run stops no fill")
 {
     WriteBorings();
     WriteSection("A.CRO", TwoBorings("Main", "Y"));
-    WriteSectionList({"A.CRO"});
+    WriteRunList({"A.CRO"});
     stopRequested = -1;
     vcrossstart();
     CHECK(stopRequested == 0);
@@ -279,4 +279,18 @@ TEST_CASE("a list that is not there is told and draws nothing")
     CHECK(Listings.empty());
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "Error 53 in getsvfiles.  Please contact Norvane");
+}
+
+TEST_CASE("water marks are the last on a page of layers, one for each boring with a water depth")
+{
+    WriteBorings();
+    WriteSection("A.CRO", TwoBorings("Main", "Y"));
+    WriteRunList({"A.CRO"});
+    vcrossstart();
+    REQUIRE(Listings.size() == 1);
+    const size_t last = Listings[0].rfind("{\"kind\"");
+    const Text mark = Listings[0].substr(last);
+    CHECK(mark.starts_with("{\"kind\": \"polygon\""));
+    CHECK(mark.find("\"color\": \"0 0 0\"") != Text::npos);
+    CHECK(Times(Listings[0], mark) == 1);
 }

@@ -330,3 +330,15 @@ TEST_CASE("a fence file that is not there is told with its whole path, and nothi
           "File Not Found: " + Scratch("NONE.FEN") +
               ".  Possible solution: Use 'Project: Select Project' to select your project before opening files.");
 }
+
+TEST_CASE("the fifteenth boring of a fence is found by its number and by its name, as the first is")
+{
+    FenceText fence;
+    for (char letter = 'A'; letter <= 'O'; ++letter)
+        fence.Borings.push_back(Text("1,1,") + letter + ",,,");
+    fence.Panels = {"1,15", "A,O", "16,15"};
+    Read(fence);
+    CHECK(Panel(1) == "1,15");
+    CHECK(Panel(2) == "1,15");
+    CHECK(Panel(3) == "0,15");
+}

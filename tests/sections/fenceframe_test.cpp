@@ -14,12 +14,7 @@ using namespace VCROSS;
 // The frame's objects behind the foot.
 static Drawing Frame(const FenceText& fence)
 {
-    for (int slot = 1; slot <= MaxHeadings; ++slot)
-        HeadingWords[slot] = "W" + std::to_string(slot);
-    REQUIRE(ReadFence(fence));
-    PageList = PageListRecord();
-    canvasstart(CrossRun.pageMode);
-    drawfenceframe();
+    StartFence(fence);
     return FenceDrawn();
 }
 

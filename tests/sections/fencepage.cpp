@@ -5,6 +5,7 @@
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "canvas/screenview.h"
+#include "report/heading.h"
 #include "sections/fencerun.h"
 #include "session/files.h"
 #include "session/session.h"
@@ -36,15 +37,6 @@ void WriteFence(const Text& file, const FenceText& fence)
     WriteScratch(file, fence.Bytes());
 }
 
-void WriteFenceList(std::initializer_list<const char*> fences)
-{
-    LineWriter out(MasFile(), Durability::Scratch);
-    out.Line(std::to_string(fences.size()));
-    for (const char* fence : fences)
-        out.Line(Scratch(fence));
-    out.Close();
-}
-
 bool ReadFence(const FenceText& fence)
 {
     WriteFence("A.FEN", fence);
@@ -61,18 +53,14 @@ BoringText FenceBoring(const Text& name, const BoringText::Rows& layers)
     return boring;
 }
 
-static void Shift(int32_t x, int32_t y)
+void StartFence(const FenceText& fence)
 {
-    for (PageObject& object : PageList.Objects) {
-        object.X1 += x;
-        object.X2 += x;
-        object.Y1 += y;
-        object.Y2 += y;
-        for (PagePoint& point : object.Vertices) {
-            point.X += x;
-            point.Y += y;
-        }
-    }
+    for (int slot = 1; slot <= MaxHeadings; ++slot)
+        HeadingWords[slot] = "W" + std::to_string(slot);
+    REQUIRE(ReadFence(fence));
+    PageList = PageListRecord();
+    canvasstart(VCROSS::CrossRun.pageMode);
+    VCROSS::drawfenceframe();
 }
 
 // Where the base plane starts is (0.6, 2.45) inches from the corner of the printable sheet.
@@ -88,11 +76,7 @@ Drawing FenceDrawn()
         return object.Kind == ObjectKind::Text && object.String.ends_with(RunPages.pageFile) && object.HAlign == 0;
     });
     const size_t skip = foot == objects.end() ? 0 : size_t(foot - objects.begin()) + 1;
-    const int32_t x = ColumnX - 360, y = ColumnY + 60 - BaseY();
-    Shift(x, y);
-    const Drawing drawing = Drawn(skip);
-    Shift(-x, -y);
-    return drawing;
+    return DrawnFrom(360, BaseY(), skip);
 }
 
 Text FencePen()

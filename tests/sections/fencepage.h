@@ -20,10 +20,10 @@ struct FenceText {
     std::string Bytes() const;
 };
 
-void WriteFence(const Text& file, const FenceText& fence);      // into the working folder of the test
-void WriteFenceList(std::initializer_list<const char*> fences); // log.mas for fences of the working folder
+void WriteFence(const Text& file, const FenceText& fence); // into the working folder of the test
 // A file into the records, as a run does it; the working folder of the test is the project.
 bool ReadFence(const FenceText& fence);
+void StartFence(const FenceText& fence); // read too, heading words "W1" and so on, and the frame drawn on an empty page
 
 // A boring of that name over its layers, depth and code; the reference level at 600, 2 above the ground.
 BoringText FenceBoring(const Text& name, const BoringText::Rows& layers = {});

@@ -28,9 +28,9 @@ static FenceText StartRun()
     return fence;
 }
 
-static void Run(std::initializer_list<const char*> fences, int16_t printing = 1)
+static void Run(std::initializer_list<Text> fences, int16_t printing = 1)
 {
-    WriteFenceList(fences);
+    WriteRunList(fences);
     RunPages.printing = printing;
     vfencestart();
 }

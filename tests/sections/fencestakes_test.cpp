@@ -18,12 +18,7 @@ using namespace VCROSS;
 // The objects of the stakes alone: the frame has set the ranges, and its objects are gone.
 static Drawing Stakes(const FenceText& fence)
 {
-    for (int slot = 1; slot <= MaxHeadings; ++slot)
-        HeadingWords[slot] = "W" + std::to_string(slot);
-    REQUIRE(ReadFence(fence));
-    PageList = PageListRecord();
-    canvasstart(CrossRun.pageMode);
-    drawfenceframe();
+    StartFence(fence);
     PageList.Objects.clear();
     drawfenceborings();
     return FenceDrawn();

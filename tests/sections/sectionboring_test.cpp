@@ -51,8 +51,8 @@ static BoringText FullBoring()
     boring.Samples = {{"1", "2", "1", "4-5-6", "L1", "p1", "p2"}, {"3", "4"}};
     boring.Des = {"@1", "Sand"};
     boring.Params = {{"1", "2", "3"}, {"2"}};
-    boring.WellInfo = {{"Driller", "X"}};
-    boring.WellNotes = {"Note"};
+    boring.WellInfo = {{"Driller", "X"}, {"Rig", "Y"}, {"Bit", "Z"}};
+    boring.WellNotes = {"Note", "Another"};
     boring.GenWell = {"MW-1", "MW-1b", "", "", "601.5", "2.25"};
     boring.OuterLayers = {{"0", "8"}, {"8", "12.5"}, {"12.5", "9"}, {"9", ""}};
     boring.InnerLayers = {{"-2", "3", "Pipe"}, {"3", "7.5", "0.02 screen"}, {"8", "9", "SCREENS"}};

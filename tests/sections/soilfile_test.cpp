@@ -194,3 +194,16 @@ TEST_CASE("the buttons of the notes box change width and adjustment by 50, witho
     CHECK(FileChanged == 1);
     CHECK(Messages.empty());
 }
+
+TEST_CASE("each of the nine cells and ten notes goes from the file into the form and from there into the file")
+{
+    const std::string typed = Lines({"a", "b", "c", "d", "e", "f", "g", "h", "i"});
+    Open(typed + Lines({"1\xB6", "2\xB6", "3\xB6", "4\xB6", "5\xB6", "6\xB6", "7\xB6", "8\xB6", "9\xB6", "10"}));
+    for (int row = 1; row <= 9; ++row) {
+        CHECK(SS1.Cell(row, 1) == Text(1, char('a' + row - 1)));
+        SS1.Cell(row, 1) = "new " + std::to_string(row);
+    }
+    MemoSoil.text = "A\r\nB\r\nC\r\nD\r\nE\r\nF\r\nG\r\nH\r\nI\r\nJ";
+    CHECK(Saved() == Lines({"new 1", "new 2", "new 3", "new 4", "new 5", "new 6", "new 7", "new 8", "new 9", "A\xB6",
+                            "B\xB6", "C\xB6", "D\xB6", "E\xB6", "F\xB6", "G\xB6", "H\xB6", "I\xB6", "J"}));
+}

@@ -13,7 +13,9 @@
 #include "session/files.h"
 #include "session/session.h"
 
-#include <regex>
+#include <algorithm>
+#include <cstdio>
+#include <sstream>
 
 using VCROSS::SoilRun;
 
@@ -72,11 +74,7 @@ static BoringText Boring()
 static void Run(std::initializer_list<Text> files)
 {
     WriteHeadings();
-    LineWriter out(MasFile(), Durability::Scratch);
-    out.Line(PlainNumber(int(files.size())));
-    for (const Text& file : files)
-        out.Line(Scratch(file));
-    out.Close();
+    WriteRunList(files);
     VCROSS::vsoilstart();
 }
 
@@ -91,21 +89,20 @@ static void DrawTable(const SoilText& soil, const BoringText& boring)
 // Places of a drawing from another point: (x, y) of what Drawn tells.
 static Drawing From(const Drawing& drawing, int x, int y)
 {
-    static const std::regex place(" (-?[0-9]+),(-?[0-9]+)");
     Drawing moved;
     for (const Text& object : drawing) {
+        std::istringstream in(object + " "); // so that an empty text stays
         Text words;
-        std::smatch found;
-        Text rest = object;
-        const bool text = object.starts_with("text ");
-        while (std::regex_search(rest, found, place)) {
-            words += found.prefix().str() + " " + std::to_string(std::stoi(found[1]) - x) + "," +
-                     std::to_string(std::stoi(found[2]) - y);
-            rest = found.suffix().str();
-            if (text)
-                break;
+        bool done = false; // behind the place of a text comes the text itself
+        for (Text word; std::getline(in, word, ' ');) {
+            int atX = 0, atY = 0, read = 0;
+            if (!done && std::sscanf(word.c_str(), "%d,%d%n", &atX, &atY, &read) == 2 && size_t(read) == word.size()) {
+                word = std::to_string(atX - x) + "," + std::to_string(atY - y);
+                done = object.starts_with("text ");
+            }
+            words += (words.empty() ? "" : " ") + word;
         }
-        moved.push_back(words + rest);
+        moved.push_back(words);
     }
     return moved;
 }
@@ -597,4 +594,40 @@ TEST_CASE("a list of tables that cannot be read is told, and draws nothing")
     CHECK(Listings.empty());
     CHECK(!Messages.empty());
     CHECK(Messages[0].words.starts_with("Error 53 in getsvfiles"));
+}
+
+TEST_CASE("a boring with something in every list is read through to its client")
+{
+    BoringText boring = Boring();
+    boring.WellInfo = {{"Driller", "X"}, {"Rig", "Y"}, {"Bit", "Z"}};
+    boring.WellNotes = {"n1", "n2"};
+    boring.OuterLayers = {{"0", "8", "Grout"}, {"8", "12", "Seal"}};
+    boring.InnerLayers = {{"0", "8", "Pipe"}, {"8", "12", "Screen"}};
+    boring.Remarks = {"r1", "r2"};
+    boring.Cuttings = {{"1", "2", "3", "4"}};
+    boring.Legend = {{"SM", "Sand"}};
+    boring.Formations = {{"5", "Fill"}, {"9", "Till"}};
+    WriteBoring("B-1.BOR", boring);
+    WriteSoil("A.SOI", SoilText());
+    RunPages.pageFile = Scratch("A.SOI");
+    CHECK(VCROSS::getsoildata());
+    CHECK(Messages.empty());
+    CHECK(SoilRun.layerCount == 2);
+    CHECK(SoilRun.sampleCount == 1);
+    CHECK(SoilRun.split1[2] == "100");
+    for (int line = 1; line <= 5; ++line)
+        CHECK(LogBoring.Client[line] == "c" + std::to_string(line));
+    CHECK(LogBoring.Style == 3);
+}
+
+TEST_CASE("the tenth note of a table is read as the first is, each up to its mark")
+{
+    WriteBoring("B-1.BOR", Boring());
+    SoilText soil;
+    soil.Notes = {"1\xB6", "2", "3", "4", "5", "6", "7", "8", "9", "10\xB6"};
+    WriteSoil("A.SOI", soil);
+    RunPages.pageFile = Scratch("A.SOI");
+    CHECK(VCROSS::getsoildata());
+    CHECK(SoilRun.notes[1] == "1");
+    CHECK(SoilRun.notes[10] == "10");
 }

@@ -131,3 +131,15 @@ TEST_CASE("a set-up that cannot be written is reported by name and the flag stay
     CHECK(Messages[0].icon == NoIcon);
     CHECK(DeviceChanged == 1);
 }
+
+TEST_CASE("each margin offset is clamped on either side")
+{
+    WriteScratch("device.cfg", Lines({ScratchFolder(), "-5,7", "Arial"}));
+    LoadDevice();
+    CHECK(DeviceConfig.MarginX == -2.0f);
+    CHECK(DeviceConfig.MarginY == 2.0f);
+    WriteScratch("device.cfg", Lines({ScratchFolder(), "-1.5,1.75", "Arial"}));
+    LoadDevice();
+    CHECK(DeviceConfig.MarginX == -1.5f);
+    CHECK(DeviceConfig.MarginY == 1.75f);
+}

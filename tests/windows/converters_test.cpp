@@ -44,12 +44,6 @@ static std::string Kept(const Text& name)
     return ReadWholeFile(Text(SOURCE_DIR) + "/tests/convert/data/" + name);
 }
 
-static void Picture(QWidget* window, const char* name)
-{
-    if (const QString folder = qEnvironmentVariable("WINDOW_PICTURES"); !folder.isEmpty())
-        window->grab().save(folder + "/" + name + ".png");
-}
-
 // OK on these files of the batch dialog.
 static void PickFiles(QWidget* dialog, std::initializer_list<const char*> names)
 {
@@ -139,7 +133,7 @@ TEST_CASE("the conversion editor: a map is opened, typed in and saved, and Begin
         auto* fields = Find<QTableView>(window, "SS1");
         CHECK(fields->model()->headerData(0, Qt::Horizontal).toString() == "Maps to Vesklog");
         CHECK(fields->model()->data(fields->model()->index(3, 0)).toString() == "Boring Info");
-        Picture(window, "frmGTGSGenEditor");
+        LookAt(window, "frmGTGSGenEditor");
         // A kind is picked from the list of its cell, in which the arrows move.
         fields->setFocus();
         fields->setCurrentIndex(fields->model()->index(9, 0));
@@ -152,7 +146,7 @@ TEST_CASE("the conversion editor: a map is opened, typed in and saved, and Begin
         QTest::keyClick(list, Qt::Key_Down);
         QTest::keyClick(list, Qt::Key_Down);
         CHECK(list->currentText() == "Client Info");
-        Picture(window, "frmGTGSGenEditorList");
+        LookAt(window, "frmGTGSGenEditorList");
         QTest::keyClick(list, Qt::Key_Return);
         Settle();
         CHECK(frmGTGSGenEditor::SS1.Cell(10, 1) == "Client Info");

@@ -1,14 +1,17 @@
 // driver.cpp -- the user of the window tests.
 #include "windows/driver.h"
 
+#include "batch/jobtable.h"
 #include "platform/qt/application.h"
 #include "platform/qt/printers.h"
+#include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
 #include "session/session.h"
 #include "session/startup.h"
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QDragEnterEvent>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -16,11 +19,13 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPointer>
 #include <QRadioButton>
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 #include <algorithm>
 #include <deque>
 #include <filesystem>
@@ -194,6 +199,45 @@ void UseDesktop()
     fs::copy_file(BUILD_DIR "/LOGO.BMP", Scratch("LOGO.BMP"));
     fs::create_directory_symlink(BUILD_DIR "/fills", Scratch("fills"));
     fs::copy(SOURCE_DIR "/samples", Scratch("samples"));
+}
+
+void LookAt(QWidget* window, const Text& name)
+{
+    const QString folder = qEnvironmentVariable("STRATAVUE_PICTURES");
+    if (folder.isEmpty())
+        return;
+    Settle(50);
+    window->grab().save(folder + "/" + ToUi(name) + ".png");
+}
+
+bool Drop(QWidget* on, const Text& file)
+{
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(ToUi(file))});
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(on, &enter);
+    if (!enter.isAccepted())
+        return false;
+    QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(on, &event);
+    Settle(20);
+    return true;
+}
+
+static int endedWith;
+
+int StatusOfStart(const char* words)
+{
+    endedWith = 0;
+    void (*const before)(int) = EndAtOnce;
+    EndAtOnce = [](int status) { endedWith = status; };
+    ThenAnswer(words, "OK");
+    Then("frmAbout5", Click);
+    Main();
+    CheckAllDone();
+    EndAtOnce = before;
+    CHECK_FALSE(StartDone);
+    return endedWith;
 }
 
 QMainWindow* LogWindow()

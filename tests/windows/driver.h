@@ -27,10 +27,16 @@ void ClickButton(QWidget* window, const char* name);
 void ClickMenu(QWidget* window, const char* menu, const char* entry); // "" for an entry of the bar itself
 void Key(QWidget* window, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 void TypeWords(QWidget* window, const Text& words); // each letter goes where the focus is by then
+bool Drop(QWidget* on, const Text& file);           // dragged there and let go; false: it was not taken
 template <class T>
 T* Find(QWidget* window, const char* name);
 void Settle(int milliseconds = 0); // turns of the event loop
+// For the developer's eye: a picture of the window in the folder that STRATAVUE_PICTURES names; without it nothing.
+void LookAt(QWidget* window, const Text& name);
 
+// Starts the program with a start that fails: the box with these words, then the title box is clicked away. The status
+// it ended with.
+int StatusOfStart(const char* words);
 QMainWindow* LogWindow(); // started with a device.cfg and first.txt, title box clicked away; nullptr if it did not come
 void OpenSample(const char* name); // in the log window, by its menu and the file dialog
 

@@ -35,14 +35,6 @@
 #include <cstdlib>
 #include <fstream>
 
-static void Picture(QWidget* window, const char* name)
-{
-    if (const char* folder = std::getenv("STRATAVUE_PICTURES")) {
-        Settle(50);
-        window->grab().save(QString("%1/%2.png").arg(folder, name));
-    }
-}
-
 TEST_CASE("each heading and each row number has room for its words")
 {
     QMainWindow* log = LogWindow();
@@ -226,7 +218,7 @@ TEST_CASE("a text box shows exactly the lines of the breaker, typed, wrapped, br
     log->resize(log->width() - 100, log->height());
     Settle();
     CheckLines(view, frmBorinput::MemoDes);
-    Picture(log, "memo");
+    LookAt(log, "memo");
 }
 
 TEST_CASE("every letter of the code page, in any mixture, stands on the breaker's line and comes back as it was")
@@ -405,7 +397,7 @@ TEST_CASE("a whole boring is typed, saved as the kept file, previewed, printed a
     CHECK(ReadScratch("samples/TYPED.BOR") == std::string(std::istreambuf_iterator<char>(kept), {}));
     for (const char* tab : {"SSInfo", "SSLith", "SSSamp", "SSPar", "SSW", "MemoRemarks", "SSLegend"}) {
         Bring(log, tab);
-        Picture(log, (std::string("typed-") + tab).c_str());
+        LookAt(log, std::string("typed-") + tab);
     }
 
     Then("DrawArea", [](QWidget* window) {
@@ -498,22 +490,10 @@ TEST_CASE("borings opened lately stand in the File menu, the last one first, and
 TEST_CASE("a boring dropped on the window opens, on a text box too; other files are not taken")
 {
     QMainWindow* log = LogWindow();
-    const auto drop = [](QWidget* on, const Text& file) {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(ToUi(file))});
-        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(on, &enter);
-        if (!enter.isAccepted())
-            return false;
-        QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(on, &event);
-        Settle(20);
-        return true;
-    };
-    CHECK_FALSE(drop(log, Scratch("us.hdg")));
-    CHECK(drop(log, Scratch("samples/TC-103.BOR")));
+    CHECK_FALSE(Drop(log, Scratch("us.hdg")));
+    CHECK(Drop(log, Scratch("samples/TC-103.BOR")));
     CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-103");
-    CHECK(drop(static_cast<QPlainTextEdit*>(Bring(log, "MemoDes"))->viewport(), Scratch("samples/TC-101.BOR")));
+    CHECK(Drop(static_cast<QPlainTextEdit*>(Bring(log, "MemoDes"))->viewport(), Scratch("samples/TC-101.BOR")));
     CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-101");
 }
 
@@ -614,7 +594,7 @@ TEST_CASE("the page beside the boxes follows what is typed, and a click on a lay
     CHECK(ReadScratch("samples/TC-101.BOR") == onDisk);
     CHECK(BoringFileName == Scratch("samples/TC-101.BOR"));
     CHECK(FileChanged == 1);
-    Picture(log, "live");
+    LookAt(log, "live");
     // Layer 3 ends at 11.5 feet, layer 2 at 7: a point between them.
     const LivePage& page = pane->Shown();
     const double y = page.Top + 9 * page.UnitsPerDepth;
@@ -720,6 +700,6 @@ TEST_CASE("pictures of the tabs")
     CHECK(tabs->count() == 7);
     for (int i = 0; i < tabs->count(); ++i) {
         tabs->setCurrentIndex(i);
-        Picture(log, ("tab" + std::to_string(i)).c_str());
+        LookAt(log, "tab" + std::to_string(i));
     }
 }

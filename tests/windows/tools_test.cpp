@@ -31,7 +31,6 @@
 #include <QTableView>
 #include <QTest>
 #include <QToolButton>
-#include <cstdlib>
 #include <set>
 
 namespace
@@ -136,14 +135,6 @@ static void ThenChoose(const char* name)
     });
 }
 
-static void Picture(QWidget* window, const char* name)
-{
-    if (const char* folder = std::getenv("STRATAVUE_PICTURES")) {
-        Settle(50);
-        window->grab().save(QString("%1/%2.png").arg(folder, name));
-    }
-}
-
 // ---- The windows
 
 TEST_CASE("each tool opens on top of the log window with its title, its folder and its boxes, and VeskLog uncovers the "
@@ -170,7 +161,7 @@ TEST_CASE("each tool opens on top of the log window with its title, its folder a
                 auto* button = qobject_cast<QAbstractButton*>(box);
                 CHECK((!box->accessibleName().isEmpty() || (button && !button->text().isEmpty())));
             }
-            Picture(tool, cases[i].window);
+            LookAt(tool, cases[i].window);
             ClickMenu(tool, "mnuTools", "mnuVeskLog");
             CHECK_FALSE(tool->isVisible());
         });
@@ -334,7 +325,7 @@ TEST_CASE("a section is typed, saved under a new name, previewed and found again
         for (int row = 9; row <= 30; ++row)
             file += ";\r\n";
         CHECK(ReadScratch("samples/YARD.CRO") == file);
-        Picture(tool, "cross-typed");
+        LookAt(tool, "cross-typed");
         // The page, and back with the cell and the focus as they were.
         ClickCell(tool, "SS3", 2, 1);
         static size_t objects;
@@ -454,21 +445,10 @@ TEST_CASE("a definition dropped on a tool's window opens; files of other kinds a
 {
     QMainWindow* log = LogWindow();
     WriteScratch("samples/D.CRO", Lines({" 1 ", "5", "DROPPED", "", "", "", "", ""}));
-    const auto drop = [](QWidget* on, const Text& file) {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(ToUi(file))});
-        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(on, &enter);
-        if (!enter.isAccepted())
-            return false;
-        QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(on, &event);
-        return true;
-    };
     Visit(log, cases[0], [&](QWidget* tool) {
-        CHECK_FALSE(drop(tool, Scratch("samples/TC-101.BOR")));
+        CHECK_FALSE(Drop(tool, Scratch("samples/TC-101.BOR")));
         ThenAnswer("Error 62 in OpenCrossFile.  Please contact Norvane", "OK");
-        CHECK(drop(tool, Scratch("samples/D.CRO")));
+        CHECK(Drop(tool, Scratch("samples/D.CRO")));
         Settle(50);
         CheckAllDone();
         CHECK(frmCross::SS1.Cell(1, 2) == "DROPPED");
@@ -525,7 +505,7 @@ TEST_CASE("the page beside the boxes of a tool follows what is typed")
             }));
             CHECK(FileChanged == 1);
             CHECK(PageList.Objects.empty());
-            Picture(tool, (std::string(cases[i].window) + "-live").c_str());
+            LookAt(tool, std::string(cases[i].window) + "-live");
             Leave(tool);
         });
 }
@@ -612,7 +592,7 @@ TEST_CASE("the workbench: borings are looked at, added, given layers and exporte
         CHECK(table->model()->index(1, 4).data().toString() == list->item(1)->text());
         CHECK(Find<QLabel>(tool, "lblState")->text() == "2 borings, 2 layers");
         CHECK(FileChanged == 1);
-        Picture(tool, "gis-filled");
+        LookAt(tool, "gis-filled");
         // Columns at the current cell; none among the first five.
         ClickCell(tool, "SSGISInfo", 1, 2);
         ClickMenu(tool, "mnuEdit", "mnuInsertColumn");

@@ -40,7 +40,7 @@ namespace
 struct Done {
     std::set<std::string> saved; // borings that a save was given for
     bool edited = false;         // a small editor was worked in, which writes its own file
-    bool drawn = false;          // a run was started, which may leave a PDF beside its source
+    bool drawn = false;          // a run was started, which may leave a PDF or tables beside its source
     QStringList told;            // the words of all boxes
 };
 } // namespace
@@ -183,7 +183,7 @@ static void CheckFiles(const std::map<std::string, std::string>& before, const D
         const std::string base = name.substr(name.find('/') + 1);
         if (base.ends_with(".BOR"))
             CHECK(done.saved.count(base) == 1);
-        else if (base.ends_with(".pdf") || base.starts_with("tim")) // the site tables come by the same dialog
+        else if (base.ends_with(".pdf") || (base.starts_with("tim") && base.ends_with(".txt"))) // IRPIMS tables
             CHECK(done.drawn);
         else
             CHECK(done.edited);

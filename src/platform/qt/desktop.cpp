@@ -1,6 +1,4 @@
 // desktop.cpp -- the seam of the desktop program: each procedure of Platform, and the window or box behind it.
-#include "canvas/batch.h"
-#include "canvas/patterns.h"
 #include "convert/gtgsprt.h"
 #include "convert/gtgstext.h"
 #include "convert/irpims.h"
@@ -8,8 +6,6 @@
 #include "editors/borinput.h"
 #include "editors/fillform.h"
 #include "gis/gistool.h"
-#include "logrender/intropage.h"
-#include "logrender/vlog.h"
 #include "platform/qt/boxes.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/headless.h"
@@ -20,11 +16,8 @@
 #include "report/desitems.h"
 #include "report/fontprofile.h"
 #include "report/oldboring.h"
-#include "sections/crossrun.h"
 #include "sections/crosstool.h"
-#include "sections/fencerun.h"
 #include "sections/fencetool.h"
-#include "sections/soiltable.h"
 #include "sections/soiltool.h"
 #include "session/platform.h"
 #include "session/recovery.h"
@@ -172,17 +165,4 @@ void UseDesktopPlatform()
     FillCommandTable();
     FillRecoveryTools();
     FillOlderForms();
-}
-
-void FillJobTable()
-{
-    JobTable[1] = JobTable[2] = VLOG::vlogstart;
-    JobTable[3] = JobTable[4] = VCROSS::vcrossstart;
-    JobTable[5] = JobTable[6] = VCROSS::vfencestart;
-    JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
-    JobTable[9] = patternstart;
-    JobTable[10] = Export2IRPIMS;
-    JobTable[11] = ConvertGTGS2BOR;
-    JobTable[12] = ConvertWinLog;
-    IntroPages = VLOG::vlogintrostart;
 }

@@ -1,5 +1,6 @@
 // main.cpp -- the desktop program: Qt, the seam, the jobs, the start, and then the boring of the command line, which is
 // how a desktop opens one.
+#include "batch/jobtable.h"
 #include "platform/qt/application.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"

@@ -298,14 +298,7 @@ void ToolWindow::AddPreview()
 
 void ToolWindow::AddStatusBar()
 {
-    project = new QLabel(this);
-    project->setObjectName("lblProject");
-    project->setContentsMargins(8, 0, 8, 0);
-    state = new QLabel(this);
-    state->setObjectName("lblState");
-    state->setContentsMargins(8, 0, 8, 0);
-    statusBar()->addWidget(project, 1);
-    statusBar()->addPermanentWidget(state);
+    AddStatusWords(statusBar(), project, state);
 }
 
 // ---- What is shown

@@ -4,9 +4,11 @@
 #include "platform/qt/uitext.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QMenu>
 #include <QSettings>
 #include <QSplitter>
+#include <QStatusBar>
 #include <utility>
 
 QSplitter* Split(Qt::Orientation orientation, std::initializer_list<QWidget*> boxes, std::initializer_list<int> shares)
@@ -24,6 +26,18 @@ QSplitter* Split(Qt::Orientation orientation, std::initializer_list<QWidget*> bo
     }
     splitter->setSizes(sizes);
     return splitter;
+}
+
+void AddStatusWords(QStatusBar* bar, QLabel*& project, QLabel*& state)
+{
+    project = new QLabel(bar);
+    project->setObjectName("lblProject");
+    project->setContentsMargins(8, 0, 8, 0);
+    state = new QLabel(bar);
+    state->setObjectName("lblState");
+    state->setContentsMargins(8, 0, 8, 0);
+    bar->addWidget(project, 1);
+    bar->addPermanentWidget(state);
 }
 
 static constexpr int maxRecent = 9;

@@ -1,4 +1,5 @@
-// windowparts.h -- what the windows of the tools are made of: menus, boxes with movable borders, titles, recent files.
+// windowparts.h -- what the windows of the tools are made of: menus, boxes with movable borders, status bars, recent
+// files.
 #pragma once
 
 #include "session/text.h"
@@ -8,12 +9,17 @@
 #include <initializer_list>
 
 class QAction;
+class QLabel;
 class QMenu;
 class QSplitter;
+class QStatusBar;
 class QWidget;
 
 // Boxes beside or above one another, with movable borders between them; shares of the room.
 QSplitter* Split(Qt::Orientation orientation, std::initializer_list<QWidget*> boxes, std::initializer_list<int> shares);
+
+// The two labels of a status bar: the project folder on the left, what is on hand on the right.
+void AddStatusWords(QStatusBar* bar, QLabel*& project, QLabel*& state);
 
 // The files opened or saved lately, as entries of a menu.
 class RecentFiles

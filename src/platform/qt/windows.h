@@ -40,5 +40,3 @@ void CentreOnScreen(QWidget& window);
 
 // Fills in Platform for the desktop program.
 void UseDesktopPlatform();
-// What each job of the batch dialog starts.
-void FillJobTable();
