@@ -22,8 +22,6 @@
 static const std::string gallery = std::string(SOURCE_DIR) + "/docs/gallery/windows/";
 static constexpr QSize screenSize(1280, 720);
 
-static Text chosen; // what the chooser answers
-
 static bool real()
 {
     return QGuiApplication::platformName() == "xcb";
@@ -284,47 +282,6 @@ TEST_CASE("pictures of the layout, prompt and description item editors")
     CheckAllDone();
     WindowOf(log, "mnuEdit", "mnuEditPromptFile", "frmPrompt");
     WindowOf(log, "mnuEdit", "mnuEditDesItems", "frmDesItems");
-}
-
-TEST_CASE("pictures of the other tools, each with a sample of the project")
-{
-    struct ToolWindow {
-        const char *entry, *window, *sample;
-    };
-    static constexpr ToolWindow tools[] = {{"mnuvcross", "frmCross", "TC-S1.CRO"},
-                                           {"mnuvfence", "frmFence", "TC-F1.FEN"},
-                                           {"mnuvsoil", "frmSoil", "MW-108.SOI"},
-                                           {"mnuvGIS", "frmGIS", "WIREWICK.GIS"}};
-    QMainWindow* log = LogWith("");
-    Platform.ShowChooser = [] { DialogResult = Scratch("samples/" + chosen); };
-    for (const ToolWindow& tool : tools) {
-        chosen = tool.sample;
-        Then(tool.window, [&tool](QWidget* window) {
-            window->setGeometry(QRect(QPoint(0, 0), QSize(1180, 676))); // as on a screen of that size
-            ClickMenu(window, "mnuFile", "mnuOpen");
-            if (auto* page = window->findChild<QAction*>("mnuLivePreview"))
-                page->trigger();
-            Settle(600);
-            Picture(window, tool.window);
-            ClickMenu(window, "mnuTools", "mnuVeskLog");
-        });
-        ClickMenu(log, "mnuTools", tool.entry);
-        CheckAllDone();
-    }
-}
-
-TEST_CASE("a picture of the editor of the general conversion, with a map open")
-{
-    QMainWindow* log = LogWith("");
-    std::filesystem::copy_file(SOURCE_DIR "/tests/convert/data/general/comma.GCV", Scratch("comma.GCV"));
-    Platform.ShowChooser = [] { DialogResult = Scratch("comma.GCV"); };
-    Then("frmGTGSGenEditor", [](QWidget* window) {
-        ClickMenu(window, "mnuFile", "mnuOpenGTGSConvFile");
-        Picture(window, "frmGTGSGenEditor");
-        ClickMenu(window, "mnuFile", "mnuExit");
-    });
-    ClickMenu(log, "mnuUtilities", "mnuConvertGTGSgeneral");
-    CheckAllDone();
 }
 
 TEST_CASE("pictures of the batch dialog, the screen view and the printing notice")
