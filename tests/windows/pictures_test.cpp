@@ -22,7 +22,6 @@
 static const std::string gallery = std::string(SOURCE_DIR) + "/docs/gallery/windows/";
 static constexpr QSize screenSize(1280, 720);
 
-
 static bool real()
 {
     return QGuiApplication::platformName() == "xcb";
