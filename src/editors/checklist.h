@@ -12,6 +12,7 @@ struct CheckEntry {
     int Row = 1, Column = 1;  // of a grid
     const char* TextBox = ""; // the name of a text box, with the place in its text, line ends as one character
     int Place = 0;
+    const char* GridName = ""; // of a tool beside the log tool: the grid's name, in place of its number
 };
 
 // The warnings of a save, and besides: gaps and overlaps of samples, contacts out of order, depths below the last

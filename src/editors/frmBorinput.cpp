@@ -8,7 +8,9 @@
 #include "editors/hush.h"
 #include "editors/toolcommands.h"
 #include "platform/qt/application.h"
+#include "platform/qt/checkdock.h"
 #include "platform/qt/gridview.h"
+#include "platform/qt/itemlist.h"
 #include "platform/qt/livepane.h"
 #include "platform/qt/memoview.h"
 #include "platform/qt/uitext.h"
@@ -89,15 +91,13 @@ private:
     QWidget* Tabs();
     void AddPreview();
     void AddCheckList();
-    void ShowCheckList();
     void GoTo(const CheckEntry& entry);
     void OrderTabs();
 
     std::unique_ptr<RecentFiles> recent;
     QTabWidget* tabs = nullptr;
     LivePane* live = nullptr;
-    QListWidget* checks = nullptr;
-    QTimer checkSoon;
+    CheckDock* checks = nullptr;
     QLabel* state;
     QLabel* project;
     std::vector<GridView*> grids;
@@ -105,8 +105,6 @@ private:
     std::vector<std::function<void()>> refreshers; // one for each box
     Text shownFile;                                // the boring that the boxes were last fitted to
 };
-
-constexpr int checkPauseMs = 120;
 
 // Words of an office on a label or button, where Qt takes a "&" for the sign of a key.
 QString Caption(const Text& words)
@@ -551,32 +549,6 @@ QWidget* BorinputWindow::ClientBox()
     return whole;
 }
 
-namespace
-{
-// A list of phrases: a click on one, or Enter, chooses it.
-class ItemList : public QListWidget
-{
-public:
-    using QListWidget::QListWidget;
-    std::function<void(const QListWidgetItem&)> OnChoice;
-
-protected:
-    void mouseReleaseEvent(QMouseEvent* event) override
-    {
-        QListWidget::mouseReleaseEvent(event);
-        if (event->button() == Qt::LeftButton && itemAt(event->pos()))
-            OnChoice(*itemAt(event->pos()));
-    }
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && currentItem())
-            OnChoice(*currentItem());
-        else
-            QListWidget::keyPressEvent(event);
-    }
-};
-} // namespace
-
 // The four lists of description items.
 QWidget* BorinputWindow::Items()
 {
@@ -722,58 +694,11 @@ void BorinputWindow::AddPreview()
     findChild<QAction*>("mnuView")->menu()->addAction(toggle);
 }
 
-// What a reviewer would flag, beside the boxes when the user wishes. Each entry leads to where it is to be mended.
 void BorinputWindow::AddCheckList()
 {
-    auto* dock = new QDockWidget("Check List", this);
-    dock->setObjectName("dckCheck");
-    dock->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
-    auto* entries = new ItemList(dock);
-    checks = entries;
-    checks->setObjectName("lstCheck");
-    checks->setAccessibleName("Check list");
-    checks->setWordWrap(true);
-    checks->setSpacing(2);
-    checks->setMinimumSize(200, 60);
-    entries->OnChoice = [this](const QListWidgetItem& item) {
-        const Text words = FromUi(item.text());
-        for (const CheckEntry& entry : CheckBoring()) // where it stands by now
-            if (entry.Words == words)
-                return GoTo(entry);
-    };
-    dock->setWidget(checks);
-    addDockWidget(Qt::RightDockWidgetArea, dock);
-    dock->hide();
-    checkSoon.setSingleShot(true);
-    checkSoon.setInterval(checkPauseMs);
-    connect(&checkSoon, &QTimer::timeout, this, &BorinputWindow::ShowCheckList);
-    connect(dock, &QDockWidget::visibilityChanged, this, [this](bool visible) {
-        if (visible)
-            checkSoon.start();
-    });
-    QAction* toggle = dock->toggleViewAction();
-    toggle->setObjectName("mnuCheckList");
-    toggle->setText("&Check List");
-    toggle->setShortcut(QKeySequence("Ctrl+F7"));
-    findChild<QAction*>("mnuView")->menu()->addAction(toggle);
-}
-
-void BorinputWindow::ShowCheckList()
-{
-    if (!checks->isVisible())
-        return;
-    QStringList words;
-    for (const CheckEntry& entry : CheckBoring())
-        words << ToUi(entry.Words);
-    if (words.isEmpty())
-        words << "Nothing to remark";
-    QStringList shown;
-    for (int row = 0; row < checks->count(); ++row)
-        shown << checks->item(row)->text();
-    if (shown == words)
-        return;
-    checks->clear();
-    checks->addItems(words);
+    checks = new CheckDock(this, findChild<QAction*>("mnuView")->menu());
+    checks->Check = CheckBoring;
+    checks->GoTo = [this](const CheckEntry& entry) { GoTo(entry); };
 }
 
 void BorinputWindow::GoTo(const CheckEntry& entry)
@@ -832,8 +757,7 @@ void BorinputWindow::ShowState()
 {
     setWindowModified(FileChanged == 1);
     live->Soon();
-    if (checks->isVisible())
-        checkSoon.start();
+    checks->Soon();
     const int pages = PagesOfLog();
     state->setText(QString::number(pages) + (pages == 1 ? " page" : " pages"));
 }

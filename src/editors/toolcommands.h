@@ -5,6 +5,7 @@
 // it asks first.
 #pragma once
 
+#include "editors/checklist.h"
 #include "session/controls.h"
 #include "session/platform.h"
 
@@ -31,7 +32,8 @@ struct ToolRecord {
     void (*Label)() = nullptr;        // the words of the boxes, as the office has them
     // Does the work, and puts back all that a save and a run of this tool write.
     void (*Undisturbed)(const std::function<void()>& work) = nullptr;
-    Text (*State)() = nullptr; // a few words for the status bar: how much is there
+    Text (*State)() = nullptr;                    // a few words for the status bar: how much is there
+    std::vector<CheckEntry> (*Check)() = nullptr; // what a reviewer would flag; may be null
     bool titleInFront = false; // the title stands in front of the file's name, and alone while there is none
     // The Edit menu's, where they do not go by the grid last entered; may be null.
     void (*InsertRow)() = nullptr;

@@ -2,6 +2,7 @@
 #include "gis/gistool.h"
 
 #include "editors/hush.h"
+#include "gis/gischeck.h"
 
 // A save gives each layer of the list its column.
 static void Undisturbed(const std::function<void()>& work)
@@ -33,6 +34,7 @@ ToolRecord GisForm = {
     .Label = frmGIS::LabelBoxes,
     .Undisturbed = Undisturbed,
     .State = State,
+    .Check = CheckGisTable,
     .titleInFront = true,
     .InsertRow = frmGIS::mnuInsertRow,
     .DeleteRow = frmGIS::mnuDeleteRow,

@@ -649,6 +649,32 @@ TEST_CASE(
     });
 }
 
+TEST_CASE("the workbench's check list follows the table, and an entry leads to its cell")
+{
+    Visit(LogWindow(), cases[3], [](QWidget* tool) {
+        frmGIS::SSGISInfo.Resize(frmGIS::SSGISInfo.rows, 8);
+        for (const auto& [column, cell] : {std::pair(6, "5"), {7, "10"}, {8, "20"}})
+            frmGIS::SSGISInfo.Cell(2, column) = cell;
+        ClickMenu(tool, "mnuView", "mnuCheckList");
+        Settle(300);
+        auto* list = Find<QListWidget>(tool, "lstCheck");
+        CHECK(list->isVisible());
+        REQUIRE(list->count() == 1);
+        CHECK(list->item(0)->text() == "Nothing to remark");
+        ClickCell(tool, "SSGISInfo", 2, 7);
+        TypeText(tool, "x\n");
+        Settle(300);
+        REQUIRE(list->count() == 1);
+        CHECK(list->item(0)->text().startsWith("Row 2"));
+        ClickCell(tool, "SSGISLayers", 1, 1);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
+        CHECK(frmGIS::SSGISInfo.row == 2);
+        CHECK(frmGIS::SSGISInfo.column == 8);
+        CHECK(QApplication::focusWidget() == Find<QTableView>(tool, "SSGISInfo"));
+        Leave(tool);
+    });
+}
+
 TEST_CASE("what the workbench reads of a boring leaves the log tool's boring alone")
 {
     QMainWindow* log = LogWindow();

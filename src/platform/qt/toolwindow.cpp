@@ -3,6 +3,7 @@
 
 #include "editors/borinput.h"
 #include "editors/livepreview.h"
+#include "platform/qt/checkdock.h"
 #include "platform/qt/gridview.h"
 #include "platform/qt/livepane.h"
 #include "platform/qt/memoview.h"
@@ -16,12 +17,14 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QLabel>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTableView>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -120,7 +123,7 @@ void ToolWindow::FillMenus()
     }
     Entry(file, "mnuExit", "E&xit", QKeySequence("Ctrl+Q"), [this] { ToolExit(tool); });
     FillEditMenu();
-    if (tool.drawJob != 0)
+    if (tool.drawJob != 0 || tool.Check)
         AddMenu(menuBar(), "mnuView", "&View");
     QMenu* utilities = AddMenu(menuBar(), "mnuUtilities", "&Utilities");
     Entry(utilities, "mnuGraphicSetup", "Graphics/System &Set-Up...", {}, [] { Platform.ShowGraphicsSetup(); });
@@ -296,6 +299,24 @@ void ToolWindow::AddPreview()
     Menu("mnuView")->addAction(toggle);
 }
 
+void ToolWindow::AddCheckList()
+{
+    checks = new CheckDock(this, Menu("mnuView"));
+    checks->Check = tool.Check;
+    checks->GoTo = [this](const CheckEntry& entry) { GoTo(entry); };
+    Own(checks->List());
+}
+
+void ToolWindow::GoTo(const CheckEntry& entry)
+{
+    auto* view = findChild<QTableView*>(entry.GridName);
+    const QModelIndex cell = view->model()->index(entry.Row - 1, entry.Column - 1);
+    view->setCurrentIndex(cell);
+    view->scrollTo(cell);
+    activateWindow(); // the list may float in a window of its own
+    view->setFocus();
+}
+
 void ToolWindow::AddStatusBar()
 {
     AddStatusWords(statusBar(), project, state);
@@ -308,6 +329,8 @@ void ToolWindow::ShowState()
     setWindowModified(FileChanged == 1);
     if (live)
         live->Soon();
+    if (checks)
+        checks->Soon();
     state->setText(ToUi(tool.State()));
 }
 
@@ -340,6 +363,8 @@ void ToolWindow::Blocking(QWidget* content)
     setCentralWidget(whole);
     if (tool.drawJob != 0)
         AddPreview();
+    if (tool.Check)
+        AddCheckList();
     for (size_t i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
     resize(QSize(1180, 760).boundedTo(screen()->availableGeometry().size() * 0.94));

@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 
+class CheckDock;
 class GridView;
 class LivePane;
 class QLabel;
@@ -45,6 +46,8 @@ private:
     void FillEditMenu();
     void FillToolsMenu();
     void AddPreview();
+    void AddCheckList();
+    void GoTo(const CheckEntry& entry);
     void AddStatusBar();
     void OnText(void (QPlainTextEdit::*text)(), void (*command)(Grid&));
     void ShowState();
@@ -57,6 +60,7 @@ private:
     bool leaving = false; // the user has been asked; nothing holds the window any more
     std::unique_ptr<RecentFiles> recent;
     LivePane* live = nullptr;
+    CheckDock* checks = nullptr;
     QLabel* state = nullptr;
     QLabel* project = nullptr;
     std::vector<GridView*> views;
