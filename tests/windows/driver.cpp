@@ -144,6 +144,11 @@ void ClickMenu(QWidget* window, const char* menu, const char* entry)
     for (int tries = 0; !popup && tries < 5; ++tries) {
         if (tries > 0)
             Settle(50);
+        // This screen has no window manager that makes the window behind a closed one active again.
+        if (!window->isActiveWindow()) {
+            window->activateWindow();
+            Settle();
+        }
         QTest::mouseClick(bar, Qt::LeftButton, {}, at(bar, menu));
         popup = QApplication::activePopupWidget();
     }
