@@ -1,6 +1,7 @@
 // editor_bench.cpp -- what the log tool costs its user: the start to a usable window against an empty main window of
 // the same library, opening a boring of 100 layers, 80 samples and 1000 lines, a keystroke in it, the page and the
 // check list beside it. On a screen that is not there; in a folder of its own, with the stock files.
+#include "batch/jobtable.h"
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
