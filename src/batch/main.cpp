@@ -392,6 +392,7 @@ static bool OpenTable(const Text& file)
 // A table that cannot be read is left as it is; a boring that cannot be read has its row with its name alone.
 static void AddToGis()
 {
+    SetFolders(FolderName(Asked.Files.front()));
     const Text table = WithEnding(Asked.Gis, ".GIS");
     ClearGISForm();
     if (FileExists(table) && !OpenTable(table))
@@ -405,6 +406,7 @@ static void AddToGis()
 
 static void ExportGis()
 {
+    SetFolders(FolderName(Asked.Files.front()));
     if (!OpenTable(Asked.Files.front()))
         return;
     if (!Asked.ArcView.empty())

@@ -147,8 +147,9 @@ TEST_CASE("the help has a usage line for each job")
                     "[--png DIR [--dpi N]] [--dxf DIR] [--list FILE] FILE.CRO...\n") != std::string::npos);
     CHECK(text.find("stratavue-batch guide [--home DIR] [--pdf FILE] [--png DIR [--dpi N]] [--list FILE]\n") !=
           std::string::npos);
-    CHECK(text.find("stratavue-batch gis-add --gis FILE FILE.BOR...\n") != std::string::npos);
-    CHECK(text.find("stratavue-batch gis-export --arcview OUT | --evs OUT FILE.GIS\n") != std::string::npos);
+    CHECK(text.find("stratavue-batch gis-add --gis FILE [--home DIR] FILE.BOR...\n") != std::string::npos);
+    CHECK(text.find("stratavue-batch gis-export --arcview OUT | --evs OUT [--home DIR] FILE.GIS\n") !=
+          std::string::npos);
     CHECK(text.find("soil             draws the soil analysis tables") != std::string::npos);
     CHECK(text.find("gis-add          adds borings") != std::string::npos);
 }
