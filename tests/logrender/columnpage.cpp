@@ -22,8 +22,7 @@ void StartColumn()
     LogGeometry.BottomSpan = 60;
     LogGeometry.ColumnWidth = 1;
     LegendInUse = 0;
-    for (int slot = 1; slot <= MaxHeadings; ++slot)
-        HeadingWords[slot] = "W" + std::to_string(slot);
+    NumberHeadings();
     WriteBreak("0");
     PageList = PageListRecord();
     canvasstart("P");
@@ -162,6 +161,18 @@ Drawing Drawn(size_t skip)
         }
     }
     return drawing;
+}
+
+void NumberHeadings()
+{
+    for (int slot = 1; slot <= MaxHeadings; ++slot)
+        HeadingWords[slot] = "W" + std::to_string(slot);
+}
+
+void AddLines(std::string& bytes, const std::vector<Text>& lines, size_t count, const Text& empty)
+{
+    for (size_t line = 0; line < count; ++line)
+        bytes += (line < lines.size() ? lines[line] : empty) + "\r\n";
 }
 
 Drawing DrawnFrom(int32_t x, int32_t y, size_t skip)

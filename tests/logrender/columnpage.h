@@ -60,3 +60,7 @@ struct doctest::StringMaker<Drawing> {
         return lines.c_str();
     }
 };
+
+void NumberHeadings(); // heading words "W1" and so on
+// So many lines to a file's bytes: those there are, then empty ones.
+void AddLines(std::string& bytes, const std::vector<Text>& lines, size_t count, const Text& empty);

@@ -5,15 +5,8 @@
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "canvas/screenview.h"
-#include "report/heading.h"
 #include "sections/crossrun.h"
 #include "session/files.h"
-
-static void AddLines(std::string& bytes, const std::vector<Text>& lines, size_t count, const Text& empty)
-{
-    for (size_t line = 0; line < count; ++line)
-        bytes += (line < lines.size() ? lines[line] : empty) + "\r\n";
-}
 
 std::string SectionText::Bytes() const
 {
@@ -52,8 +45,7 @@ BoringText SectionBoring(const Text& name, const BoringText::Rows& layers)
 
 void StartSection()
 {
-    for (int slot = 1; slot <= MaxHeadings; ++slot)
-        HeadingWords[slot] = "W" + std::to_string(slot);
+    NumberHeadings();
     PageList = PageListRecord();
     canvasstart(VCROSS::CrossRun.pageMode);
 }

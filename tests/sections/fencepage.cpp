@@ -5,30 +5,23 @@
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "canvas/screenview.h"
-#include "report/heading.h"
 #include "sections/fencerun.h"
 #include "session/files.h"
 #include "session/session.h"
 
 #include <algorithm>
 
-static void AddRows(std::string& bytes, const std::vector<Text>& rows, size_t count, const Text& empty)
-{
-    for (size_t row = 0; row < count; ++row)
-        bytes += (row < rows.size() ? rows[row] : empty) + "\r\n";
-}
-
 std::string FenceText::Bytes() const
 {
     std::string bytes = "\r\n";
-    AddRows(bytes, Borings, 15, ",,,,,");
+    AddLines(bytes, Borings, 15, ",,,,,");
     bytes += "\r\n";
-    AddRows(bytes, Panels, 20, "");
+    AddLines(bytes, Panels, 20, "");
     bytes += "\r\n";
-    AddRows(bytes, {XStart, XEnd, XInc, XUnit, YStart, VStart, VEnd, VInc, VUnit, ""}, 10, "");
-    AddRows(bytes, {MainTitle, Title1, Title2, Title3, Layers, Direction}, 6, "");
-    AddRows(bytes, Legend, 8, ";");
-    AddRows(bytes, Tail, Tail.size(), "");
+    AddLines(bytes, {XStart, XEnd, XInc, XUnit, YStart, VStart, VEnd, VInc, VUnit, ""}, 10, "");
+    AddLines(bytes, {MainTitle, Title1, Title2, Title3, Layers, Direction}, 6, "");
+    AddLines(bytes, Legend, 8, ";");
+    AddLines(bytes, Tail, Tail.size(), "");
     return bytes;
 }
 
@@ -55,8 +48,7 @@ BoringText FenceBoring(const Text& name, const BoringText::Rows& layers)
 
 void StartFence(const FenceText& fence)
 {
-    for (int slot = 1; slot <= MaxHeadings; ++slot)
-        HeadingWords[slot] = "W" + std::to_string(slot);
+    NumberHeadings();
     REQUIRE(ReadFence(fence));
     PageList = PageListRecord();
     canvasstart(VCROSS::CrossRun.pageMode);
