@@ -49,9 +49,11 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <QWindow>
 #include <algorithm>
 #include <functional>
 #include <memory>
+#include <utility>
 
 namespace
 {
@@ -66,6 +68,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* box, QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -89,6 +92,7 @@ private:
     QWidget* Items();
     QWidget* Head();
     QWidget* Tabs();
+    void MakeTabs();
     void AddPreview();
     void AddCheckList();
     void GoTo(const CheckEntry& entry);
@@ -103,6 +107,7 @@ private:
     std::vector<GridView*> grids;
     std::vector<std::pair<QObject*, int>> numbers; // the ActiveBox of each box
     std::vector<std::function<void()>> refreshers; // one for each box
+    std::vector<std::function<void()>> unmade;     // what the tabs behind the first one will hold
     Text shownFile;                                // the boring that the boxes were last fitted to
 };
 
@@ -112,12 +117,11 @@ QString Caption(const Text& words)
     return ToUi(words).replace("&", "&&");
 }
 
-QWidget* Tab(QWidget* content)
+QWidget* Tab()
 {
     auto* tab = new QWidget;
     auto* layout = new QVBoxLayout(tab);
     layout->setContentsMargins(12, 12, 12, 12);
-    layout->addWidget(content);
     return tab;
 }
 } // namespace
@@ -147,7 +151,6 @@ BorinputWindow::BorinputWindow()
     setCentralWidget(boring);
     AddPreview();
     AddCheckList();
-    OrderTabs();
     for (const int step : {1, -1}) {
         auto* keys = new QShortcut(QKeySequence(step > 0 ? "Ctrl+PgDown" : "Ctrl+PgUp"), this);
         connect(keys, &QShortcut::activated, this,
@@ -257,6 +260,7 @@ QAction* BorinputWindow::Entry(QMenu* menu, const char* name, const char* captio
 // outlives it.
 void BorinputWindow::Run(const std::function<void()>& command)
 {
+    MakeTabs();
     for (GridView* grid : grids)
         grid->FinishEdit();
     struct Afterwards {
@@ -313,6 +317,8 @@ void BorinputWindow::Activates(QWidget* box, int number)
 
 bool BorinputWindow::eventFilter(QObject* box, QEvent* event)
 {
+    if (box == windowHandle() && event->type() == QEvent::Expose) // with this event the window is painted
+        QTimer::singleShot(0, this, &BorinputWindow::MakeTabs);
     if (event->type() == QEvent::FocusIn)
         for (const auto& [known, number] : numbers)
             if (known == box)
@@ -594,7 +600,6 @@ QWidget* BorinputWindow::Tabs()
     tabs->setFocusPolicy(Qt::NoFocus);
     tabs->setDocumentMode(false);
 
-    // The boxes are made in the order in which Tab goes through them.
     QWidget* client = ClientBox();
     QWidget* info = GridBox("SSInfo", 1);
     QWidget* scale = GridBox("SSScale", 2);
@@ -603,50 +608,82 @@ QWidget* BorinputWindow::Tabs()
     total->setObjectName("lblWidthtot");
     Labelled(25, "Total Width:", [total](const Text& words) { total->setText(ToUi(words + " " + lblWidthtot)); });
     parts->layout()->addWidget(total);
-    tabs->addTab(
-        Tab(Split(Qt::Horizontal,
-                  {Split(Qt::Vertical, {client, info}, {2, 3}), Split(Qt::Vertical, {scale, parts}, {2, 3})}, {3, 2})),
-        "");
+    QWidget* general = Tab();
+    general->layout()->addWidget(
+        Split(Qt::Horizontal,
+              {Split(Qt::Vertical, {client, info}, {2, 3}), Split(Qt::Vertical, {scale, parts}, {2, 3})}, {3, 2}));
+    tabs->addTab(general, "");
     Labelled(1, "General", [this](const Text& words) { tabs->setTabText(0, Caption(words)); });
 
-    QWidget* lith = GridBox("SSLith", 8);
-    QWidget* des = MemoBox("MemoDes", 72, "Descriptions", MemoDes, 1);
-    QWidget* items = Items();
-    QWidget* formations = GridBox("SSFormations", 15);
-    tabs->addTab(Tab(Split(Qt::Horizontal,
-                           {Split(Qt::Vertical, {lith, formations}, {3, 2}), Split(Qt::Vertical, {des, items}, {4, 1})},
-                           {2, 3})),
-                 "Lithology");
-
-    QWidget* samples = GridBox("SSSamp", 7);
-    QWidget* sampleSetup = GridBox("SSP1Setup", 4);
-    Noted(sampleSetup, 33, "[Text/Sm. Graph Column Headings]");
-    tabs->addTab(Tab(Split(Qt::Vertical, {samples, sampleSetup}, {3, 2})), "Samples");
-
-    QWidget* params = GridBox("SSPar", 6);
-    QWidget* paramSetup = GridBox("SSP2Setup", 5);
-    Noted(paramSetup, 44, "[Text/Sm. Graph Column Headings]");
-    tabs->addTab(Tab(Split(Qt::Vertical, {params, paramSetup}, {3, 2})), "Parameters");
-
-    QWidget* well = GridBox("SSGenWellInfo", 10);
-    QWidget* outer = GridBox("SSOuterLay", 11);
-    QWidget* inner = GridBox("SSInnerLay", 12);
-    QWidget* construction = GridBox("SSW", 13);
-    QWidget* wellNotes = MemoBox("MemoWcon", 112, "Well Construction Notes", MemoWcon, 3);
-    tabs->addTab(Tab(Split(Qt::Horizontal,
-                           {well, Split(Qt::Vertical, {outer, inner}, {1, 1}),
-                            Split(Qt::Vertical, {construction, wellNotes}, {1, 1})},
-                           {3, 5, 4})),
-                 "Well");
-
-    QWidget* remarks = MemoBox("MemoRemarks", 127, "Remarks", MemoRemarks, 5);
-    QWidget* notes = MemoBox("MemoBottNotes", 113, "General Notes:", MemoBottNotes, 7);
-    tabs->addTab(Tab(Split(Qt::Horizontal, {remarks, notes}, {2, 3})), "Remarks and Notes");
-
-    QWidget* cuttings = GridBox("SSCuttings", 14);
-    QWidget* legend = GridBox("SSLegend", 16);
-    tabs->addTab(Tab(Split(Qt::Horizontal, {cuttings, legend}, {1, 1})), "Cuttings and Legend");
+    const auto add = [this](const char* title, const std::function<QWidget*()>& content) {
+        QWidget* tab = Tab();
+        tabs->addTab(tab, title);
+        unmade.push_back([tab, content] { tab->layout()->addWidget(content()); });
+    };
+    add("Lithology", [this] {
+        QWidget* lith = GridBox("SSLith", 8);
+        QWidget* des = MemoBox("MemoDes", 72, "Descriptions", MemoDes, 1);
+        QWidget* items = Items();
+        QWidget* formations = GridBox("SSFormations", 15);
+        return Split(Qt::Horizontal,
+                     {Split(Qt::Vertical, {lith, formations}, {3, 2}), Split(Qt::Vertical, {des, items}, {4, 1})},
+                     {2, 3});
+    });
+    add("Samples", [this] {
+        QWidget* samples = GridBox("SSSamp", 7);
+        QWidget* setup = GridBox("SSP1Setup", 4);
+        Noted(setup, 33, "[Text/Sm. Graph Column Headings]");
+        return Split(Qt::Vertical, {samples, setup}, {3, 2});
+    });
+    add("Parameters", [this] {
+        QWidget* params = GridBox("SSPar", 6);
+        QWidget* setup = GridBox("SSP2Setup", 5);
+        Noted(setup, 44, "[Text/Sm. Graph Column Headings]");
+        return Split(Qt::Vertical, {params, setup}, {3, 2});
+    });
+    add("Well", [this] {
+        QWidget* well = GridBox("SSGenWellInfo", 10);
+        QWidget* outer = GridBox("SSOuterLay", 11);
+        QWidget* inner = GridBox("SSInnerLay", 12);
+        QWidget* construction = GridBox("SSW", 13);
+        QWidget* notes = MemoBox("MemoWcon", 112, "Well Construction Notes", MemoWcon, 3);
+        return Split(
+            Qt::Horizontal,
+            {well, Split(Qt::Vertical, {outer, inner}, {1, 1}), Split(Qt::Vertical, {construction, notes}, {1, 1})},
+            {3, 5, 4});
+    });
+    add("Remarks and Notes", [this] {
+        QWidget* remarks = MemoBox("MemoRemarks", 127, "Remarks", MemoRemarks, 5);
+        QWidget* notes = MemoBox("MemoBottNotes", 113, "General Notes:", MemoBottNotes, 7);
+        return Split(Qt::Horizontal, {remarks, notes}, {2, 3});
+    });
+    add("Cuttings and Legend", [this] {
+        QWidget* cuttings = GridBox("SSCuttings", 14);
+        QWidget* legend = GridBox("SSLegend", 16);
+        return Split(Qt::Horizontal, {cuttings, legend}, {1, 1});
+    });
+    connect(tabs, &QTabWidget::currentChanged, this, &BorinputWindow::MakeTabs);
     return tabs;
+}
+
+// The tabs behind the first are filled when the window has been painted, or sooner where a command needs them: their
+// twelve tables took a fifth of the start, and nobody sees them yet.
+void BorinputWindow::MakeTabs()
+{
+    if (unmade.empty())
+        return;
+    for (const std::function<void()>& make : std::exchange(unmade, {}))
+        make();
+    for (const std::function<void()>& refresh : refreshers)
+        refresh();
+    OrderTabs();
+    Application::ShowIcon();
+}
+
+void BorinputWindow::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    windowHandle()->installEventFilter(this);
 }
 
 // The page as it stands in the boxes, beside them when the user wishes. A click on a layer leads to its row.
@@ -679,6 +716,7 @@ void BorinputWindow::AddPreview()
         place->setText(page.Page == 0 ? QString() : QString("Page %1 of %2").arg(page.Page).arg(page.Pages));
     };
     live->OnLayer = [this](int row) {
+        MakeTabs();
         auto* grid = findChild<QTableView*>("SSLith");
         tabs->setCurrentIndex(1);
         grid->setCurrentIndex(grid->model()->index(row - 1, 0));
@@ -703,6 +741,7 @@ void BorinputWindow::AddCheckList()
 
 void BorinputWindow::GoTo(const CheckEntry& entry)
 {
+    MakeTabs();
     QWidget* box = entry.TextBox[0] ? findChild<QWidget*>(entry.TextBox) : nullptr;
     for (const auto& [known, number] : numbers)
         if (!box && number == entry.Box)

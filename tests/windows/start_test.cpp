@@ -43,6 +43,34 @@ TEST_CASE("a second start asks for nothing but the click on the title box")
     CHECK(log->windowTitle().toStdString() == Scratch("samples") + " - VeskLog - Boring Log Diagram[*]");
 }
 
+TEST_CASE("the tabs behind the first are filled by a command that comes before the first painting")
+{
+    UseDesktop();
+    WriteScratch("device.cfg", Lines({Scratch("samples"), "0,0", "Arial"}));
+    WriteScratch("first.txt", "yes");
+    static bool before, after;
+    Platform.ShowLogWindow = [] {
+        ShowLogWindow();
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (window->objectName() == "frmBorinput") {
+                before = window->findChild<QTableView*>("SSLegend");
+                window->findChild<QAction*>("mnuNew")->trigger();
+                after = window->findChild<QTableView*>("SSLegend");
+            }
+    };
+    Then("frmAbout5", Click);
+    Main();
+    CheckAllDone();
+    CHECK_FALSE(before);
+    CHECK(after);
+}
+
+TEST_CASE("the tabs behind the first are filled when the window has been painted")
+{
+    QMainWindow* log = LogWindow();
+    CHECK(Find<QTableView>(log, "SSLegend")->model()->rowCount() > 0);
+}
+
 TEST_CASE("a key closes the title box too")
 {
     UseDesktop();

@@ -55,11 +55,15 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName("Stratavue");
     setDesktopFileName("stratavue");
+    setQuitOnLastWindowClosed(false); // the log window ends the program, not the last box that closes
+    Dress();
+}
+
+void Application::ShowIcon()
+{
     // An installed program's is the desktop's.
     const QString icon = applicationDirPath() + "/stratavue.png";
     setWindowIcon(QFile::exists(icon) ? QIcon(icon) : QIcon::fromTheme("stratavue"));
-    setQuitOnLastWindowClosed(false); // the log window ends the program, not the last box that closes
-    Dress();
 }
 
 bool Application::notify(QObject* receiver, QEvent* event)

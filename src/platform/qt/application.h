@@ -7,6 +7,7 @@ class Application : public QApplication
 {
 public:
     Application(int& argc, char** argv);
+    static void ShowIcon(); // on all windows; the picture is read when the first one stands, which it held up
     bool notify(QObject* receiver, QEvent* event) override;
 };
 
