@@ -356,7 +356,7 @@ static void Tick()
 // ---- Layers, screens, water: from the right edge at the ground
 
 // Code by code down the column, in individual columns each with its pattern. A layer that ends at or above the ground
-// is left out, but the next one still begins where it ends.
+// is left out: the next one begins at the ground, as thick as from the end of the one left out.
 static void LayerCodes(const Column& column)
 {
     const int i = column.i;

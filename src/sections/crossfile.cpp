@@ -62,6 +62,7 @@ static void ReadBorings(LineReader& in)
 
 void OpenCrossFile()
 try {
+    CrossData.rowCount = 0; // a file that fails before its borings shows none
     LineReader in(frmCross::FileName);
     ReadBorings(in);
     in.Skip(1);

@@ -44,7 +44,7 @@ void OpenCrossFile(); // the file into CrossData, which has been cleared; a shor
 // The boxes into CrossData, and that into the file. A distance beyond the end of the horizontal scale is told, once,
 // and saved. False: nothing was written, and the report has told why.
 bool SaveCrossFile();
-// Kept: not all that a file can hold. The options line, borings above 15 and legend rows above 8 stay as an earlier
-// file left them, and a shorter file is saved with them.
+// Kept: not all that a file can hold. The options line, the number of borings, borings above 15 and legend rows above 8
+// stay as an earlier file left them, and a shorter file is saved with them.
 void ClearCrossArrays();
 void FillCrossForm(); // CrossData into the boxes, and the form's title by FileName

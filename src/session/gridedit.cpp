@@ -146,16 +146,22 @@ void FillDown(Grid& grid)
     });
 }
 
-// What stands beside the rows makes room for one at the current row, or closes over it.
+// What stands beside the rows makes room for one at the current row, or closes over it. It goes on below the grid's
+// last row, for the rows that the grid may grow to; what an earlier document left there does not come up with a row
+// deleted.
 static void MoveBeside(Grid& grid, bool in)
 {
     if (!grid.beside)
         return;
     std::vector<Text> cells = grid.beside();
     const auto at = cells.begin() + std::ptrdiff_t(grid.row - 1) * grid.besideWidth;
-    const auto fresh = in ? cells.end() - grid.besideWidth : at;
-    std::fill(fresh, fresh + grid.besideWidth, Text());
-    std::rotate(at, in ? fresh : at + grid.besideWidth, cells.end());
+    if (in) {
+        std::rotate(at, cells.end() - grid.besideWidth, cells.end());
+        std::fill(at, at + grid.besideWidth, Text());
+    } else {
+        std::fill(at, at + grid.besideWidth, Text());
+        std::rotate(at, at + grid.besideWidth, cells.begin() + std::ptrdiff_t(grid.rows) * grid.besideWidth);
+    }
     grid.putBeside(cells);
 }
 

@@ -262,6 +262,23 @@ TEST_CASE("a file that is not there is told as error 53")
     CHECK(Messages[0].words == "Error 53 in OpenCrossFile.  Please contact Norvane");
 }
 
+TEST_CASE("behind a long section a file that is not there, or is empty, shows no boring of it")
+{
+    std::string bytes = " 20 \r\n";
+    for (int row = 1; row <= 20; ++row)
+        bytes += std::to_string(row) + "\r\n\r\n\r\n\r\n\r\n\r\n\r\n";
+    WriteScratch("A.CRO", bytes);
+    WriteScratch("EMPTY.CRO", "");
+    for (const char* name : {"NONE.CRO", "EMPTY.CRO"}) {
+        Open("A.CRO");
+        CHECK(SS1.rows == 20);
+        ClearCrossArrays();
+        Open(name);
+        CHECK(SS1.rows == 15);
+        CHECK(SS1.DataRowCount() == 0);
+    }
+}
+
 TEST_CASE("more than fifty borings are told as error 9, and fifty are shown")
 {
     std::string bytes = "40000\r\n";

@@ -69,6 +69,22 @@ TEST_CASE("offset, label and inclination of a boring stay with its row when rows
     CHECK(saved.Line() == "L3|93|13");
 }
 
+TEST_CASE("a row that Delete Row brings up from below the grid has no offset or label of an earlier section")
+{
+    OpenInclined();
+    for (int column = 6; column <= 9; ++column)
+        CrossData.boringCells[16][column] = "old";
+    frmCross::SS1.row = 3;
+    frmCross::mnuDeleteRow();
+    CHECK(HiddenOf(15) == "///");
+    CHECK(HiddenOf(16) == "old/old/old/old");
+    frmCross::SS1.row = 15;
+    frmCross::mnuInsertRow();
+    CHECK(frmCross::SS1.rows == 16);
+    CHECK(HiddenOf(15) == "///");
+    CHECK(HiddenOf(16) == "///");
+}
+
 TEST_CASE("a section's form takes 50 borings, and at 50 Insert Row does nothing")
 {
     LoadTool(CrossForm);
