@@ -216,8 +216,8 @@ static void TakeColumn(Slots<Text, Rows>& lines, const Grid& grid)
 template <int Rows>
 static void TakeLineBuffer(Slots<Text, Rows>& lines, int32_t& count)
 {
-    count = LineCount;
-    for (int row = 1; row <= count; ++row)
+    count = std::min<int32_t>(LineCount, Rows); // what the record holds, also where the rest makes it fail
+    for (int row = 1; row <= LineCount; ++row)
         lines[row] = LineBuffer[row];
 }
 
@@ -278,8 +278,8 @@ static void TakeBottNotes(bool checked)
         BoringData.BottNotes[i] = i <= LineCount ? LineBuffer[i] : "";
 }
 
-// The boxes into the record. False: refused, and a box has told why. Unchecked, nothing is told and nothing refused; a
-// text of more lines than the record holds is failure 9 then.
+// The boxes into the record. False: refused, and a box has told why. Unchecked, nothing is told and nothing refused:
+// more well notes or remarks than the record holds are failure 9 then, descriptions and general notes are cut.
 static bool TakeBoxes(bool checked)
 {
     BoringData.Name = frmBorinput::Text1;

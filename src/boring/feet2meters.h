@@ -8,5 +8,5 @@
 Text cv2m(const Text& text);
 
 // The boxes and BoringData, which is taken from the boxes first. Sets FileChanged. Nothing stops a second conversion.
-// A text of more lines than the record holds is failure 9, and nothing is converted then.
+// More lines of descriptions, well notes or remarks than the record holds are failure 9, and nothing is converted then.
 void convertfeet2meters();

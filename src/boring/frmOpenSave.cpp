@@ -162,7 +162,7 @@ OpenSave::OpenSave(QWidget* parent) : QDialog(parent)
         }
 
     drive1->OnFolder = dir1->OnFolder = [this](const Text& folder) { GoTo(folder); };
-    connect(fileText, &QLineEdit::textChanged, this, [](const QString& words) { Dialog.fileText = FromUi(words); });
+    connect(fileText, &QLineEdit::textChanged, this, [](const QString& words) { Dialog.fileText = LineFromUi(words); });
     connect(file1, &QListWidget::itemSelectionChanged, this, [this] {
         if (!file1->selectedItems().isEmpty())
             TakeFile(file1->selectedItems().first());

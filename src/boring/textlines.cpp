@@ -69,6 +69,7 @@ try {
             LineBuffer[lines] = closed.substr(start, end - start);
         start = end + CrLf.size();
     }
+    LineCount = int16_t(std::min<int>(lines, INT16_MAX)); // the lines are there, whatever becomes of their number
     LineCount = RoundInt16(lines);
     if (LineCount <= maxLines)
         while (LineCount > 0 && IsBlank(LineBuffer[LineCount]))

@@ -19,7 +19,7 @@ extern Text lastDir;          // the folder shown in the dialog
 extern int16_t progressValue, progressTotal;
 
 // What each job starts once log.mas is written, filled in by the start of a program: this folder is below the
-// renderers. A job of the table that is not built into the program has no entry.
+// renderers. In a test a job may have no entry.
 extern Slots<void (*)(), MaxJobs> JobTable;
 // The renderer of intro pages, which jobs 1 and 2 start when introType is not 0.
 extern void (*IntroPages)();

@@ -92,9 +92,6 @@ DrawPrint::DrawPrint(QWidget* parent) : QDialog(parent)
     auto* optionBor = Add<QRadioButton>("OptionBor", "Boring Diagram");
     auto* optionIntro = Add<QRadioButton>("OptionIntro", "Intro Page, Type 1");
     auto* optionIntro2 = Add<QRadioButton>("OptionIntro2", "Intro Page, Type 2");
-    // The intro pages come with their renderer.
-    optionIntro->setEnabled(IntroPages != nullptr);
-    optionIntro2->setEnabled(IntroPages != nullptr);
     auto* choices = new QVBoxLayout(frame2);
     for (QRadioButton* option : {optionBor, optionIntro, optionIntro2})
         choices->addWidget(option);
@@ -176,7 +173,7 @@ DrawPrint::DrawPrint(QWidget* parent) : QDialog(parent)
             [](bool on) { Dialog.ReportOption = on ? 2 : Dialog.ReportOption; });
     connect(optionAll, &QRadioButton::toggled, this, [](bool on) { Dialog.AllPages = on; });
     connect(text1, &QLineEdit::textEdited, this, [optionPage](const QString& words) {
-        Dialog.Text1 = FromUi(words);
+        Dialog.Text1 = LineFromUi(words);
         optionPage->setChecked(true);
     });
     Folders();

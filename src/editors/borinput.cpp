@@ -207,8 +207,10 @@ void frmBorinput::mnuImport()
     Platform.ShowChooser();
     if (DialogResult.empty())
         return;
+    const Text before = MemoDes.text;
     ImportDesc();
-    FileChanged = 1;
+    if (MemoDes.text != before)
+        FileChanged = 1;
 }
 
 void frmBorinput::mnuPreview()

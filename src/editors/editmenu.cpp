@@ -1,11 +1,12 @@
 // editmenu.cpp -- the Edit menu of the log tool, by the box last entered.
 #include "boring/boringboxes.h"
 #include "editors/borinput.h"
+#include "editors/fillform.h"
 #include "session/gridedit.h"
 #include "session/platform.h"
 #include "session/session.h"
 
-static constexpr int scaleBox = 2, textBoxes = 9, wellBox = 10;
+static constexpr int scaleBox = 2, reportBox = 3, textBoxes = 9, wellBox = 10;
 
 // A command of the clipboard. Text boxes know theirs by their keys only.
 static void OnSelected(void (*command)(Grid&), const char* wordsForTextBoxes)
@@ -19,11 +20,15 @@ static void OnSelected(void (*command)(Grid&), const char* wordsForTextBoxes)
 static void OnRow(void (*command)(Grid&))
 {
     if (ActiveBox == scaleBox || ActiveBox == wellBox)
-        MsgBox("It is not possible to insert or delete rows in this box.");
+        MsgBox("It is not possible to insert or delete rows in this box.", OkOnly, Exclamation);
     else if (ActiveBox == textBoxes)
-        MsgBox("This function does not apply to text boxes.");
-    else if (Grid* grid = frmBorinput::BoxGrid(ActiveBox))
+        MsgBox("This function does not apply to text boxes.", OkOnly, Exclamation);
+    else if (Grid* grid = frmBorinput::BoxGrid(ActiveBox)) {
+        const std::vector<Text> before = grid->cells;
         command(*grid);
+        if (ActiveBox == reportBox && grid->cells == before) // else the change has done it
+            BorTextChange();
+    }
 }
 
 static void OnGrid(void (*command)(Grid&))

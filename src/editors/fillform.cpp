@@ -228,7 +228,7 @@ try {
     LineReader in(cmbLayFile);
     LayoutData.Orientation = RoundInt16(TextNumber(in.Line()));
     for (int i = 1; i <= 12; ++i) {
-        const double code = TextNumber(in.Line());
+        const int16_t code = RoundInt16(TextNumber(in.Line()));
         if (code == 10)
             NarrowNotes = true;
         else if (code == 11)

@@ -418,7 +418,7 @@ QLineEdit* BorinputWindow::Line(const char* name, Text& text)
     auto* line = new QLineEdit(this);
     line->setObjectName(name);
     connect(line, &QLineEdit::textEdited, this, [this, line, &text](const QString& typed) {
-        text = FromUi(typed);
+        text = LineFromUi(typed);
         if (ToUi(text) != typed) {
             const int at = line->cursorPosition();
             line->setText(ToUi(text));
@@ -446,7 +446,7 @@ QComboBox* BorinputWindow::LayoutBox()
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr);
     connect(box->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& typed) {
-        cmbLayFile = FromUi(typed);
+        cmbLayFile = LineFromUi(typed);
         LayoutFileChange();
         Typed();
     });
@@ -467,8 +467,12 @@ QComboBox* BorinputWindow::LayoutBox()
             box->clear();
             box->addItems(names);
         }
-        if (box->currentText() != ToUi(cmbLayFile)) {
-            box->setEditText(ToUi(cmbLayFile));
+        // With the place in the list, or leaving the box would count as a choice from the list.
+        const QString chosen = ToUi(cmbLayFile);
+        if (const int place = box->findText(chosen); place >= 0)
+            box->setCurrentIndex(place);
+        if (box->currentText() != chosen) {
+            box->setEditText(chosen);
             box->lineEdit()->setCursorPosition(0);
         }
     });
@@ -486,7 +490,7 @@ QWidget* BorinputWindow::Head()
         auto* label = new QLabel(head);
         label->setBuddy(line);
         Labelled(slot, caption, [label, line](const Text& words) {
-            label->setText(Caption(words) + ":");
+            label->setText(Caption(words));
             line->setAccessibleName(ToUi(words));
         });
         layout->addWidget(label, 0, 2 * column);
@@ -517,17 +521,19 @@ QWidget* BorinputWindow::ClientBox()
     client->setObjectName("txtClient");
     client->setTabChangesFocus(true);
     Activates(client, 9);
-    const auto shown = [] { return ToUi(txtClient).remove('\r'); };
-    connect(client, &QPlainTextEdit::textChanged, this, [this, client, shown] {
-        if (client->toPlainText() == shown())
+    connect(client, &QPlainTextEdit::textChanged, this, [this, client] {
+        const Text typed = TextOf(*client);
+        if (typed == txtClient)
             return;
-        txtClient = FromUi(client->toPlainText().replace("\n", "\r\n"));
+        txtClient = typed;
         FileChanged = 1;
         ShowState();
     });
-    refreshers.push_back([client, shown] {
-        if (client->toPlainText() != shown())
-            client->setPlainText(shown());
+    refreshers.push_back([client] {
+        if (TextOf(*client) == txtClient)
+            return;
+        const QSignalBlocker shownAndNotTyped(client);
+        client->setPlainText(ToUi(txtClient).remove('\r'));
     });
     QWidget* whole = Titled(client, [] { return PromptLabel(2, "Client/Project Information"); });
     auto* styles = new QHBoxLayout;

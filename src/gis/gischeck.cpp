@@ -28,10 +28,11 @@ std::vector<CheckEntry> CheckGisTable()
             const auto name = [](int layer) { return frmGIS::SSGISInfo.headings[size_t(GisColumns) + layer]; };
             const Text bottom(Trim(cell));
             CheckEntry entry;
-            entry.Words = "Row " + PlainNumber(row) + ", " + frmGIS::SSGISInfo.Cell(row, GisBoringName) + ": " +
-                          name(k) + " ends at " + bottom + ", but " + name(k - 1) +
-                          " above it tells no depth, so it is drawn from the ground on.  Write its top too, as in " +
-                          "10-" + bottom + ".";
+            entry.Words =
+                "Row " + PlainNumber(row) + ", " + frmGIS::SSGISInfo.Cell(row, GisBoringName) + ": " + name(k) +
+                " ends at " + bottom + ", but " + name(k - 1) +
+                " above it tells no depth, so it is drawn from the ground on.  Write its top before it: top-" + bottom +
+                ".";
             entry.GridName = "SSGISInfo";
             entry.Row = row;
             entry.Column = GisColumns + k;

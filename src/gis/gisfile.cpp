@@ -332,6 +332,7 @@ void frmGIS::Command2()
     SetLayerColumns(GisData.layerCount);
     for (int k = 1; k <= GisData.layerCount; ++k)
         SSGISInfo.headings[size_t(GisColumns) + k] = GisData.layerName[k] = SSGISLayers.Cell(k, 1);
+    ForgetSteps(SSGISInfo); // columns put in before belong to the list as it was
 }
 
 void frmGIS::Command3()
@@ -345,6 +346,7 @@ void frmGIS::Command3()
         SSBoringData.Cell(row, 1) = boringLithology.depth[row];
         SSBoringData.Cell(row, 2) = boringLithology.code[row];
     }
+    ForgetSteps(SSBoringData);
 }
 
 void frmGIS::mnuInsertRow()

@@ -3,13 +3,23 @@
 
 #include "editors/hush.h"
 #include "gis/gischeck.h"
+#include "session/files.h"
+#include "session/savename.h"
 
-// A save gives each layer of the list its column.
 static void Undisturbed(const std::function<void()>& work)
 {
     const Kept form(GisData);
-    const Kept table(frmGIS::SSGISInfo);
     work();
+}
+
+// A name may be typed without its ending; it is complete from then on, or a save would write a second file that no
+// reader of tables finds.
+static void Open()
+{
+    using frmGIS::FileName;
+    if (const Text whole = WithEnding(FileName, ".gis"); FileExists(whole))
+        FileName = whole;
+    OpenGISFile(FileName);
 }
 
 static Text State()
@@ -27,7 +37,7 @@ ToolRecord GisForm = {
     .FileName = frmGIS::FileName,
     .Title = frmGIS::Title,
     .grids = {&frmGIS::SSGISLayers, &frmGIS::SSBoringData, &frmGIS::SSGISInfo},
-    .OpenFile = [] { OpenGISFile(frmGIS::FileName); },
+    .OpenFile = Open,
     .SaveFile = [] { return SaveGISFile(frmGIS::FileName); },
     .ClearArrays = ClearGISForm, // the columns of the table go with the layers
     .FillForm = FillGISForm,

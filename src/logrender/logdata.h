@@ -108,9 +108,9 @@ struct LogGeometryRecord {
     int16_t ColumnNumber = 0;       // the report part in progress
     bool GraphicFlag = false;       // drawuscs: patterns, not letters
     bool GraphicSampleFlag = false; // drawsamp: condition boxes, not numbers
-    float WellScale = 0;            // drawgw: 0.6 large, 0 small
-    Slots<int16_t, 4> ParamNumber;  // parameters of a graph column
-    Text GraphList;                 // drawmpgraph: what stands behind "MPG"
+    float WellScale = 0; // of drawgw: 0.6 for the large form, 0 for the small one; it adds to it for the third well on
+    Slots<int16_t, 4> ParamNumber; // parameters of a graph column
+    Text GraphList;                // drawmpgraph: what stands behind "MPG"
 };
 extern LogGeometryRecord LogGeometry;
 

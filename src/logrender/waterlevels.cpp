@@ -27,7 +27,7 @@ bool VLOG::wateronpage(const WaterMark& mark, double& depth)
     const Text& cell = wellcell(mark.Cell);
     const float below = TextNumber(cell) - stickup();
     depth = double(below) - double(LogPage.PageStartDepth);
-    return !IsBlank(cell) && below > LogPage.PageStartDepth && below < LogPage.PageEndDepth;
+    return !cell.empty() && below > LogPage.PageStartDepth && below < LogPage.PageEndDepth;
 }
 
 // 0.2 inch wide.

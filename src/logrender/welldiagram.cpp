@@ -77,7 +77,7 @@ static double Lift(const Layer& layer)
     return TextNumber(layer.LabelCell) * 0.1 * double(LogGeometry.DepthPerInch);
 }
 
-// A leader line from the pen and the depth at its end, the small form's label.
+// A leader line from x at the depth, and the depth at its end: the small form's label.
 static void DepthLabel(double x, float depth, double leader)
 {
     moveto(x, -BelowStart(depth));

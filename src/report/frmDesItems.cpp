@@ -54,7 +54,7 @@ void ShowDesItemsWindow()
     all->addLayout(buttons);
     QObject::connect(ok, &QPushButton::clicked, &window, [&window, &boxes] {
         for (int i = 1; i <= 4; ++i)
-            frmDesItems::Box[i] = FromUi(boxes[i]->toPlainText().replace("\n", "\r\n"));
+            frmDesItems::Box[i] = TextOf(*boxes[i]);
         if (frmDesItems::Command1())
             window.accept();
     });

@@ -37,7 +37,7 @@ QLineEdit* DescLegendWindow::Box(QGroupBox* group, const QString& name, const QS
     auto* box = new QLineEdit(ToUi(text), group);
     box->setObjectName(name);
     box->setAccessibleName(accessible);
-    takers.push_back([box, &text] { text = FromUi(box->text()); });
+    takers.push_back([box, &text] { text = LineFromUi(box->text()); });
     return box;
 }
 

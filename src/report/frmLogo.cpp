@@ -19,10 +19,10 @@ using frmLogo::Dialog;
 // The boxes back into the record.
 static void TakeBoxes(const QDialog& window)
 {
-    Dialog.Text1 = FromUi(window.findChild<QPlainTextEdit*>("Text1")->toPlainText().replace("\n", "\r\n"));
+    Dialog.Text1 = TextOf(*window.findChild<QPlainTextEdit*>("Text1"));
     Dialog.graphic = window.findChild<QRadioButton*>("Option1")->isChecked();
-    Dialog.fileText = FromUi(window.findChild<QLineEdit*>("Text2")->text());
-    Dialog.resolutionText = FromUi(window.findChild<QLineEdit*>("Text3")->text());
+    Dialog.fileText = LineFromUi(window.findChild<QLineEdit*>("Text2")->text());
+    Dialog.resolutionText = LineFromUi(window.findChild<QLineEdit*>("Text3")->text());
 }
 
 void ShowLogoWindow()

@@ -119,7 +119,7 @@ QWidget* PrinterSetup::FontBox()
 {
     auto* box = new QGroupBox("Font and Printer", this);
     font = Line("Text1", "Font");
-    connect(font, &QLineEdit::textEdited, this, [](const QString& words) { Dialog.fontText = FromUi(words); });
+    connect(font, &QLineEdit::textEdited, this, [](const QString& words) { Dialog.fontText = LineFromUi(words); });
     adjust = Line("Text2", "Text adjustments");
     adjust->setReadOnly(true); // they are set by the buttons beside the text boxes, and by profiles
     const QString meaning = "Description, well notes, remarks, general notes and soil notes box,\n"
@@ -127,7 +127,7 @@ QWidget* PrinterSetup::FontBox()
     adjust->setToolTip(meaning);
     adjust->setAccessibleDescription(meaning);
     margin = Line("Text3", "Margin offsets in inches, x and y");
-    connect(margin, &QLineEdit::textEdited, this, [](const QString& words) { Dialog.marginText = FromUi(words); });
+    connect(margin, &QLineEdit::textEdited, this, [](const QString& words) { Dialog.marginText = LineFromUi(words); });
     auto* fontRow = new QHBoxLayout;
     fontRow->setSpacing(8);
     fontRow->addWidget(font, 1);
@@ -191,7 +191,7 @@ QWidget* PrinterSetup::CopyBox()
     copyTo = Line("Text4", "Copy to");
     copyTo->setPlaceholderText("Drive or folder");
     copyTo->setText(ToUi(CopyDestination));
-    connect(copyTo, &QLineEdit::textChanged, this, [](const QString& words) { CopyDestination = FromUi(words); });
+    connect(copyTo, &QLineEdit::textChanged, this, [](const QString& words) { CopyDestination = LineFromUi(words); });
     auto* caption = new QLabel("Copy &to:", box);
     caption->setBuddy(copyTo);
     auto* browse = Button("cmdBrowse", "&Browse...", &PrinterSetup::Browse);

@@ -4,6 +4,7 @@
 #include "report/heading.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
+#include "session/gridedit.h"
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
@@ -37,8 +38,7 @@ void frmHeading::Load()
         grid->headings = {"", "Default Text", "New Text"};
         grid->locked = 1;
         grid->fontName = DeviceConfig.FontName;
-        grid->done.clear();
-        grid->undone.clear();
+        ForgetSteps(*grid);
         grid->row = 1;
         grid->column = 2;
         grid->selected = {1, 2, 1, 2};
@@ -56,6 +56,8 @@ void frmHeading::mnuOpen()
     if (DialogResult.empty())
         return;
     OpenHeadingFile();
+    for (Grid* grid : {&SSLog, &SSSections, &SSGraphics})
+        ForgetSteps(*grid);
     Title = "Heading Editor - " + DialogResult;
 }
 

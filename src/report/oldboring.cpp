@@ -4,8 +4,8 @@
 //     SampleParamSetup, GenParamSetup, 39 lines of no use, WellInfo *, WellNotes *, GenWell (10 rows; 7),
 //     1 line (2) of no use, OuterLayers *, InnerLayers *, Remarks *, Cuttings *, Legend *, Formations *
 //
-// A star is a count and then the rows. The smaller figures behind ";" and in brackets are those of form 3.0. Only 4.6
-// has a version line.
+// A star is a count and then the rows. The figures behind ";" and in brackets are those of form 3.0. Only 4.6 has a
+// version line.
 #include "report/oldboring.h"
 
 #include "boring/boringblocks.h"
@@ -114,7 +114,8 @@ try {
     LineReader in(BoringFileName);
     if (in.Line() != "4.6") {
         MsgBox("This boring file has an format prior to version 4.6.  Use the Conversion Utility to convert it to "
-               "version 4.6 format.");
+               "version 4.6 format.",
+               OkOnly, Exclamation);
         return;
     }
     ReadOldBoring(in, Form46);

@@ -3,6 +3,7 @@
 
 #include "boring/boringboxes.h"
 #include "session/files.h"
+#include "session/gridedit.h"
 #include "session/platform.h"
 
 Slots<Slots<Text, 2>, MaxPrompts> PromptTable;
@@ -135,6 +136,7 @@ void frmPrompt::mnuRevert()
 {
     for (int slot = 1; slot <= MaxPrompts; ++slot)
         SS1.Cell(slot, NewText) = SS1.Cell(slot, DefaultText);
+    ForgetSteps(SS1);
     WritePrompts();
     PromptForce = 1;
     LoadPrompts();

@@ -3,10 +3,10 @@
 //
 //     rotation 0             rotation 1             rotation 2             rotation 3        the edges with ticks
 //                                                   X end ... start
-//          +--------+             +--------X end        +========+         X end              = along the page
+//          +--------+             +--------X start      +========+         X end              = along the page
 //         /        //            /        //           /        //        // end   /          // along the diagonal
 //      Y /        // Y end      /        // X        Y/        // Y      //X      /
-//       +========+             +========+ start      /        //        +========+
+//       +========+             +========+ end        /        //        +========+
 //       X start end            Y start end          +--------+          Y end start
 //
 // In rotation 2 the plane is seen from its far side: X is told along the far edge, where Y starts, and grid lines run

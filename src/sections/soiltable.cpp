@@ -247,7 +247,7 @@ try {
     rectby(9.55, -7.1);
     movedown(0.5);
     lineright(9.55);
-    setfontname(DeviceConfig.FontName.empty() ? "Arial" : DeviceConfig.FontName);
+    setfontname(IsBlank(DeviceConfig.FontName) ? "Arial" : DeviceConfig.FontName);
     setfontsize(10);
     textleft();
     moveto(0.1, -0.25);
@@ -288,7 +288,7 @@ static void BodyHeadings()
     settextangle(0);
 }
 
-// Tick and number at the pen. Pen: on the scale line after it, if there is one.
+// Tick and number at the pen, which ends at the number: 0.07 to the right.
 static void DepthTick(double depth)
 {
     lineright(0.04);

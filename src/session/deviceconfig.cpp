@@ -85,7 +85,7 @@ void LoadDevice()
             ProjectPath = WorkingFolder;
     } else {
         WriteFirstDevice();
-        MsgBox("Couldn't Find DEVICE.CFG File, creating new");
+        MsgBox("Couldn't Find DEVICE.CFG File, creating new", OkOnly, Exclamation);
     }
     DefaultSystemFiles();
     SaveDevice();

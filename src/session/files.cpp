@@ -270,7 +270,11 @@ void WriteWholeFile(const Text& name, std::string_view bytes, Durability durabil
     if (replaces && ::access(path.c_str(), W_OK) != 0)
         RaiseFor(path, errno);
     static std::atomic<unsigned> serial = 0;
-    const std::string temporary = path + "." + std::to_string(::getpid()) + "-" + std::to_string(++serial) + ".tmp~";
+    // A name may be as long as the system lets it be, and the temporary one no longer.
+    constexpr size_t room = 200;
+    const size_t base = path.rfind('/') + 1; // 0 where there is no folder
+    const std::string temporary = path.substr(0, base + std::min(path.size() - base, room)) + "." +
+                                  std::to_string(::getpid()) + "-" + std::to_string(++serial) + ".tmp~";
     int failure = 0;
     {
         File file(::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace
@@ -64,6 +65,11 @@ void ShowAboutBox(bool blocking)
         return;
     }
     box->hide();
+    // Over the log window, which has been shown meanwhile and waits for the click on this box.
+    QTimer::singleShot(0, box, [] {
+        box->raise();
+        box->activateWindow();
+    });
     box->exec();
     delete box;
 }

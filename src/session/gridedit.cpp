@@ -73,7 +73,7 @@ static void Change(Grid& grid, const std::function<void()>& write)
 
 void TypeCell(Grid& grid, int row, int column, const Text& text)
 {
-    Change(grid, [&] { grid.Cell(row, column) = text; });
+    Change(grid, [&] { grid.Cell(row, column) = OneLine(text); });
 }
 
 void ClearSelected(Grid& grid)
@@ -343,8 +343,7 @@ static bool TakeQuoted(std::string_view& text, Text& cell)
     return false;
 }
 
-// A cell is one line: blanks for its line ends.
-static Text OneLine(std::string_view cell)
+Text OneLine(std::string_view cell)
 {
     Text line;
     while (!cell.empty()) {

@@ -25,6 +25,9 @@ bool UndoGrid(Grid& grid); // false: there is nothing to take back
 bool RedoGrid(Grid& grid);
 void ForgetSteps(Grid& grid); // another boring is in the boxes
 
+// A cell or a box of one line is a line of a file: blanks for its line ends.
+Text OneLine(std::string_view cell);
+
 // A block as spreadsheets exchange it: tabs between cells, CR LF behind each row. A cell that holds a tab or a line
 // end, or begins with a quote mark, is quoted.
 Text TabSeparated(const Grid& grid, const Block& block);

@@ -67,7 +67,7 @@ TEST_CASE("for text boxes Cut, Copy and Paste name the keys, and rows do not app
     CHECK(Messages[4].words == "This function does not apply to text boxes.");
     for (const PlainMessage& message : Messages) {
         CHECK(message.buttons == OkOnly);
-        CHECK(message.icon == NoIcon);
+        CHECK(message.icon == (message.words.starts_with("Please") ? NoIcon : Exclamation));
     }
     CHECK(FileChanged == 0);
 }

@@ -27,7 +27,7 @@ TEST_CASE("a plain depth under a blank cell or one with X is flagged, since its 
     REQUIRE(entries.size() == 1);
     CHECK(entries[0].Words ==
           "Row 1, B-1: C ends at 20, but B above it tells no depth, so it is drawn from the ground on.  Write its top "
-          "too, as in 10-20.");
+          "before it: top-20.");
     CHECK(entries[0].Row == 1);
     CHECK(entries[0].Column == GisColumns + 3);
 

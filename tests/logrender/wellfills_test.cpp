@@ -18,7 +18,7 @@ TEST_CASE("a fill cell counts before the text, up to its comma")
     CHECK(FillOf("Grout", "  ,RED") == 2);
 }
 
-TEST_CASE("without a fill cell the first material word in the text chooses the fill")
+TEST_CASE("without a fill cell the first material word of the heading file that the text holds chooses the fill")
 {
     CHECK(FillOf("Packer") == 500);
     CHECK(FillOf("Backfill") == 1);

@@ -17,7 +17,7 @@ void (*EndAtOnce)(int status) = std::_Exit;
 
 namespace
 {
-// Words alone on the buttons.
+// Words alone on the buttons, and lists that act on a double click.
 class PlainButtons : public QProxyStyle
 {
 public:
@@ -29,6 +29,8 @@ public:
     {
         if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
             return 0;
+        if (hint == SH_ItemView_ActivateItemOnSingleClick)
+            return 0; // a click chooses a file, a double click opens it, whatever the desktop's habit
         return QProxyStyle::styleHint(hint, option, widget, data);
     }
 };

@@ -76,5 +76,5 @@ Text ShowInputBox(const Text& prompt, const Text& title, const Text& answer)
     box.setWindowTitle(ToUi(title));
     box.setLabelText(ToUi(prompt));
     box.setTextValue(ToUi(answer));
-    return box.exec() == QDialog::Accepted ? FromUi(box.textValue()) : Text();
+    return box.exec() == QDialog::Accepted ? LineFromUi(box.textValue()) : Text();
 }

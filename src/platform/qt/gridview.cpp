@@ -361,7 +361,7 @@ void GridView::AsTyped(void (*work)())
         return work();
     const int row = currentIndex().row() + 1, column = currentIndex().column() + 1;
     const Text before = grid.Cell(row, column);
-    grid.Cell(row, column) = FromUi(box->text());
+    grid.Cell(row, column) = LineFromUi(box->text());
     work();
     grid.Cell(row, column) = before;
 }

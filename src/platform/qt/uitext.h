@@ -1,16 +1,20 @@
-// uitext.h -- texts at the edge to the windows: Windows-1252 inside, Unicode outside.
+// uitext.h -- texts at the edge to the windows: Windows-1252 inside, Unicode outside. What is shown and taken back is
+// the same bytes.
 #pragma once
 
 #include "session/text.h"
 
 #include <QString>
 
-inline QString ToUi(std::string_view text)
-{
-    return QString::fromStdString(ToUtf8(text));
-}
+class QPlainTextEdit;
 
-inline Text FromUi(const QString& text)
-{
-    return FromUtf8(text.toStdString());
-}
+// One character for each letter. The codes that Windows-1252 leaves free have no character: a sign of the private area,
+// which fonts show as a box, stands for each.
+QString ToUi(std::string_view text);
+// What the code page lacks becomes "?". The sign that ends a file (26) is left out: it would end the reading of it.
+Text FromUi(const QString& text);
+// Of a box of one line: blanks for line ends, which such a box takes from the clipboard and shows as blanks. A line of
+// a file cannot hold them.
+Text LineFromUi(const QString& text);
+// Paragraphs ended by CR LF. The box's own way to ask for its text makes blanks of the blanks that do not break.
+Text TextOf(const QPlainTextEdit& box);

@@ -2,6 +2,7 @@
 #include "platform/qt/windowparts.h"
 
 #include "platform/qt/uitext.h"
+#include "session/files.h"
 
 #include <QAction>
 #include <QLabel>
@@ -52,7 +53,7 @@ void RecentFiles::Show(const Text& current)
     QSettings settings("Stratavue", "Stratavue");
     QStringList files = settings.value(key).toStringList();
     const QString name = ToUi(current);
-    if (!name.isEmpty() && files.value(0) != name) {
+    if (!name.isEmpty() && files.value(0) != name && FileExists(current)) {
         files.removeAll(name);
         files.prepend(name);
         files = files.mid(0, maxRecent);

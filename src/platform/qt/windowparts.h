@@ -27,7 +27,7 @@ class RecentFiles
 public:
     // key: what they are kept under; opens: what an entry does.
     RecentFiles(QMenu* menu, const char* key, std::function<void(const Text&)> opens);
-    void Show(const Text& current); // the file that has a name now is the most recent one; "" for none
+    void Show(const Text& current); // the file on hand is the most recent one, if it is there; "" for none
 
 private:
     QMenu* menu;
