@@ -319,6 +319,9 @@ bool BorinputWindow::eventFilter(QObject* box, QEvent* event)
 {
     if (box == windowHandle() && event->type() == QEvent::Expose) // with this event the window is painted
         QTimer::singleShot(0, this, &BorinputWindow::MakeTabs);
+    // A wheel that is turned over the layout box in passing is no choice.
+    if (event->type() == QEvent::Wheel && qobject_cast<QComboBox*>(box))
+        return true;
     if (event->type() == QEvent::FocusIn)
         for (const auto& [known, number] : numbers)
             if (known == box)
@@ -445,6 +448,7 @@ QComboBox* BorinputWindow::LayoutBox()
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr);
+    box->installEventFilter(this);
     connect(box->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& typed) {
         cmbLayFile = LineFromUi(typed);
         LayoutFileChange();
