@@ -13,6 +13,7 @@
 #include "report/desitems.h"
 #include "report/fontprofile.h"
 #include "report/prompts.h"
+#include "report/reportparts.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/gridedit.h"
@@ -42,6 +43,7 @@ static void LabelBoxes()
     label(SSScale, "Scale Information", {""},
           {"End Depth", "Inc,#Ticks", "Page Brk,Len.", "Meas. In,Rot.", "Surf Elev.", "Start Elev.", "X, Y Coord."});
     label(SSRepParts, "Report Parts", {"Item", "Width"});
+    SSRepParts.offered = {{}, OfferedItems};
     label(SSP1Setup, "Soil Sample Parameter Set-Up",
           {"Name", "Lg. Graph Heading", "Graph St.,End,Inc", "Split 1", "Split 2", "Split 3", "Stnd. 1", "Stnd. 2",
            "Units"});

@@ -4,6 +4,34 @@
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 
+const std::vector<Text> OfferedItems = {"blow count",
+                                        "blow count graph",
+                                        "blow count graph-wide",
+                                        "cuttings",
+                                        "cuttings-graph",
+                                        "descriptions",
+                                        "depth scale",
+                                        "elevation scale",
+                                        "formations",
+                                        "GPn",
+                                        "GPGn",
+                                        "graphic",
+                                        "lab number",
+                                        "MPGn-n2-n3",
+                                        "Pn",
+                                        "PnG",
+                                        "P12G",
+                                        "P34G",
+                                        "P1-4G",
+                                        "remarks",
+                                        "sample box-numbered",
+                                        "sample box-graphic",
+                                        "USCS",
+                                        "water level",
+                                        "well construction info",
+                                        "well diagram",
+                                        "well diagram-small"};
+
 namespace
 {
 enum Test { Begins, Equals };

@@ -13,6 +13,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -287,4 +288,51 @@ TEST_CASE("clicks down a landscape page lead from layer to layer, each to its ro
     CHECK(found == wanted);
     CHECK(QApplication::focusWidget() == Find<QWidget>(log, "SSLith"));
     CHECK(Find<QTabWidget>(log, "SSTab1")->currentIndex() == 1);
+}
+
+TEST_CASE("the items of report parts are offered by an arrow, Alt+Down and the context menu, beside free typing")
+{
+    QMainWindow* log = LogWindow();
+    auto* view = static_cast<QTableView*>(Bring(log, "SSRepParts"));
+    const auto choose = [log, view](const char* item) {
+        auto* menu = view->findChild<QMenu*>("mnuOffered");
+        REQUIRE(menu);
+        CHECK(menu->actions().size() == 27);
+        CHECK(menu->actions().first()->text() == "blow count");
+        CHECK(menu->actions().last()->text() == "well diagram-small");
+        for (QAction* action : menu->actions())
+            if (action->text() == item) {
+                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+                break;
+            }
+        log->activateWindow(); // this screen has no window manager that would give the focus back
+        Settle();
+        CHECK_FALSE(view->findChild<QMenu*>("mnuOffered"));
+    };
+    ClickCell(log, "SSRepParts", 1, 1);
+    Press(Qt::Key_Down, Qt::AltModifier);
+    choose("depth scale");
+    CHECK(frmBorinput::SSRepParts.Cell(1, 1) == "depth scale");
+    CHECK(FileChanged == 1);
+    Press(Qt::Key_Z, Qt::ControlModifier);
+    CHECK(frmBorinput::SSRepParts.Cell(1, 1) == "");
+
+    const QRect cell = view->visualRect(view->model()->index(0, 0));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, QPoint(cell.right() - 6, cell.center().y()));
+    choose("GPGn");
+    CHECK(frmBorinput::SSRepParts.Cell(1, 1) == "GPGn");
+
+    ClickCell(log, "SSRepParts", 2, 1);
+    QContextMenuEvent context(QContextMenuEvent::Keyboard, cell.center(), view->mapToGlobal(cell.center()));
+    QApplication::sendEvent(view->viewport(), &context);
+    choose("USCS");
+    CHECK(frmBorinput::SSRepParts.Cell(2, 1) == "USCS");
+
+    // A width has nothing to offer.
+    ClickCell(log, "SSRepParts", 2, 2);
+    Press(Qt::Key_Down, Qt::AltModifier);
+    CHECK_FALSE(view->findChild<QMenu*>("mnuOffered"));
+    ClickCell(log, "SSRepParts", 3, 1);
+    TypeText("well\n");
+    CHECK(frmBorinput::SSRepParts.Cell(3, 1) == "well");
 }

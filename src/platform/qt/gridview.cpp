@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QSettings>
 #include <QStyledItemDelegate>
 #include <algorithm>
@@ -93,6 +94,10 @@ public:
         if (role == Qt::TextAlignmentRole)
             return int(Qt::AlignVCenter |
                        (orientation == Qt::Vertical && grid.rowHeadings.size() <= 1 ? Qt::AlignRight : Qt::AlignLeft));
+        const size_t column = size_t(section) + 1;
+        if (role == Qt::ToolTipRole && orientation == Qt::Horizontal && column < grid.offered.size() &&
+            !grid.offered[column].empty())
+            return "Alt+Down or a click on the arrow lists what there is.";
         if (role != Qt::DisplayRole)
             return {};
         const std::vector<Text>& names = orientation == Qt::Horizontal ? grid.headings : grid.rowHeadings;
@@ -133,6 +138,13 @@ private:
     QModelIndex typed;
     QString typedText;
 };
+
+// Where in a cell the arrow to what is offered stands.
+static QRect OfferArrow(const QRect& cell)
+{
+    const int size = std::min(cell.height(), 16);
+    return QRect(cell.right() - size, cell.top() + (cell.height() - size) / 2, size, size);
+}
 
 namespace
 {
@@ -180,6 +192,21 @@ protected:
             option->palette.setColor(QPalette::Highlight, QColor(0xcf, 0xdc, 0xe8));
             option->palette.setColor(QPalette::HighlightedText, option->palette.color(QPalette::Text));
         }
+    }
+    // The current cell of a column with something to offer has an arrow to it at its right.
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+        const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
+        const size_t column = size_t(index.column()) + 1;
+        if (!view || !view->hasFocus() || view->currentIndex() != index || column >= grid.offered.size() ||
+            grid.offered[column].empty())
+            return;
+        QStyleOption arrow(option);
+        arrow.rect = OfferArrow(option.rect);
+        for (const QPalette::ColorRole role : {QPalette::ButtonText, QPalette::WindowText, QPalette::Text})
+            arrow.palette.setColor(role, option.palette.color(QPalette::HighlightedText));
+        view->style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, painter, view);
     }
     bool eventFilter(QObject* editor, QEvent* event) override
     {
@@ -446,12 +473,59 @@ void GridView::keyPressEvent(QKeyEvent* event)
         ClearSelected(grid);
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         Step(event->modifiers() & Qt::ShiftModifier ? -1 : 1, 0);
+    else if (event->key() == Qt::Key_Down && event->modifiers() == Qt::AltModifier)
+        Offer();
     else if (event->key() == Qt::Key_F6) // out of the grid, to the next box or the one before
         QAbstractScrollArea::focusNextPrevChild(!(event->modifiers() & Qt::ShiftModifier));
     else
         return QTableView::keyPressEvent(event);
     event->accept();
     Done();
+}
+
+// ---- What a column offers
+
+const std::vector<Text>* GridView::Offered() const
+{
+    const size_t column = size_t(currentIndex().column()) + 1;
+    const bool offers = currentIndex().isValid() && column < grid.offered.size() && !grid.offered[column].empty();
+    return offers ? &grid.offered[column] : nullptr;
+}
+
+// A choice is typed for the user, a step like any other. One with letters that stand for numbers is opened for them.
+void GridView::Offer()
+{
+    const std::vector<Text>* offered = Offered();
+    if (!offered)
+        return;
+    auto* menu = new QMenu(this);
+    menu->setObjectName("mnuOffered");
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const Text& words : *offered)
+        connect(menu->addAction(ToUi(words)), &QAction::triggered, this, [this, words] {
+            FinishEdit();
+            TypeCell(grid, grid.row, grid.column, words);
+            Done();
+            if (words.find("Pn") != Text::npos || words.find("Gn") != Text::npos)
+                QTimer::singleShot(0, this, [this] { edit(currentIndex()); }); // when the menu has given the focus back
+        });
+    menu->popup(viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()));
+}
+
+void GridView::mousePressEvent(QMouseEvent* event)
+{
+    const bool onArrow = Offered() && OfferArrow(visualRect(currentIndex())).contains(event->pos());
+    QTableView::mousePressEvent(event);
+    if (onArrow)
+        Offer();
+}
+
+void GridView::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (Offered())
+        Offer();
+    else
+        QTableView::contextMenuEvent(event);
 }
 
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous)

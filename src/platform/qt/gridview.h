@@ -7,6 +7,7 @@
 #include <QTableView>
 #include <QTimer>
 #include <functional>
+#include <vector>
 
 class GridModel;
 
@@ -26,6 +27,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
@@ -34,8 +37,9 @@ private:
     void Step(int rows, int columns);
     void TakeSelection();
     void KeepWidths() const;
-
     void Stretch();
+    const std::vector<Text>* Offered() const; // for the current cell; null: nothing
+    void Offer();                             // the list of it, below the cell
 
     Grid& grid;
     GridModel* model;
