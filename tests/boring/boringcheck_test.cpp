@@ -7,7 +7,7 @@
 
 using namespace frmBorinput;
 
-static const Text endBelowContact =
+static const Text endAboveContact =
     "The 'Scale: End Depth' value must be greater or equal to the depth of the last contact.";
 static const Text incrementUneven =
     "The 'Scale: Increment' value must divide evenly into the 'Scale: End Depth' value.";
@@ -69,9 +69,10 @@ TEST_CASE("without a lithology the long message comes at every save")
     CHECK(Check("40", "5", "20", "") == Words{lastContact});
 }
 
-TEST_CASE("the end depth may not be above the last contact")
+TEST_CASE("the end depth may not be less than the depth of the last contact")
 {
-    CHECK(Check("40", "5", "20", "40.5") == Words{endBelowContact});
+    CHECK(Check("40", "5", "20", "40.5") == Words{endAboveContact});
+    CHECK(Check("40", "5", "20", "40") == Words{});
 }
 
 TEST_CASE("the increment has to divide the end depth, and is needed where the scale is not left to the program")
@@ -110,7 +111,7 @@ TEST_CASE("the last contact has to lie on the last page")
 TEST_CASE("warnings follow each other, none stops the others")
 {
     CHECK(Check("10", "3", "20", "30", "5", "5.5") ==
-          Words{endBelowContact, incrementUneven, breakTooDeep, breakUneven, startAbove, startUneven});
+          Words{endAboveContact, incrementUneven, breakTooDeep, breakUneven, startAbove, startUneven});
 }
 
 TEST_CASE("the last contact is the last row with data, as typed in the grid")

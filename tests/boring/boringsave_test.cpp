@@ -6,6 +6,7 @@
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/boringlines.h"
+#include "editors/fillform.h"
 #include "session/session.h"
 
 #include <csignal>
@@ -281,6 +282,26 @@ TEST_CASE("a file that cannot be written is told by name, and the old one stays 
     CHECK(Messages[0].icon == NoIcon);
 }
 
+TEST_CASE("a boring is saved under a name as long as the system lets it be, and read back")
+{
+    for (const size_t letters : {241, 251}) {
+        Text1 = "B-" + std::to_string(letters);
+        BoringFileName = Scratch(Text(letters, 'n') + ".BOR");
+        SaveBoringFile();
+        SaveBoringFile(); // over the one that is there
+        CHECK(Messages.empty());
+        BoringData.Name = "";
+        DialogMode = 2;
+        OpenBoringFile2();
+        CHECK(Messages.empty());
+        CHECK(BoringData.Name == Text1);
+    }
+    int files = 0;
+    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(ScratchFolder()))
+        ++files;
+    CHECK(files == 2); // and nothing beside them
+}
+
 TEST_CASE("a save on a full disk is told by name, and the old file stays whole")
 {
     // A limit on the size of files stands for the full disk: the write comes back short in the same way.
@@ -300,6 +321,31 @@ TEST_CASE("a save on a full disk is told by name, and the old file stays whole")
 }
 
 TEST_CASE("a 5.0 file that was read is saved with 21 parameter cells a row")
+{
+    BoringLines lines;
+    lines.version = "5.0";
+    lines.layoutFile = "a.lay";
+    lines.paramCells = 9;
+    lines.params = {"1", "2", "3", "4", "5", "6", "7", "8", "9", "", "", "", "", "", "", "", "", "18"};
+    lines.client = {};
+    lines.tail = {" 1 "};
+    WriteScratch("B.BOR", lines.File());
+    BoringFileName = Scratch("B.BOR");
+    DialogMode = 2;
+    OpenBoringFile2();
+    FillBoringForm();
+    const std::string saved = Saved();
+    CHECK(Messages.empty());
+    lines.version = "5.0.12";
+    lines.paramCells = 21;
+    lines.params.insert(lines.params.begin() + 9, 12, "");
+    lines.params.resize(42);
+    lines.client = BoringLines::Block(5);
+    lines.tail = {"4", " 1 "};
+    CHECK(saved == lines.File());
+}
+
+TEST_CASE("a row of parameters is saved with all its 21 cells, blank ones too")
 {
     SSPar.Cell(1, 1) = "2";
     SSPar.Cell(1, 15) = "left there";

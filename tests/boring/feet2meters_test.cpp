@@ -170,12 +170,11 @@ TEST_CASE("a second conversion converts again, and what was rounded is lost")
 
 TEST_CASE("texts of more lines than the record holds are not converted: nothing is, and nothing is lost")
 {
-    for (Memo* box : {&MemoDes, &MemoRemarks}) {
+    for (const auto& [box, lines] : {std::pair(&MemoDes, 1001), {&MemoWcon, 61}, {&MemoRemarks, 601}}) {
         Messages.clear();
         FileChanged = 0;
         SSSamp.Cell(1, 1) = "10";
-        MemoDes.text = MemoRemarks.text = "";
-        const int lines = box == &MemoDes ? 1001 : 601;
+        MemoDes.text = MemoWcon.text = MemoRemarks.text = "";
         for (int i = 0; i < lines; ++i)
             box->text += "x\r\n";
         convertfeet2meters();

@@ -115,11 +115,22 @@ TEST_CASE("lines beyond number 400 are dropped but counted, and then blank ones 
     CHECK(LineCount == 399);
 }
 
-TEST_CASE("more lines than a 16-bit count holds is failure 6 in Text2Array")
+TEST_CASE(
+    "more lines than a 16-bit count holds is failure 6 in Text2Array; the first 400 are there, and the count is full")
 {
-    Text2Array(Paragraphs(32768));
-    REQUIRE(Messages.size() == 1);
-    CHECK(Messages[0].words == "Error 6 in Text2Array.  Please contact Norvane");
+    Text2Array(Paragraphs(32767));
+    CHECK(Messages.empty());
+    CHECK(LineCount == 32767);
+    for (const int lines : {32768, 40000}) {
+        Messages.clear();
+        Text2Array(Paragraphs(lines));
+        REQUIRE(Messages.size() == 1);
+        CHECK(Messages[0].words == "Error 6 in Text2Array.  Please contact Norvane");
+        CHECK(LineCount == 32767);
+        CHECK(LineBuffer[1] == "1");
+        CHECK(LineBuffer[400] == "400");
+        CHECK(LineBuffer[401] == "");
+    }
 }
 
 TEST_CASE("an imported file is appended to the description, each line closed, and nothing else is touched")

@@ -86,6 +86,48 @@ TEST_CASE("Open reads the boring into the boxes and shows its name")
     CHECK(FileChanged == 0);
 }
 
+TEST_CASE("after a conversion that fails for too many notes or remarks, New and Open tell nothing and leave none of it")
+{
+    using namespace frmBorinput;
+    for (const auto& [box, lines] : {std::pair(&MemoWcon, 61), {&MemoRemarks, 601}}) {
+        for (const bool open : {false, true}) {
+            CAPTURE(lines);
+            CAPTURE(open);
+            Prepare();
+            mnuNew();
+            Text1 = "B-1";
+            SSSamp.Cell(1, 1) = "10";
+            SSLegend.Cell(1, 1) = "CL";
+            for (int i = 0; i < lines; ++i)
+                box->text += "x\r\n";
+            Answers = {Yes};
+            mnuConvertFeetMeters();
+            REQUIRE(Messages.size() == 2);
+            CHECK(Messages[1].words == "Error 9 in convertfeet2meters.  Please contact Norvane");
+            CHECK(SSSamp.Cell(1, 1) == "10");
+            CHECK(BoringData.WellNoteCount <= MaxWellNotes);
+            CHECK(BoringData.RemarkCount <= MaxRemarks);
+            Messages.clear();
+            if (open)
+                Open(Sample("TC-101.BOR"));
+            else
+                mnuNew();
+            CHECK(Messages.empty());
+            CHECK(Text1 == (open ? "TC-101" : ""));
+            CHECK(BoringData.Name == Text1);
+            CHECK(box->text.find("x\r\nx") == Text::npos);
+            const Text left = Text("x") + ParagraphMark;
+            for (const Text& note : BoringData.WellNotes.slot)
+                CHECK(note != left);
+            for (const Text& remark : BoringData.Remarks.slot)
+                CHECK(remark != left);
+            CHECK((open || (BoringData.WellNoteCount == 0 && BoringData.RemarkCount == 0)));
+            CHECK(BoringData.Legend[1][1] != "CL");
+            FileChanged = 0;
+        }
+    }
+}
+
 TEST_CASE("Open cancelled in the chooser leaves the boring, and the flag is 0 all the same")
 {
     Prepare();

@@ -85,6 +85,10 @@ TEST_CASE("the scale and the well information keep their rows")
         REQUIRE(Messages.size() == 2);
         CHECK(Messages[0].words == "It is not possible to insert or delete rows in this box.");
         CHECK(Messages[1].words == "It is not possible to insert or delete rows in this box.");
+        for (const PlainMessage& message : Messages) {
+            CHECK(message.buttons == OkOnly);
+            CHECK(message.icon == Exclamation);
+        }
         CHECK(BoxGrid(box)->Cell(1, 1) == "7");
     }
 }
@@ -113,6 +117,50 @@ TEST_CASE("a row in or out of the report parts counts the width anew")
     mnuDeleteRow();
     CHECK(SSRepParts.Cell(1, 1) == "remarks");
     CHECK(BoringData.RepPartCount == 2);
+}
+
+TEST_CASE("a row command in the report parts takes them anew once, whether or not it moves a cell")
+{
+    Prepare();
+    ActiveBox = 3;
+    SSRepParts.Cell(1, 1) = "remarks";
+    SSRepParts.Cell(1, 2) = "9"; // told each time that the parts are taken
+    SSRepParts.Cell(2, 1) = "USCS";
+    const auto taken = [](void (*command)(), int row) {
+        Messages.clear();
+        FileChanged = 0;
+        BoringData.RepPartCount = -1;
+        SSRepParts.row = row;
+        command();
+        CHECK(FileChanged == 1);
+        CHECK(BoringData.RepPartCount == SSRepParts.DataRowCount());
+        CHECK(Messages.size() == 1);
+        for (const PlainMessage& message : Messages)
+            CHECK(message.words == "The width of the REMARKS column must not exceed 3 inches.");
+        return SSRepParts.DataRowCount();
+    };
+    CHECK(taken(mnuInsertRow, 2) == 3);
+    CHECK(taken(mnuDeleteRow, 2) == 2);
+    CHECK(taken(mnuInsertRow, 7) == 2); // blank rows move
+    CHECK(taken(mnuDeleteRow, 7) == 2);
+    SSRepParts.Cell(30, 1) = "USCS";
+    SSRepParts.Cell(30, 2) = ".25";
+    CHECK(taken(mnuInsertRow, 1) == 30); // the last row is not pushed out
+    CHECK(SSRepParts.Cell(1, 1) == "remarks");
+    CHECK(Notices.size() == 1);
+}
+
+TEST_CASE("a row command that moves no cell leaves the other boxes unchanged")
+{
+    Prepare();
+    for (const int box : {1, 4, 5, 6, 7, 8, 11, 12, 13, 14, 15, 16}) {
+        CAPTURE(box);
+        ActiveBox = int16_t(box);
+        BoxGrid(box)->row = 2;
+        mnuInsertRow();
+        mnuDeleteRow();
+        CHECK(FileChanged == 0);
+    }
 }
 
 TEST_CASE("each pair of adjustment buttons changes its own box and its adjustment by 50 twips")
@@ -194,6 +242,26 @@ TEST_CASE("Import asks the chooser for a text, appends it to the description and
     mnuImport();
     CHECK(MemoDes.text == "zeroone\r\ntwo\r\n");
     CHECK(FileChanged == 0);
+}
+
+TEST_CASE(
+    "an Import of a file that is missing or empty leaves the boring unchanged, and takes back no change before it")
+{
+    Prepare();
+    MemoDes.text = "zero";
+    Platform.ShowChooser = [] { DialogResult = Scratch("empty.txt"); };
+    mnuImport();
+    REQUIRE(Messages.size() == 1);
+    CHECK(Messages[0].words == "Error 53 in ImportDesc.  Please contact Norvane");
+    CHECK(FileChanged == 0);
+    WriteScratch("empty.txt", "");
+    mnuImport();
+    CHECK(Messages.size() == 1);
+    CHECK(MemoDes.text == "zero");
+    CHECK(FileChanged == 0);
+    FileChanged = 1;
+    mnuImport();
+    CHECK(FileChanged == 1);
 }
 
 TEST_CASE("a file that is dropped is opened with the questions of Open and without the chooser")

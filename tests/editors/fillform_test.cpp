@@ -384,6 +384,25 @@ TEST_CASE("of two kinds of notes in a layout the later one counts, and a short l
     CHECK_FALSE(NarrowNotes);
 }
 
+TEST_CASE("the codes of a layout are rounded when the notes box asks for them, and one beyond 16 bits is told")
+{
+    const auto layout = [](const Text& code) {
+        WriteScratch("a.lay", Lines({"0", "0", code, "0", "0", "0", "0", "0", "0", "0", "0", "0", "0"}));
+        cmbLayFile = "a.lay";
+        LayoutFileChange();
+        return MemoBottNotes.widthTwips;
+    };
+    CHECK(layout("10.4") == 6200);
+    CHECK(layout("10.6") == 8010);
+    CHECK(layout("9.5") == 6200); // a half goes to the even number
+    CHECK(layout("11.4") == 8010);
+    CHECK(layout("9.4") == 8010);
+    CHECK(Messages.empty());
+    layout("40000");
+    REQUIRE(Messages.size() == 1);
+    CHECK(Messages[0].words == "Error 6 in findbottnotewidth.  Please contact Norvane");
+}
+
 TEST_CASE("adjustments widen the notes boxes up to their limits")
 {
     DeviceConfig.TextAdjust[4] = 450;

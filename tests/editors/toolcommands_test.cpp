@@ -131,6 +131,44 @@ TEST_CASE("New leaves the tool's title alone, and empty boxes; Save As and Open 
     }
 }
 
+TEST_CASE("a table of the workbench opened without its ending has the whole name, and is saved where it came from")
+{
+    const std::string table = Lines({" 1 ", "SM", "", " 1 ", "B-1", "", "", "", "B-1.BOR", "3", ""});
+    for (const char* ending : {".GIS", ".gis"}) {
+        for (const bool named : {false, true}) {
+            CAPTURE(ending);
+            CAPTURE(named);
+            Prepare(GisForm);
+            WriteScratch("project/SITE" + Text(ending), table);
+            chosen = Folder("SITE");
+            if (named)
+                ToolOpenNamed(GisForm, chosen);
+            else
+                ToolOpen(GisForm);
+            CHECK(Messages.empty());
+            CHECK(frmGIS::FileName == Folder("SITE.gis"));
+            CHECK(frmGIS::Title == "VeskGIS - " + Folder("SITE.gis"));
+            Type(GisForm, "CL");
+            CHECK(ToolSave(GisForm));
+            CHECK(Messages.empty());
+            CHECK(ReadScratch("project/SITE" + Text(ending)) ==
+                  Lines({" 1 ", "CL", "", " 1 ", "B-1", "", "", "", "B-1.BOR", "3", ""}));
+            CHECK(FilesIn(Folder(""), "").size() == 1);
+        }
+    }
+}
+
+TEST_CASE("a table of the workbench that is not there keeps its name as typed, and is told with its ending")
+{
+    Prepare(GisForm);
+    ToolOpenNamed(GisForm, Folder("NONE"));
+    REQUIRE(Messages.size() == 1);
+    CHECK(Messages[0].words == "GIS File Not Found: " + Folder("NONE.gis"));
+    CHECK(Messages[0].icon == Exclamation);
+    CHECK(frmGIS::FileName == Folder("NONE"));
+    CHECK(frmGIS::Title == "VeskGIS - " + Folder("NONE"));
+}
+
 TEST_CASE("New gives the boxes the font of the set-up where that is not the usual one")
 {
     for (ToolRecord* tool : tools) {

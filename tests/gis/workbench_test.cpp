@@ -320,6 +320,26 @@ TEST_CASE("the current cell stays in a table that gets narrower")
     CHECK(SSGISInfo.selected == Block{1, 6, 2, 6});
 }
 
+TEST_CASE("after Update Layers no step of the table can be taken back, also where its width already fits the list")
+{
+    StartWorkbench({"SM"});
+    TypeCell(SSGISInfo, 1, 1, "B-1");
+    TypeCell(SSGISInfo, 1, 1, "B-2");
+    SSGISInfo.column = 6;
+    mnuInsertColumn();
+    TypeCell(SSGISInfo, 1, 6, "4");
+    REQUIRE(UndoGrid(SSGISInfo));
+    TypeCell(SSGISLayers, 2, 1, "CL");
+    Command2();
+    CHECK(SSGISInfo.columns == 7);
+    CHECK_FALSE(UndoGrid(SSGISInfo));
+    CHECK_FALSE(RedoGrid(SSGISInfo));
+    CHECK(SSGISInfo.columns == 7);
+    CHECK(SSGISInfo.headings[6] == "SM");
+    CHECK(SSGISInfo.headings[7] == "CL");
+    CHECK(UndoGrid(SSGISLayers)); // the list is the user's own
+}
+
 // ---- The list and the preview
 
 TEST_CASE("the list holds the borings of the project folder by name, in any case of their ending")
@@ -366,6 +386,19 @@ TEST_CASE("View Data shows depth and code of the first marked boring, and change
     CHECK(SSBoringData.DataRowCount() == 2);
     CHECK(FileChanged == 0);
     CHECK(File1.selected == std::vector<bool>{false, true, true});
+}
+
+TEST_CASE("what was typed into the preview cannot be taken back once View Data has shown a boring")
+{
+    WriteContacts("A.BOR", {{"3", "SM"}});
+    StartWorkbench({"SM"});
+    for (const char* depth : {"1", "2"})
+        TypeCell(SSBoringData, 1, 1, depth);
+    REQUIRE(UndoGrid(SSBoringData));
+    Command3();
+    CHECK_FALSE(UndoGrid(SSBoringData));
+    CHECK_FALSE(RedoGrid(SSBoringData));
+    CHECK(SSBoringData.Cell(1, 1) == "3");
 }
 
 TEST_CASE("View Data with nothing marked does nothing; a boring that is refused blanks the preview")

@@ -17,10 +17,9 @@ TEST_CASE("the water level column has a line across at each depth, with its mark
     CHECK(EndsAtBaseline(0.2f));
 }
 
-TEST_CASE("a water level that is blank or at an end of the page is not drawn")
+TEST_CASE("a water level that is empty or at an end of the page is not drawn")
 {
     StartWell();
-    LogBoring.GenWell[VLOG::WaterDepth1] = " ";
     LogBoring.GenWell[VLOG::WaterDepth2] = "0";
     LogBoring.GenWell[VLOG::OtherDepth] = "67";
     VLOG::drawwaterlevels();
@@ -35,4 +34,22 @@ TEST_CASE("a negative stick-up lowers the water marks")
     LogBoring.GenWell[VLOG::WaterDepth2] = "0";
     VLOG::drawwaterlevels();
     CHECK(Drawn()[4] == "line 120,90 0,90");
+}
+
+TEST_CASE("a water level of blanks is one at depth 0, from which the stick-up is taken off")
+{
+    StartWell();
+    LogBoring.GenWell[VLOG::WaterDepth2] = "  ";
+    VLOG::drawwaterlevels();
+    CHECK(Drawn().size() == 4); // at the page's start: not drawn
+    StartWell();
+    LogBoring.GenWell[VLOG::StickUp] = "-2";
+    LogBoring.GenWell[VLOG::WaterDepth2] = "  ";
+    VLOG::drawwaterlevels();
+    CHECK(Drawn(4) == Drawing{"line 120,120 0,120", "line 34,75 86,75", "line 86,75 60,120", "line 60,120 34,75"});
+    CHECK(EndsAtBaseline(0.2f));
+    StartWell();
+    LogBoring.GenWell[VLOG::StickUp] = "-2"; // three empty cells
+    VLOG::drawwaterlevels();
+    CHECK(Drawn().size() == 4);
 }

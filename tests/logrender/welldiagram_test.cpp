@@ -323,6 +323,17 @@ TEST_CASE("water marks stand clear of the casings, and those off the page are no
           Drawing{"line 120,120 24,120", "line 51,84 93,84", "line 93,84 72,120", "line 72,120 51,84"});
 }
 
+TEST_CASE("a water depth of blanks has its mark where the stick-up puts it, and an empty one has none")
+{
+    StartWell();
+    LogBoring.GenWell[VLOG::StickUp] = "-2";
+    CHECK(Diagram() == Drawing{});
+    StartWell();
+    LogBoring.GenWell[VLOG::StickUp] = "-2";
+    LogBoring.GenWell[VLOG::WaterDepth1] = " ";
+    CHECK(Diagram() == Drawing{"line 90,120 -6,120", "polygon 21,84 63,84 42,120 black"});
+}
+
 TEST_CASE("the names of report parts choose the form of the diagram")
 {
     for (const char* item : {"GW", "well diagram"}) {

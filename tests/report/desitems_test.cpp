@@ -96,6 +96,26 @@ TEST_CASE("51 items typed: the warning, and then 50 are saved")
     CHECK(frmBorinput::List[3].size() == 50);
 }
 
+TEST_CASE("more items than can be counted: failure 6 and the warning, and the first 50 are kept and saved")
+{
+    for (int i = 1; i <= 40000; ++i)
+        frmDesItems::Box[2] += "item " + std::to_string(i) + "\r\n";
+    frmDesItems::Box[3] = "brown";
+    CHECK(frmDesItems::Command1());
+    REQUIRE(Messages.size() == 2);
+    CHECK(Messages[0].words == "Error 6 in Text2Array.  Please contact Norvane");
+    CHECK(Messages[1].words == "There is a limit of 50 items per box.");
+    REQUIRE(frmBorinput::List[2].size() == 50);
+    CHECK(frmBorinput::List[2].front() == "item 1");
+    CHECK(frmBorinput::List[2].back() == "item 50");
+    CHECK(frmBorinput::List[3] == Items{"brown"});
+    frmBorinput::List = {};
+    loaddeslists();
+    CHECK(Messages.size() == 2);
+    CHECK(frmBorinput::List[2].size() == 50);
+    CHECK(frmBorinput::List[3] == Items{"brown"});
+}
+
 TEST_CASE("an item file that cannot be written is told in the words of the item editor, which stays open")
 {
     DeviceConfig.SystemFiles[DescItemFile] = "nowhere/office.txt";

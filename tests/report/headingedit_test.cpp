@@ -5,6 +5,7 @@
 
 #include "report/heading.h"
 #include "session/files.h"
+#include "session/gridedit.h"
 #include "session/session.h"
 
 static void WriteHeadings(const Text& name, std::initializer_list<std::pair<int, Text>> slots = {})
@@ -68,6 +69,39 @@ TEST_CASE("Open reads the chosen heading file and names it in the title; cancell
     frmHeading::mnuSave(); // no current file: the chooser again
     CHECK(modeAsked == 10);
     CHECK(Messages.empty());
+}
+
+TEST_CASE("after Open no step of the heading file before can be taken back or done again")
+{
+    WriteHeadings("a.hdg");
+    WriteHeadings("b.hdg");
+    Open("a.hdg");
+    Grid* const grids[] = {&frmHeading::SSLog, &frmHeading::SSSections, &frmHeading::SSGraphics};
+    for (Grid* grid : grids)
+        for (const char* text : {"typed", "typed again"})
+            TypeCell(*grid, 1, 2, text);
+    for (Grid* grid : grids)
+        REQUIRE(UndoGrid(*grid));
+    Choose(Scratch("b.hdg"));
+    frmHeading::mnuOpen();
+    for (Grid* grid : grids) {
+        const Text word = grid->Cell(1, 2);
+        CHECK(word.starts_with("w"));
+        CHECK_FALSE(UndoGrid(*grid));
+        CHECK_FALSE(RedoGrid(*grid));
+        CHECK(grid->Cell(1, 2) == word);
+    }
+}
+
+TEST_CASE("an Open that is cancelled leaves the steps of the heading editor")
+{
+    WriteHeadings("a.hdg");
+    Open("a.hdg");
+    TypeCell(frmHeading::SSLog, 1, 2, "typed");
+    Choose("");
+    frmHeading::mnuOpen();
+    CHECK(UndoGrid(frmHeading::SSLog));
+    CHECK(frmHeading::SSLog.Cell(1, 2) == "w1");
 }
 
 TEST_CASE("a file of the old form keeps its words, loses one, and is told to be converted")

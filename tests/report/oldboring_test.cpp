@@ -298,6 +298,7 @@ TEST_CASE("the reader of 4.6 looks at the version once more and refuses any othe
     CHECK(Messages[0].words == "This boring file has an format prior to version 4.6.  Use the Conversion Utility to "
                                "convert it to version 4.6 format.");
     CHECK(Messages[0].buttons == OkOnly);
+    CHECK(Messages[0].icon == Exclamation);
     CHECK(BoringData.Name == "");
 }
 

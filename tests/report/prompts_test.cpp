@@ -141,6 +141,20 @@ TEST_CASE("Revert restores all labels at once, even those whose design differs f
     CHECK(LabelsSet() == 0);
 }
 
+TEST_CASE("after Revert no typed prompt can be taken back or done again")
+{
+    WritePrompts();
+    frmPrompt::Load();
+    for (const char* words : {"Hole Name", "Hole"})
+        TypeCell(frmPrompt::SS1, 19, NewText, words);
+    REQUIRE(UndoGrid(frmPrompt::SS1));
+    frmPrompt::mnuRevert();
+    CHECK_FALSE(UndoGrid(frmPrompt::SS1));
+    CHECK_FALSE(RedoGrid(frmPrompt::SS1));
+    CHECK(frmPrompt::SS1.Cell(19, NewText) == "d19");
+    CHECK_FALSE(frmPrompt::Changed);
+}
+
 TEST_CASE("a label typed back to its default without a revert stays in the window until it is forced")
 {
     WritePrompts({{19, "Hole Name"}});

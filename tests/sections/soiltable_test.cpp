@@ -244,6 +244,23 @@ TEST_CASE("the font of the set-up is the page's, and the page moves with the mar
     CHECK(Has(FromBody(), "line 60,-120 84,-120"));
 }
 
+TEST_CASE("a set-up whose font is empty or blank draws the soil table in Arial")
+{
+    for (const char* name : {"", " ", "   "}) {
+        CAPTURE(name);
+        DeviceConfig.FontName = name;
+        DrawTable({}, Boring());
+        CHECK(Messages.empty());
+        int texts = 0;
+        for (const PageObject& object : PageList.Objects)
+            if (object.Kind == ObjectKind::Text) {
+                ++texts;
+                CHECK(object.FontName == "Arial");
+            }
+        CHECK(texts > 10);
+    }
+}
+
 // ---- The body
 
 TEST_CASE("the turned words stand over scale, graphic and code")

@@ -16,6 +16,7 @@ TEST_CASE("without device.cfg one message comes, once, and the new file is compl
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "Couldn't Find DEVICE.CFG File, creating new");
     CHECK(Messages[0].buttons == OkOnly);
+    CHECK(Messages[0].icon == Exclamation);
     const Text folder = ScratchFolder();
     CHECK(ReadScratch("device.cfg") == Lines({folder, "0,0", "Arial", " 0 ", " 0 ", " 0 ", " 0 ", " 0 ", "us.hdg",
                                               "svproj.lst", "desitem.txt", folder, folder, folder, Fills()}));

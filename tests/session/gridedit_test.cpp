@@ -44,6 +44,18 @@ TEST_CASE("a typed cell is one step: Undo takes it back, Redo brings it again, t
     CHECK_FALSE(RedoGrid(grid));
 }
 
+TEST_CASE("a line end in a typed cell becomes a blank, whichever of the three kinds it is")
+{
+    Grid grid(1, 1);
+    for (const char* text : {"a\nb", "a\r\nb", "a\rb"}) {
+        TypeCell(grid, 1, 1, "");
+        TypeCell(grid, 1, 1, text);
+        CHECK(grid.Cell(1, 1) == "a b");
+    }
+    TypeCell(grid, 1, 1, "\r\r\n\n\r");
+    CHECK(grid.Cell(1, 1) == "    ");
+}
+
 TEST_CASE("after Undo a new change leaves nothing to do again")
 {
     Grid grid(3, 2);
