@@ -10,7 +10,6 @@
 #include "session/session.h"
 
 #include <algorithm>
-#include <cmath>
 
 static const char* const caption = "GTGS General Conversion Editor";
 
@@ -36,7 +35,7 @@ static int16_t KindOf(const Text& cell)
 
 static int16_t Integer(const Text& text)
 {
-    return int16_t(std::nearbyint(std::clamp(TextNumber(text), -32768.0, 32767.0)));
+    return RoundInt16(TextNumber(text));
 }
 
 // The separator of the combination box for a mapping's, and back: comma, blank, tab.
@@ -72,25 +71,28 @@ static void ShowMapping()
     }
 }
 
+// The boxes into GtgsMapping: all of them or, where a number does not fit (failure 6), none.
 static void TakeMapping()
 {
     using namespace frmGTGSGenEditor;
-    const GtgsMappingRecord before = GtgsMapping;
-    GtgsMapping.templateFile = Dialog.Text1;
-    GtgsMapping.textPath = Dialog.Text2;
+    const GtgsMappingRecord& before = GtgsMapping;
+    GtgsMappingRecord taken = before;
+    taken.templateFile = Dialog.Text1;
+    taken.textPath = Dialog.Text2;
     // What the boxes show in one way and the file tells in several stays as the file had it.
     if (!Dialog.Option2)
-        GtgsMapping.fixedFields = 0;
+        taken.fixedFields = 0;
     else if (before.fixedFields == 0)
-        GtgsMapping.fixedFields = 2;
+        taken.fixedFields = 2;
     if (Dialog.Option2)
-        GtgsMapping.fieldSpec = Integer(Dialog.Text3);
+        taken.fieldSpec = Integer(Dialog.Text3);
     else if (before.fixedFields != 0 || SeparatorShown(before.fieldSpec) != Dialog.Combo1)
-        GtgsMapping.fieldSpec = SeparatorChosen(Dialog.Combo1);
+        taken.fieldSpec = SeparatorChosen(Dialog.Combo1);
     for (int row = 1; row <= MaxMapRows; ++row) {
-        GtgsMapping.fieldMap[row] = {KindOf(SS1.Cell(row, 1)), Integer(SS1.Cell(row, 2))};
-        GtgsMapping.fillMap[row] = {SS2.Cell(row, 1), SS2.Cell(row, 2)};
+        taken.fieldMap[row] = {KindOf(SS1.Cell(row, 1)), Integer(SS1.Cell(row, 2))};
+        taken.fillMap[row] = {SS2.Cell(row, 1), SS2.Cell(row, 2)};
     }
+    GtgsMapping = taken;
 }
 
 static void TitleByFile()

@@ -6,6 +6,7 @@
 
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
+#include "session/failure.h"
 #include "session/files.h"
 #include "session/session.h"
 
@@ -469,4 +470,42 @@ TEST_CASE("the last rows of a map's grids are saved as the first are")
         CHECK(GtgsMapping.fieldMap[row].kind == 4);
         CHECK(GtgsMapping.fieldMap[row].number == 14);
     }
+}
+
+TEST_CASE("a number beyond 16 bits is failure 6, and neither the map nor its file nor a boring takes anything")
+{
+    CopyData("general");
+    frmGTGSGenEditor::Load();
+    Choose(Scratch("comma.GCV"));
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    const std::string bytes = ReadScratch("comma.GCV");
+    const auto nothingTaken = [&bytes] {
+        CHECK(FailureOf([] { frmGTGSGenEditor::mnuSaveGTGSConvFile(); }) == Overflow);
+        CHECK(FailureOf([] { frmGTGSGenEditor::mnuSaveAs(); }) == Overflow);
+        CHECK(FailureOf(frmGTGSGenEditor::Command1) == Overflow);
+        CHECK(GtgsMapping.templateFile == "template");
+        CHECK(GtgsMapping.fixedFields == 0);
+        CHECK(GtgsMapping.fieldSpec == 1);
+        CHECK(GtgsMapping.fieldMap[25].number == 0);
+        CHECK(GtgsMapping.fillMap[1].uscs == "FB");
+        CHECK(Dialog.File == Scratch("comma.GCV"));
+        CHECK(ReadScratch("comma.GCV") == bytes);
+        CHECK_FALSE(FileExists(Scratch("new.GCV")));
+        CHECK_FALSE(FileExists(Scratch("GB-7.bor")));
+    };
+    Choose(Scratch("new"));
+    Dialog.Text1 = "typed";
+    SS2.Cell(1, 2) = "GW";
+    SS1.Cell(25, 2) = "40000";
+    nothingTaken();
+    SS1.Cell(25, 2) = "-32769";
+    nothingTaken();
+    SS1.Cell(25, 2) = "";
+    Dialog.Option2 = true;
+    Dialog.Text3 = "32768";
+    nothingTaken();
+    Dialog.Text3 = "32767";
+    frmGTGSGenEditor::mnuSaveGTGSConvFile();
+    CHECK(GtgsMapping.fieldSpec == 32767);
+    CHECK(Told() == std::vector<Text>());
 }
