@@ -162,7 +162,7 @@ void frmGTGSGenEditor::Command1()
     Text name = NameFromHeaders;
     if (!Dialog.Option3) {
         name = NewBoringFile(Dialog.Text4);
-        if (IsBlank(Dialog.Text4)) {
+        if (Dialog.Text4.empty()) {
             MsgBox("Since you have left the New Boring File text box blank, the new boring file will be saved as "
                    "GTGS1.BOR",
                    OkOnly, Exclamation);

@@ -509,3 +509,22 @@ TEST_CASE("a number beyond 16 bits is failure 6, and neither the map nor its fil
     CHECK(GtgsMapping.fieldSpec == 32767);
     CHECK(Told() == std::vector<Text>());
 }
+
+TEST_CASE("blanks are a template's name and a new file's name as any other: only a box without a character is empty")
+{
+    OwnMap();
+    GtgsMapping.templateFile = " ";
+    CHECK(ConvertGTGSGeneral(Scratch("x.bor")) == "");
+    CHECK(Told() == std::vector<Text>{"The Boring File to be used as a template was not found, please try again."});
+    std::filesystem::copy(Scratch("template.BOR"), Scratch(" .bor"));
+    Messages.clear();
+    CHECK(ConvertGTGSGeneral(Scratch("x.bor")) == Scratch("x.bor"));
+    frmGTGSGenEditor::Load();
+    Dialog.Text1 = "template";
+    Dialog.Option3 = false;
+    Dialog.Text4 = "  ";
+    Messages.clear();
+    frmGTGSGenEditor::Command1();
+    CHECK(Told() == std::vector<Text>{Created("  .bor")});
+    CHECK(FileExists(Scratch("  .bor")));
+}
