@@ -165,6 +165,32 @@ TEST_CASE("a template of an older form has no client lines")
     CHECK(BoringData.Info[1][1] == "Prompt 1");
 }
 
+TEST_CASE("the client lines of a template go by its release as the editor reads it, whatever stands before the number")
+{
+    OwnMap();
+    std::string bytes = ConvertData("general/template.BOR");
+    const size_t versionEnd = bytes.find('\r');
+    for (const auto& [version, client] : {std::pair<const char*, bool>("5.0.12", true),
+                                          {"5.0-12", true},
+                                          {"5.0 12", true},
+                                          {"5.0112", true},
+                                          {"5.0.11", false},
+                                          {"5.012", false},
+                                          {"5.1.12", false}}) {
+        INFO(Text(version));
+        WriteScratch("t.BOR", version + bytes.substr(versionEnd));
+        Open("t.BOR");
+        const Text read = BoringData.Client[1];
+        GtgsMapping.templateFile = Scratch("t.BOR");
+        ConvertGTGSGeneral(Scratch("x.bor"));
+        CHECK(Told() == std::vector<Text>{Created("x.bor")});
+        Open("x.bor");
+        CHECK(BoringData.Client[1] == read);
+        CHECK(read.empty() != client);
+        std::filesystem::remove(Scratch("x.bor"));
+    }
+}
+
 TEST_CASE("a folder that is not there, and each table that is not, are told by their paths")
 {
     OwnMap();
