@@ -299,13 +299,7 @@ static void ConvertPrintFile(const Text& name)
 
 void ConvertGTGS2BOR()
 try {
-    {
-        const ConversionProgress progress(runFileCount);
-        for (int i = 1; i <= runFileCount; ++i) {
-            ConvertPrintFile(runFiles[i]);
-            incseg(1);
-        }
-    }
+    ConvertRunFiles(ConvertPrintFile);
     MsgBox("All .PRT Files Converted", OkOnly, Announcement);
 } catch (...) {
     ReportFailure(__func__);

@@ -335,13 +335,7 @@ static void ConvertLogFile(const Text& name)
 
 void ConvertWinLog()
 try {
-    {
-        const ConversionProgress progress(runFileCount);
-        for (int i = 1; i <= runFileCount; ++i) {
-            ConvertLogFile(runFiles[i]);
-            incseg(1);
-        }
-    }
+    ConvertRunFiles(ConvertLogFile);
     MsgBox("All .LOG Files Converted", OkOnly, Announcement);
 } catch (...) {
     ReportFailure(__func__);

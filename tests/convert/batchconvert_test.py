@@ -94,6 +94,19 @@ class Convert(unittest.TestCase):
         self.run_batch("convert-prt", "./ordinary.PRT", "../prt/pages.PRT", cwd=self.path("prt"))
         self.check_kept("prt", ["ordinary.bor", "pages.bor"])
 
+    def test_a_boring_among_the_files_to_convert_is_refused_and_stays(self):
+        template = ("--template", self.path("log/template.BOR"))
+        for job, options, names in (("convert-prt", (), ["prt/ordinary.PRT", "prt/B.BOR", "prt/pages.PRT"]),
+                                    ("convert-log", template, ["log/B.BOR", "log/thirds.LOG", "log/nopage.LOG"])):
+            boring = next(name for name in names if name.endswith(".BOR"))
+            shutil.copy(self.path("log/template.BOR"), self.path(boring))
+            told = self.run_batch(job, *options, *names, status=1)
+            self.assertEqual(told.splitlines(), [
+                f"This file would be replaced by its own conversion and is left as it is: {self.path(boring)}",
+                f"All .{job[-3:].upper()} Files Converted"])
+            self.assertTrue(filecmp.cmp(self.path(boring), self.path("log/template.BOR"), shallow=False))
+            self.check_kept(job[-3:], [os.path.basename(name)[:-3] + "bor" for name in names if name != boring])
+
     def test_winlog_files(self):
         names = ("ordinary", "short", "thirds", "nopage")
         told = self.run_batch("convert-log", "--template", "log/template.BOR", *(f"log/{name}.LOG" for name in names))
