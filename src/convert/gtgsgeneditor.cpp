@@ -4,6 +4,7 @@
 #include "convert/gtgsgeneral.h"
 #include "editors/borinput.h"
 #include "session/deviceconfig.h"
+#include "session/failure.h"
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/savename.h"
@@ -169,6 +170,9 @@ void frmGTGSGenEditor::Command1()
             name = JoinPath(ProjectPath, "GTGS1.BOR");
         }
     }
-    if (const Text made = ConvertGTGSGeneral(name); !made.empty())
+    const int failures = FailuresReported;
+    const Text made = ConvertGTGSGeneral(name);
+    // A write that fails is reported, and the conversion ends as it would with one that has not.
+    if (!made.empty() && FailuresReported == failures)
         frmBorinput::OpenNamed(made);
 }

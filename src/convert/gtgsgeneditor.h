@@ -24,5 +24,5 @@ void Load(); // a new mapping
 void mnuOpenGTGSConvFile();
 void mnuSaveGTGSConvFile();
 void mnuSaveAs();
-void Command1(); // Begin Conversion. The new boring is opened in the log tool, as by its Open
+void Command1(); // Begin Conversion. A new boring that could be written is opened in the log tool, as by its Open
 } // namespace frmGTGSGenEditor
