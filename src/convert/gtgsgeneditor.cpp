@@ -96,6 +96,41 @@ static void TakeMapping()
     GtgsMapping = taken;
 }
 
+// What the boxes hold of the map, in one list. The name of the new boring is for one run and no part of it.
+static std::vector<Text> MapBoxes()
+{
+    using namespace frmGTGSGenEditor;
+    std::vector<Text> held{Dialog.Text1, Dialog.Text2, PlainNumber(int(Dialog.Option2)), PlainNumber(Dialog.Combo1),
+                           Dialog.Text3};
+    for (const Grid* grid : {&SS1, &SS2})
+        held.insert(held.end(), grid->cells.begin(), grid->cells.end());
+    return held;
+}
+
+// The boxes into the file. False: it was not written, which has been told; then they count as changed still.
+static bool WriteMap(const Text& name)
+{
+    using frmGTGSGenEditor::Dialog;
+    TakeMapping();
+    const int failures = FailuresReported;
+    SaveGTGSConversionFile(name);
+    if (FailuresReported != failures)
+        return false;
+    Dialog.Settled = MapBoxes();
+    return true;
+}
+
+// The question before a changed map would be dropped. False: the user has thought better of it, or wished to save and
+// nothing was saved.
+static bool SaveFirst(const char* question)
+{
+    using namespace frmGTGSGenEditor;
+    if (MapBoxes() == Dialog.Settled)
+        return true;
+    const int answer = MsgBox(question, YesNoCancel, Question);
+    return answer == Yes ? mnuSaveGTGSConvFile() : answer == No;
+}
+
 static void TitleByFile()
 {
     using frmGTGSGenEditor::Dialog;
@@ -118,10 +153,13 @@ void frmGTGSGenEditor::Load()
     }
     GtgsMapping = GtgsMappingRecord();
     ShowMapping();
+    Dialog.Settled = MapBoxes();
 }
 
 void frmGTGSGenEditor::mnuOpenGTGSConvFile()
 {
+    if (!SaveFirst("Would you like to save the current file before opening another file?"))
+        return;
     DialogMode = 20;
     Platform.ShowChooser();
     if (DialogResult.empty())
@@ -129,32 +167,32 @@ void frmGTGSGenEditor::mnuOpenGTGSConvFile()
     Dialog.File = DialogResult;
     OpenGTGSConversionFile(Dialog.File);
     ShowMapping();
+    Dialog.Settled = MapBoxes();
     TitleByFile();
 }
 
-void frmGTGSGenEditor::mnuSaveGTGSConvFile()
+bool frmGTGSGenEditor::mnuSaveGTGSConvFile()
 {
-    if (Dialog.File.empty()) {
-        mnuSaveAs();
-        return;
-    }
-    TakeMapping();
-    SaveGTGSConversionFile(Dialog.File);
+    return Dialog.File.empty() ? mnuSaveAs() : WriteMap(Dialog.File);
 }
 
-void frmGTGSGenEditor::mnuSaveAs()
+bool frmGTGSGenEditor::mnuSaveAs()
 {
     DialogMode = 21;
     Platform.ShowChooser();
     if (DialogResult.empty())
-        return;
+        return false;
     const Text name = WithEnding(DialogResult, ".GCV");
-    if (!MayReplace(name))
-        return;
-    TakeMapping();
+    if (!MayReplace(name) || !WriteMap(name))
+        return false;
     Dialog.File = name;
-    SaveGTGSConversionFile(name);
     TitleByFile();
+    return true;
+}
+
+bool frmGTGSGenEditor::mnuExit()
+{
+    return SaveFirst("Would you like to save the current file before quitting?");
 }
 
 void frmGTGSGenEditor::Command1()

@@ -493,10 +493,10 @@ TEST_CASE(
 TEST_CASE("a chooser that is cancelled opens and saves no map")
 {
     frmGTGSGenEditor::Load();
-    Dialog.Text1 = "typed";
     Choose("");
     frmGTGSGenEditor::mnuOpenGTGSConvFile();
-    frmGTGSGenEditor::mnuSaveGTGSConvFile();
+    Dialog.Text1 = "typed";
+    CHECK_FALSE(frmGTGSGenEditor::mnuSaveGTGSConvFile());
     CHECK(Dialog.Text1 == "typed");
     CHECK(Dialog.File == "");
     CHECK(Dialog.Title == "GTGS General Conversion Editor");
@@ -581,4 +581,145 @@ TEST_CASE("blanks are a template's name and a new file's name as any other: only
     frmGTGSGenEditor::Command1();
     CHECK(Told() == std::vector<Text>{Created("  .bor")});
     CHECK(FileExists(Scratch("  .bor")));
+}
+
+static const Text quitting = "Would you like to save the current file before quitting?";
+static const Text opening = "Would you like to save the current file before opening another file?";
+
+// The editor with a map of the scratch folder open.
+static void OpenMap(const Text& name)
+{
+    frmGTGSGenEditor::Load();
+    Choose(Scratch(name));
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+}
+
+TEST_CASE("the map's editor is left without a question while its boxes are as begun with, opened or saved")
+{
+    CopyData("general");
+    frmGTGSGenEditor::Load();
+    CHECK(frmGTGSGenEditor::mnuExit());
+    Choose(Scratch("comma.GCV"));
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    CHECK(frmGTGSGenEditor::mnuExit());
+    Dialog.Text1 = "typed";
+    frmGTGSGenEditor::mnuSaveGTGSConvFile();
+    CHECK(frmGTGSGenEditor::mnuExit());
+    SS1.Cell(1, 2) = "7";
+    Choose(Scratch("new"));
+    frmGTGSGenEditor::mnuSaveAs();
+    CHECK(frmGTGSGenEditor::mnuExit());
+    SS1.Cell(1, 2) = "8";
+    SS1.Cell(1, 2) = "7"; // as it was
+    CHECK(frmGTGSGenEditor::mnuExit());
+    // The name of the new boring is for one run and in no file.
+    Dialog.Option3 = false;
+    Dialog.Text4 = "mine";
+    CHECK(frmGTGSGenEditor::mnuExit());
+    Choose(Scratch("comma.GCV"));
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    CHECK(Told() == std::vector<Text>());
+}
+
+TEST_CASE("a change in any box of the map is asked about before the editor is left")
+{
+    CopyData("general");
+    static void (*const changes[])() = {
+        [] { Dialog.Text1 = "typed"; }, [] { Dialog.Text2 = "/typed"; }, [] { Dialog.Option2 = true; },
+        [] { Dialog.Combo1 = 2; },      [] { Dialog.Text3 = "5"; },      [] { SS1.Cell(25, 1) = "Well Info"; },
+        [] { SS1.Cell(25, 2) = "1"; },  [] { SS2.Cell(25, 1) = "1"; },   [] { SS2.Cell(25, 2) = "GW"; }};
+    for (void (*change)() : changes) {
+        OpenMap("comma.GCV");
+        change();
+        Messages.clear();
+        Answers = {Cancel};
+        CHECK_FALSE(frmGTGSGenEditor::mnuExit());
+        CHECK(Told() == std::vector<Text>{quitting});
+        CHECK(Messages[0].buttons == YesNoCancel);
+        CHECK(Messages[0].icon == Question);
+    }
+}
+
+TEST_CASE("leaving the map's editor: Yes saves, No drops, Cancel stays")
+{
+    CopyData("general");
+    const std::string bytes = ReadScratch("comma.GCV");
+    OpenMap("comma.GCV");
+    Dialog.Text1 = "typed";
+    Answers = {Cancel, No, Yes};
+    CHECK_FALSE(frmGTGSGenEditor::mnuExit());
+    CHECK(Dialog.Text1 == "typed");
+    CHECK(frmGTGSGenEditor::mnuExit());
+    CHECK(ReadScratch("comma.GCV") == bytes);
+    CHECK(frmGTGSGenEditor::mnuExit());
+    CHECK(ReadScratch("comma.GCV").starts_with("typed\r\n"));
+    CHECK(Told() == std::vector<Text>{quitting, quitting, quitting});
+    CHECK(frmGTGSGenEditor::mnuExit());
+    CHECK(Messages.size() == 3);
+}
+
+TEST_CASE("a map without a name is saved through Save As, and one that was not saved is not left")
+{
+    frmGTGSGenEditor::Load();
+    Dialog.Text1 = "typed";
+    Choose("");
+    Answers = {Yes};
+    CHECK_FALSE(frmGTGSGenEditor::mnuExit()); // the chooser was cancelled
+    WriteScratch("m.GCV", "older");
+    Choose(Scratch("m"));
+    Answers = {Yes, No};
+    CHECK_FALSE(frmGTGSGenEditor::mnuExit()); // the older file stays
+    CHECK(ReadScratch("m.GCV") == "older");
+    Choose(Scratch("none/m"));
+    Answers = {Yes, Ok};
+    Messages.clear();
+    CHECK_FALSE(frmGTGSGenEditor::mnuExit()); // it could not be written
+    CHECK(Told() == std::vector<Text>{quitting, "Error 76 in SaveGTGSConversionFile.  Please contact Norvane"});
+    CHECK(Dialog.File == "");
+    CHECK(Dialog.Title == "GTGS General Conversion Editor");
+    Choose(Scratch("n"));
+    Answers = {Yes};
+    CHECK(frmGTGSGenEditor::mnuExit());
+    CHECK(ReadScratch("n.GCV").starts_with("typed\r\n"));
+    SS1.Cell(1, 2) = "40000";
+    Answers = {Yes};
+    CHECK(FailureOf([] { frmGTGSGenEditor::mnuExit(); }) == Overflow);
+}
+
+TEST_CASE("another map is opened once the one in the boxes has been asked about: Yes saves, No drops, Cancel stays")
+{
+    CopyData("general");
+    const std::string bytes = ReadScratch("comma.GCV");
+    OpenMap("comma.GCV");
+    static int choosers;
+    choosers = 0;
+    Platform.ShowChooser = [] {
+        ++choosers;
+        DialogResult = chosen;
+    };
+    chosen = Scratch("fixed.GCV");
+    Dialog.Text1 = "typed";
+    Answers = {Cancel};
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    CHECK(Told() == std::vector<Text>{opening});
+    CHECK(choosers == 0);
+    CHECK(Dialog.Text1 == "typed");
+    // At No nothing is dropped before a file is chosen.
+    chosen = "";
+    Answers = {No};
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    CHECK(Dialog.Text1 == "typed");
+    chosen = Scratch("fixed.GCV");
+    Answers = {No};
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    CHECK(Dialog.File == Scratch("fixed.GCV"));
+    CHECK(ReadScratch("comma.GCV") == bytes);
+    CHECK(Told() == std::vector<Text>{opening, opening, opening});
+    Dialog.Text1 = "typed";
+    chosen = Scratch("comma.GCV");
+    Answers = {Yes};
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    CHECK(ReadScratch("fixed.GCV").starts_with("typed\r\n"));
+    CHECK(Dialog.File == Scratch("comma.GCV"));
+    CHECK(Dialog.Text1 == "template");
 }
