@@ -198,7 +198,7 @@ std::string UsageText()
     text += "Jobs:\n";
     for (const BatchJob& job : Jobs)
         text += std::string("  ") + job.Name + std::string(17 - std::string_view(job.Name).size(), ' ') +
-                (job.Work == BatchWork::Draws ? "draws " : "") + job.ThatDraws + "\n";
+                (job.Work == BatchWork::Draws ? "draws " : "") + job.HelpLine + "\n";
     text +=
         "Options:\n"
         "  --type 1|2     the arrangement of the intro pages (1)\n"

@@ -34,7 +34,7 @@
 #include <system_error>
 #include <unistd.h>
 
-enum ExitStatus { AllDrawn = 0, MessageAppeared = 1, WrongCommandLine = 2 };
+enum ExitStatus { AllDone = 0, MessageAppeared = 1, WrongCommandLine = 2 };
 
 static CommandLine Asked;
 static int MessageCount = 0; // but for announcements
@@ -420,7 +420,7 @@ int main(int argc, char** argv)
     Asked = ReadCommandLine({argv + 1, argv + argc});
     if (Asked.Help) {
         std::fputs(UsageText().c_str(), stdout);
-        return AllDrawn;
+        return AllDone;
     }
     if (!Asked.Wrong.empty()) {
         std::fprintf(stderr, "stratavue-batch: %s (see stratavue-batch --help)\n", Asked.Wrong.c_str());
@@ -451,5 +451,5 @@ int main(int argc, char** argv)
     }
     Pdf.reset();
     std::fflush(stderr);
-    return MessageCount == 0 ? AllDrawn : MessageAppeared;
+    return MessageCount == 0 ? AllDone : MessageAppeared;
 }
