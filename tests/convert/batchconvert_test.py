@@ -114,6 +114,21 @@ class Convert(unittest.TestCase):
         self.check_kept("log", [name + ".bor" for name in names])
         self.run_batch("convert-log", "log/ordinary.LOG")
 
+    def test_the_same_failure_is_told_once_for_each_file(self):
+        with open(self.path("foreign.BOR"), "w") as foreign:
+            foreign.write("4.6\r\n")
+        told = self.run_batch("convert-log", "--template", "foreign.BOR", "log/ordinary.LOG", "log/short.LOG", status=1)
+        self.assertEqual(told.splitlines(), ["This boring file has an invalid format."] * 2 +
+                         ["All .LOG Files Converted"])
+        for name in ("B-1.bor", "B-3.bor"):
+            os.mkdir(self.path("txt/" + name))
+        told = self.run_batch("convert-txt", "txt", status=1)
+        self.assertEqual(told.splitlines()[1:], ["Error 75 in WriteConvertedBoring.  Please contact Norvane"] * 2 +
+                         ["All .TXT Files Converted"])
+        # A file that is given twice is one file.
+        told = self.run_batch("convert-log", "--template", "foreign.BOR", "log/short.LOG", "log/short.LOG", status=1)
+        self.assertEqual(told.splitlines(), ["This boring file has an invalid format.", "All .LOG Files Converted"])
+
     def test_a_file_that_stops_early_ends_the_run(self):
         told = self.run_batch("convert-log", "log/early.LOG", "log/short.LOG", status=1)
         self.assertEqual(told, "Error 62 in ConvertWinLog.  Please contact Norvane\n")
