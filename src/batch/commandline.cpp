@@ -5,19 +5,22 @@
 
 #include <algorithm>
 
+// Only a log has several pages to choose from.
 static constexpr char LogOptions[] = "--home DIR;--project DIR;--page N;--date TEXT;--pdf FILE;--png DIR;--dpi N;"
                                      "--dxf DIR;--list FILE";
-static constexpr char IntroOptions[] = "--type 1|2;--home DIR;--project DIR;--page N;--date TEXT;--pdf FILE;--png DIR;"
-                                       "--dpi N;--dxf DIR;--list FILE";
-static constexpr char SheetOptions[] = "--home DIR;--pdf FILE;--png DIR;--dpi N;--list FILE";
+static constexpr char IntroOptions[] = "--type 1|2;--home DIR;--project DIR;--date TEXT;--pdf FILE;--png DIR;--dpi N;"
+                                       "--dxf DIR;--list FILE";
+static constexpr char SectionOptions[] = "--home DIR;--project DIR;--date TEXT;--pdf FILE;--png DIR;--dpi N;--dxf DIR;"
+                                         "--list FILE";
+static constexpr char GuideOptions[] = "--home DIR;--pdf FILE;--png DIR;--dpi N;--list FILE";
 
 static constexpr BatchJob Jobs[] = {
     {"log", 2, 0, LogOptions, "FILE.BOR...", "the boring logs of saved borings"},
     {"intro", 2, 1, IntroOptions, "FILE.BOR...", "the intro pages of saved borings, one each"},
-    {"section", 4, 0, LogOptions, "FILE.CRO...", "cross sections, a page each"},
-    {"fence", 6, 0, LogOptions, "FILE.FEN...", "fence diagrams, a page each"},
-    {"soil", 8, 0, LogOptions, "FILE.SOI...", "the soil analysis tables of saved definitions"},
-    {"guide", 9, 0, SheetOptions, "", "the Fill Pattern Guide"},
+    {"section", 4, 0, SectionOptions, "FILE.CRO...", "cross sections, a page each"},
+    {"fence", 6, 0, SectionOptions, "FILE.FEN...", "fence diagrams, a page each"},
+    {"soil", 8, 0, SectionOptions, "FILE.SOI...", "the soil analysis tables of saved definitions"},
+    {"guide", 9, 0, GuideOptions, "", "the Fill Pattern Guide"},
     {"gis-add", 0, 0, "--home DIR", "FILE.BOR...",
      "adds borings to the table of a GIS file, which is made if it is not there", BatchWork::AddsToGis, "--gis FILE"},
     {"gis-export", 0, 0, "--home DIR", "FILE.GIS", "writes the table of a GIS file for another program",
@@ -198,27 +201,30 @@ std::string UsageText()
     text += "Jobs:\n";
     for (const BatchJob& job : Jobs)
         text += std::string("  ") + job.Name + std::string(17 - std::string_view(job.Name).size(), ' ') +
-                (job.Work == BatchWork::Draws ? "draws " : "") + job.ThatDraws + "\n";
+                (job.Work == BatchWork::Draws ? "draws " : "") + job.HelpLine + "\n";
     text +=
         "Options:\n"
-        "  --type 1|2     the arrangement of the intro pages (1)\n"
-        "  --home DIR     the working folder, with the set-up and the stock files (the\n"
-        "                 program's own folder; that of an installed program is Stratavue\n"
-        "                 in the user's data folder)\n"
-        "  --project DIR  the project folder (the folder of the first file)\n"
-        "  --page N       only page N of each boring; any other job's page is a single one\n"
-        "  --date TEXT    the text of the date line (today)\n"
-        "  --pdf FILE     all pages as one PDF\n"
-        "  --png DIR      each page as a picture, --dpi N dots to the inch (150)\n"
-        "  --dxf DIR      each page as a drawing\n"
-        "  --list FILE    the objects of all pages as lines of text\n"
-        "  --gis FILE     the table that borings are added to\n"
-        "  --arcview OUT  the table as ArcView reads it\n"
-        "  --evs OUT      the table as EVS reads it\n"
-        "  --map FILE     how the tables are converted, as the editor of the general conversion has saved it\n"
-        "  --name NAME    the new boring file, in the folder of the tables (the boring's own name)\n"
-        "  --template FILE the boring that gives prompts, report parts, layout and set-ups\n"
-        "  --out DIR      the folder of the tables that are written\n"
+        "  --type 1|2       the arrangement of the intro pages (1)\n"
+        "  --home DIR       the working folder, with the set-up and the stock files (the\n"
+        "                   program's own folder; that of an installed program is\n"
+        "                   Stratavue in the user's data folder)\n"
+        "  --project DIR    the project folder (the folder of the first file)\n"
+        "  --page N         only page N of each boring\n"
+        "  --date TEXT      the text of the date line (today)\n"
+        "  --pdf FILE       all pages as one PDF\n"
+        "  --png DIR        each page as a picture, --dpi N dots to the inch (150)\n"
+        "  --dxf DIR        each page as a drawing\n"
+        "  --list FILE      the objects of all pages as lines of text\n"
+        "  --gis FILE       the table that borings are added to\n"
+        "  --arcview OUT    the table as ArcView reads it\n"
+        "  --evs OUT        the table as EVS reads it\n"
+        "  --map FILE       how the tables are converted, as the editor of the general\n"
+        "                   conversion has saved it\n"
+        "  --name NAME      the new boring file, in the folder of the tables (the boring's\n"
+        "                   own name)\n"
+        "  --template FILE  the boring that gives prompts, report parts, layout and\n"
+        "                   set-ups\n"
+        "  --out DIR        the folder of the tables that are written\n"
         "Messages go to standard error, one line each. The exit status is 0 when all was done and no message but one\n"
         "that says so appeared, 1 when another appeared, and 2 for a wrong command line.\n";
     return text;

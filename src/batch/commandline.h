@@ -8,12 +8,12 @@
 enum class BatchWork { Draws, Converts, ConvertsTables, ConvertsByMap, AddsToGis, ExportsGis };
 
 struct BatchJob {
-    const char* Name;      // the first word of the command line
-    int16_t JobCode;       // the job of the batch dialog that it runs
-    int16_t ReportOption;  // the dialog's report choice; intro pages have two, told by --type
-    const char* Options;   // the options that it knows, in the order of its usage line
-    const char* Files;     // what it takes besides, for the usage line; "" for none, "[...]" for one or none
-    const char* ThatDraws; // its line of the help
+    const char* Name;     // the first word of the command line
+    int16_t JobCode;      // the job of the batch dialog that it runs
+    int16_t ReportOption; // the dialog's report choice; intro pages have two, told by --type
+    const char* Options;  // the options that it knows, in the order of its usage line
+    const char* Files;    // what it takes besides, for the usage line; "" for none, "[...]" for one or none
+    const char* HelpLine; // what it does; in the help behind "draws" where that is what it does
     BatchWork Work = BatchWork::Draws;
     const char* Needs = ""; // what it cannot do without: one of these options, as its usage line has them
 };

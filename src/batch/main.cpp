@@ -34,7 +34,7 @@
 #include <system_error>
 #include <unistd.h>
 
-enum ExitStatus { AllDrawn = 0, MessageAppeared = 1, WrongCommandLine = 2 };
+enum ExitStatus { AllDone = 0, MessageAppeared = 1, WrongCommandLine = 2 };
 
 static CommandLine Asked;
 static int MessageCount = 0; // but for announcements
@@ -46,13 +46,22 @@ static std::unique_ptr<PdfRun> Pdf; // from the first page on
 
 // ---- Messages
 
+// The file that the job is at: of a page, or of a table of the GIS; the conversions have no page, and step through the
+// files of their run. "" before and behind a run.
+static Text FileInHand()
+{
+    if (Asked.Job->Work != BatchWork::Converts && Asked.Job->Work != BatchWork::ConvertsTables)
+        return RunPages.pageFile;
+    return progressValue < runFileCount ? runFiles[progressValue + 1] : Text();
+}
+
 // One line on standard error. The same words for the same file come once: a bad heading file would be told at
 // every page.
 static void Say(const Text& words)
 {
     static std::set<std::pair<Text, Text>> said;
     ++MessageCount;
-    if (!said.insert({RunPages.pageFile, words}).second)
+    if (!said.insert({FileInHand(), words}).second)
         return;
     Text line;
     for (size_t i = 0; i < words.size(); ++i) {
@@ -420,7 +429,7 @@ int main(int argc, char** argv)
     Asked = ReadCommandLine({argv + 1, argv + argc});
     if (Asked.Help) {
         std::fputs(UsageText().c_str(), stdout);
-        return AllDrawn;
+        return AllDone;
     }
     if (!Asked.Wrong.empty()) {
         std::fprintf(stderr, "stratavue-batch: %s (see stratavue-batch --help)\n", Asked.Wrong.c_str());
@@ -451,5 +460,5 @@ int main(int argc, char** argv)
     }
     Pdf.reset();
     std::fflush(stderr);
-    return MessageCount == 0 ? AllDrawn : MessageAppeared;
+    return MessageCount == 0 ? AllDone : MessageAppeared;
 }

@@ -15,6 +15,13 @@ inline int ParamCells(const Text& version)
     return version == "5.0" ? 9 : 1 + GenParams;
 }
 
+// Whether client lines and the style stand behind the notes: form 5.0 has them from release 12 on ("5.0.12"). The
+// release stands behind one character, whatever that is.
+inline bool HasClient(const Text& version)
+{
+    return version.starts_with("5.0") && version.size() > 4 && TextNumber(version.substr(4)) >= 12;
+}
+
 template <int Rows>
 void ReadLines(LineReader& in, Slots<Text, Rows>& lines, int count = Rows)
 {

@@ -15,8 +15,6 @@
 #include "session/platform.h"
 #include "session/session.h"
 
-#include <algorithm>
-
 void (*OlderForms[3])() = {};
 
 // ---------------------------------------------------------------------------------------------------- reading
@@ -37,8 +35,7 @@ static void ReadTail(LineReader& in, const Text& version)
 {
     if (!version.starts_with("5.0"))
         return;
-    const Text release = version.substr(std::min<size_t>(version.size(), 4)); // "12" of "5.0.12"
-    if (TextNumber(release) >= 12) {
+    if (HasClient(version)) {
         ReadLines(in, BoringData.Client);
         BoringData.Style = RoundInt16(TextNumber(in.Line()));
     }

@@ -32,11 +32,31 @@ void SetFixedForm(std::span<const char* const> prompts, std::span<const FixedPar
     BoringData.LayoutFile = layout;
 }
 
+static Text BesideSource(const Text& source)
+{
+    return Text(Before(source, '.')) + ".bor";
+}
+
+void ConvertRunFiles(void (*convert)(const Text& source))
+{
+    const ConversionProgress progress(runFileCount);
+    for (int i = 1; i <= runFileCount; ++i) {
+        const Text& source = runFiles[i];
+        // The dialog lists no borings; a command line may name one.
+        if (SameFile(source, BesideSource(source)))
+            MsgBox("This file would be replaced by its own conversion and is left as it is: " + source, OkOnly,
+                   Exclamation);
+        else
+            convert(source);
+        incseg(1);
+    }
+}
+
 void WriteBesideSource(const Text& source, const Text& style, const Text& draft)
 {
     while (BoringData.RepPartCount > 0 && IsBlank(BoringData.RepParts[BoringData.RepPartCount].Item))
         --BoringData.RepPartCount;
-    const Text name = Text(Before(source, '.')) + ".bor";
+    const Text name = BesideSource(source);
     // A new file can be made again from its source; waiting for the disk after each one would be most of a long run.
     WriteBoring(name, style, draft, FileExists(name) ? Durability::Saved : Durability::Scratch);
 }

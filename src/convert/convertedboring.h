@@ -1,5 +1,5 @@
-// convertedboring.h -- what the converters share: the record before and behind a conversion, the name of the boring
-// beside its source, and the progress of a run.
+// convertedboring.h -- what the converters share: the record before and behind a conversion, the run over files
+// with a boring beside each, and its progress.
 #pragma once
 
 #include "session/text.h"
@@ -17,6 +17,10 @@ struct FixedPart {
 };
 // Title prompts, report parts and layout, and feet: what a form without a template gives every boring.
 void SetFixedForm(std::span<const char* const> prompts, std::span<const FixedPart> parts, const char* layout);
+
+// Converts each file of the run to a boring beside it, with the progress window. A file whose boring would take its own
+// place is told by name and passed over. Failures by number; one ends the run.
+void ConvertRunFiles(void (*convert)(const Text& source));
 
 // Writes BoringData beside its source, with the texts of Style and Draft given and without blank report parts at the
 // end. Failures by number. Kept: the name is the path up to its first ".", also where that stands in the name of a

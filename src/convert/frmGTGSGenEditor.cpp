@@ -186,6 +186,7 @@ void ShowGTGSGenEditor()
     Boxes boxes(window);
     window.before = [&boxes] { boxes.Take(); };
     window.refresh = [&boxes] { boxes.Show(); };
+    window.mayClose = frmGTGSGenEditor::mnuExit;
 
     QMenu* file = window.Part("mnuFile", "&File");
     window.Entry(file, "mnuOpenGTGSConvFile", "&Open GTGS Conversion File...", QKeySequence::Open,

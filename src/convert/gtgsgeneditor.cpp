@@ -4,13 +4,13 @@
 #include "convert/gtgsgeneral.h"
 #include "editors/borinput.h"
 #include "session/deviceconfig.h"
+#include "session/failure.h"
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
 
 #include <algorithm>
-#include <cmath>
 
 static const char* const caption = "GTGS General Conversion Editor";
 
@@ -36,7 +36,7 @@ static int16_t KindOf(const Text& cell)
 
 static int16_t Integer(const Text& text)
 {
-    return int16_t(std::nearbyint(std::clamp(TextNumber(text), -32768.0, 32767.0)));
+    return RoundInt16(TextNumber(text));
 }
 
 // The separator of the combination box for a mapping's, and back: comma, blank, tab.
@@ -72,25 +72,63 @@ static void ShowMapping()
     }
 }
 
+// The boxes into GtgsMapping: all of them or, where a number does not fit (failure 6), none.
 static void TakeMapping()
 {
     using namespace frmGTGSGenEditor;
-    const GtgsMappingRecord before = GtgsMapping;
-    GtgsMapping.templateFile = Dialog.Text1;
-    GtgsMapping.textPath = Dialog.Text2;
+    const GtgsMappingRecord& before = GtgsMapping;
+    GtgsMappingRecord taken = before;
+    taken.templateFile = Dialog.Text1;
+    taken.textPath = Dialog.Text2;
     // What the boxes show in one way and the file tells in several stays as the file had it.
     if (!Dialog.Option2)
-        GtgsMapping.fixedFields = 0;
+        taken.fixedFields = 0;
     else if (before.fixedFields == 0)
-        GtgsMapping.fixedFields = 2;
+        taken.fixedFields = 2;
     if (Dialog.Option2)
-        GtgsMapping.fieldSpec = Integer(Dialog.Text3);
+        taken.fieldSpec = Integer(Dialog.Text3);
     else if (before.fixedFields != 0 || SeparatorShown(before.fieldSpec) != Dialog.Combo1)
-        GtgsMapping.fieldSpec = SeparatorChosen(Dialog.Combo1);
+        taken.fieldSpec = SeparatorChosen(Dialog.Combo1);
     for (int row = 1; row <= MaxMapRows; ++row) {
-        GtgsMapping.fieldMap[row] = {KindOf(SS1.Cell(row, 1)), Integer(SS1.Cell(row, 2))};
-        GtgsMapping.fillMap[row] = {SS2.Cell(row, 1), SS2.Cell(row, 2)};
+        taken.fieldMap[row] = {KindOf(SS1.Cell(row, 1)), Integer(SS1.Cell(row, 2))};
+        taken.fillMap[row] = {SS2.Cell(row, 1), SS2.Cell(row, 2)};
     }
+    GtgsMapping = taken;
+}
+
+// What the boxes hold of the map, in one list. The name of the new boring is for one run and no part of it.
+static std::vector<Text> MapBoxes()
+{
+    using namespace frmGTGSGenEditor;
+    std::vector<Text> held{Dialog.Text1, Dialog.Text2, PlainNumber(int(Dialog.Option2)), PlainNumber(Dialog.Combo1),
+                           Dialog.Text3};
+    for (const Grid* grid : {&SS1, &SS2})
+        held.insert(held.end(), grid->cells.begin(), grid->cells.end());
+    return held;
+}
+
+// The boxes into the file. False: it was not written, which has been told; then they count as changed still.
+static bool WriteMap(const Text& name)
+{
+    using frmGTGSGenEditor::Dialog;
+    TakeMapping();
+    const int failures = FailuresReported;
+    SaveGTGSConversionFile(name);
+    if (FailuresReported != failures)
+        return false;
+    Dialog.Settled = MapBoxes();
+    return true;
+}
+
+// The question before a changed map would be dropped. False: the user has thought better of it, or wished to save and
+// nothing was saved.
+static bool SaveFirst(const char* question)
+{
+    using namespace frmGTGSGenEditor;
+    if (MapBoxes() == Dialog.Settled)
+        return true;
+    const int answer = MsgBox(question, YesNoCancel, Question);
+    return answer == Yes ? mnuSaveGTGSConvFile() : answer == No;
 }
 
 static void TitleByFile()
@@ -115,10 +153,13 @@ void frmGTGSGenEditor::Load()
     }
     GtgsMapping = GtgsMappingRecord();
     ShowMapping();
+    Dialog.Settled = MapBoxes();
 }
 
 void frmGTGSGenEditor::mnuOpenGTGSConvFile()
 {
+    if (!SaveFirst("Would you like to save the current file before opening another file?"))
+        return;
     DialogMode = 20;
     Platform.ShowChooser();
     if (DialogResult.empty())
@@ -126,32 +167,32 @@ void frmGTGSGenEditor::mnuOpenGTGSConvFile()
     Dialog.File = DialogResult;
     OpenGTGSConversionFile(Dialog.File);
     ShowMapping();
+    Dialog.Settled = MapBoxes();
     TitleByFile();
 }
 
-void frmGTGSGenEditor::mnuSaveGTGSConvFile()
+bool frmGTGSGenEditor::mnuSaveGTGSConvFile()
 {
-    if (Dialog.File.empty()) {
-        mnuSaveAs();
-        return;
-    }
-    TakeMapping();
-    SaveGTGSConversionFile(Dialog.File);
+    return Dialog.File.empty() ? mnuSaveAs() : WriteMap(Dialog.File);
 }
 
-void frmGTGSGenEditor::mnuSaveAs()
+bool frmGTGSGenEditor::mnuSaveAs()
 {
     DialogMode = 21;
     Platform.ShowChooser();
     if (DialogResult.empty())
-        return;
+        return false;
     const Text name = WithEnding(DialogResult, ".GCV");
-    if (!MayReplace(name))
-        return;
-    TakeMapping();
+    if (!MayReplace(name) || !WriteMap(name))
+        return false;
     Dialog.File = name;
-    SaveGTGSConversionFile(name);
     TitleByFile();
+    return true;
+}
+
+bool frmGTGSGenEditor::mnuExit()
+{
+    return SaveFirst("Would you like to save the current file before quitting?");
 }
 
 void frmGTGSGenEditor::Command1()
@@ -160,13 +201,16 @@ void frmGTGSGenEditor::Command1()
     Text name = NameFromHeaders;
     if (!Dialog.Option3) {
         name = NewBoringFile(Dialog.Text4);
-        if (IsBlank(Dialog.Text4)) {
+        if (Dialog.Text4.empty()) {
             MsgBox("Since you have left the New Boring File text box blank, the new boring file will be saved as "
                    "GTGS1.BOR",
                    OkOnly, Exclamation);
             name = JoinPath(ProjectPath, "GTGS1.BOR");
         }
     }
-    if (const Text made = ConvertGTGSGeneral(name); !made.empty())
+    const int failures = FailuresReported;
+    const Text made = ConvertGTGSGeneral(name);
+    // A write that fails is reported, and the conversion ends as it would with one that has not.
+    if (!made.empty() && FailuresReported == failures)
         frmBorinput::OpenNamed(made);
 }

@@ -14,15 +14,18 @@ struct Record {
     Text Text3;          // the length of a field
     bool Option3 = true; // the new file is named by the boring; else Option4, by Text4
     Text Text4;
-    Text File; // the .GCV file that is open; "" before the first one
+    Text File;                 // the .GCV file that is open; "" before the first one
+    std::vector<Text> Settled; // what the boxes of the map held when it was last opened, saved or begun with
 };
 extern Record Dialog;
 extern Grid SS1; // fields of headers.txt: where each goes, and the number of the row there
 extern Grid SS2; // GTGS fill codes and what they are here
 
 void Load(); // a new mapping
+// What would drop a map that has changed asks first.
 void mnuOpenGTGSConvFile();
-void mnuSaveGTGSConvFile();
-void mnuSaveAs();
-void Command1(); // Begin Conversion. The new boring is opened in the log tool, as by its Open
+bool mnuSaveGTGSConvFile(); // false: nothing was saved
+bool mnuSaveAs();
+bool mnuExit();  // false: the user stays
+void Command1(); // Begin Conversion. A new boring that could be written is opened in the log tool, as by its Open
 } // namespace frmGTGSGenEditor

@@ -91,7 +91,7 @@ static bool ReadTemplate()
 {
     static constexpr char invalid[] =
         "The Boring File to be used as a template has an invalid format, please use another.";
-    if (IsBlank(GtgsMapping.templateFile)) {
+    if (GtgsMapping.templateFile.empty()) {
         MsgBox("Please specify a Boring File to be used as a template for the converted GTGS data.", OkOnly,
                Exclamation);
         return false;

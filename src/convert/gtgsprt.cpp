@@ -207,6 +207,8 @@ static void ReadContacts(LineReader& in)
         BoringData.LithCount = std::min(BoringData.LithCount + 1, MaxLith);
         Slots<Text, 4>& contact = BoringData.Lith[BoringData.LithCount];
         contact[1] = Columns(line, 0, 9);
+        if (line.size() < 35)
+            continue; // it ends before its code, and a row that is replaced keeps the one it has
         contact[2] = Columns(line, 35, 14);
         if (contact[2].size() > 2)
             contact[2].insert(2, "-");
@@ -297,13 +299,7 @@ static void ConvertPrintFile(const Text& name)
 
 void ConvertGTGS2BOR()
 try {
-    {
-        const ConversionProgress progress(runFileCount);
-        for (int i = 1; i <= runFileCount; ++i) {
-            ConvertPrintFile(runFiles[i]);
-            incseg(1);
-        }
-    }
+    ConvertRunFiles(ConvertPrintFile);
     MsgBox("All .PRT Files Converted", OkOnly, Announcement);
 } catch (...) {
     ReportFailure(__func__);

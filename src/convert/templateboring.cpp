@@ -14,11 +14,6 @@ static void ReadParts(LineReader& in, BoringRecord& boring)
     }
 }
 
-static bool HasClient(const Text& version)
-{
-    return version.starts_with("5.0.") && TextNumber(version.substr(4)) >= 12;
-}
-
 void ReadBoringBlocks(LineReader& in, const Text& version, BoringRecord& boring, LastBlock last)
 {
     boring.Name = in.Line();

@@ -182,8 +182,6 @@ static void TakeTitle(const Text& line, int number)
         return;
     BoringData.Des[3 * number - 2] = "@" + PlainNumber(number) + ParagraphMark;
     BoringData.Des[3 * number - 1] = Value(line) + ParagraphMark;
-    if (3 * number > MaxDes)
-        throw RunTimeError{SubscriptOutOfRange};
     BoringData.DesCount = 3 * number;
 }
 
@@ -265,7 +263,8 @@ static void ReadRemarks(LineReader& in, Text section)
 
 // ---------------------------------------------------------------------------------------------------- the boring
 
-// The end depth in whole pages, and an increment that goes into it.
+// The end depth in whole pages, and the increment by its size and last character: 1 up to 20, 5 behind a 5 or 0, else
+// 2, whether or not that divides it. A page break at the end depth is none.
 static void SetScale(int maxDepth)
 {
     const float page = static_cast<float>(TextNumber(BoringData.Scale[3]));
@@ -335,13 +334,7 @@ static void ConvertLogFile(const Text& name)
 
 void ConvertWinLog()
 try {
-    {
-        const ConversionProgress progress(runFileCount);
-        for (int i = 1; i <= runFileCount; ++i) {
-            ConvertLogFile(runFiles[i]);
-            incseg(1);
-        }
-    }
+    ConvertRunFiles(ConvertLogFile);
     MsgBox("All .LOG Files Converted", OkOnly, Announcement);
 } catch (...) {
     ReportFailure(__func__);

@@ -160,6 +160,13 @@ bool FileExists(const Text& name)
     return path.find('\0') == std::string::npos && !IsFolder(path) && ::access(path.c_str(), R_OK) == 0;
 }
 
+bool SameFile(const Text& a, const Text& b)
+{
+    struct stat one, other;
+    return ::stat(NativePath(a).c_str(), &one) == 0 && ::stat(NativePath(b).c_str(), &other) == 0 &&
+           one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+}
+
 bool FolderWritable(const Text& path)
 {
     if (path.empty())

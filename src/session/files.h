@@ -12,8 +12,9 @@
 // The path to use for a name, in the machine's own encoding. Without a match the name as written.
 std::string NativePath(const Text& name);
 
-bool FileExists(const Text& name);     // a file that can be opened for input; "" and folders are not
-bool FolderWritable(const Text& path); // writes and deletes a probe there; the only test that a folder exists
+bool FileExists(const Text& name);           // a file that can be opened for input; "" and folders are not
+bool SameFile(const Text& a, const Text& b); // both are there, and are one file by two names, links followed
+bool FolderWritable(const Text& path);       // writes and deletes a probe there; the only test that a folder exists
 Text JoinPath(const Text& folder, const Text& name); // the machine's separator between, unless folder ends in one
 bool EndsInSeparator(const Text& folder);
 Text BaseName(const Text& name);   // behind the last "\", "/" or ":"

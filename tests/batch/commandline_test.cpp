@@ -6,6 +6,8 @@
 #include "session/deviceconfig.h"
 #include "session/session.h"
 
+#include <sstream>
+
 TEST_CASE("a log's command line: options in any order, files with full paths")
 {
     const CommandLine line =
@@ -62,6 +64,10 @@ TEST_CASE("a wrong command line is told in one line, with no job")
         {{"intro", "--type", "1"}, "no file given for intro"},
         {{"guide", "B-1.BOR"}, "guide takes no file"},
         {{"guide", "--dxf", "o"}, "unknown option for guide: --dxf"},
+        {{"intro", "--page", "1", "B-1.BOR"}, "unknown option for intro: --page"},
+        {{"section", "--page", "1", "A.CRO"}, "unknown option for section: --page"},
+        {{"fence", "--page", "1", "A.FEN"}, "unknown option for fence: --page"},
+        {{"soil", "--page", "1", "A.SOI"}, "unknown option for soil: --page"},
         {{"soil"}, "no file given for soil"},
         {{"soil", "--gis", "a.GIS", "a.SOI"}, "unknown option for soil: --gis"},
         {{"gis-add", "B-1.BOR"}, "gis-add takes --gis FILE"},
@@ -93,12 +99,11 @@ TEST_CASE("intro pages run as the print job with the report choice of their type
     CHECK(line.Files.size() == 1);
 }
 
-TEST_CASE("cross sections run as the print job, with the options of a log")
+TEST_CASE("cross sections run as the print job, with the options of a log but for its page")
 {
     const CommandLine line =
-        ReadCommandLine({"section", "--home", "/h",    "--project", "/p",    "--page",   "2",
-                         "--date",  "x",      "--pdf", "/o/p",      "--png", "/o",       "--dpi",
-                         "72",      "--dxf",  "/o",    "--list",    "/o/l",  "/a/A.CRO", "/a/B.CRO"});
+        ReadCommandLine({"section", "--home", "/h", "--project", "/p", "--date", "x", "--pdf", "/o/p", "--png", "/o",
+                         "--dpi", "72", "--dxf", "/o", "--list", "/o/l", "/a/A.CRO", "/a/B.CRO"});
     CHECK(line.Wrong == "");
     CHECK(line.Job->JobCode == 4);
     CHECK(line.ReportOption == 0);
@@ -142,8 +147,9 @@ TEST_CASE("the help has a usage line for each job")
     const std::string text = UsageText();
     CHECK(text.find("stratavue-batch log [--home DIR] [--project DIR] [--page N] [--date TEXT] [--pdf FILE] "
                     "[--png DIR [--dpi N]] [--dxf DIR] [--list FILE] FILE.BOR...\n") != std::string::npos);
-    CHECK(text.find("stratavue-batch intro [--type 1|2] [--home DIR]") != std::string::npos);
-    CHECK(text.find("stratavue-batch section [--home DIR] [--project DIR] [--page N] [--date TEXT] [--pdf FILE] "
+    CHECK(text.find("stratavue-batch intro [--type 1|2] [--home DIR] [--project DIR] [--date TEXT]") !=
+          std::string::npos);
+    CHECK(text.find("stratavue-batch section [--home DIR] [--project DIR] [--date TEXT] [--pdf FILE] "
                     "[--png DIR [--dpi N]] [--dxf DIR] [--list FILE] FILE.CRO...\n") != std::string::npos);
     CHECK(text.find("stratavue-batch guide [--home DIR] [--pdf FILE] [--png DIR [--dpi N]] [--list FILE]\n") !=
           std::string::npos);
@@ -152,6 +158,27 @@ TEST_CASE("the help has a usage line for each job")
           std::string::npos);
     CHECK(text.find("soil             draws the soil analysis tables") != std::string::npos);
     CHECK(text.find("gis-add          adds borings") != std::string::npos);
+}
+
+TEST_CASE("the words of the help about jobs and options begin in one column")
+{
+    const std::string text = UsageText();
+    const size_t from = text.find("Jobs:\n"), to = text.find("Messages go to");
+    REQUIRE(from < to);
+    REQUIRE(to < text.size());
+    std::istringstream lines(text.substr(from, to - from));
+    int described = 0;
+    for (std::string line; std::getline(lines, line);) {
+        if (!line.starts_with(' '))
+            continue; // a heading
+        ++described;
+        INFO(line);
+        REQUIRE(line.size() > 19);
+        CHECK(line[18] == ' ');
+        CHECK(line[19] != ' ');
+        CHECK(line.size() <= 120);
+    }
+    CHECK(described > 25);
 }
 
 TEST_CASE("without windows the set-up is read and never written, and a missing one is no message")

@@ -94,12 +94,40 @@ class Convert(unittest.TestCase):
         self.run_batch("convert-prt", "./ordinary.PRT", "../prt/pages.PRT", cwd=self.path("prt"))
         self.check_kept("prt", ["ordinary.bor", "pages.bor"])
 
+    def test_a_boring_among_the_files_to_convert_is_refused_and_stays(self):
+        template = ("--template", self.path("log/template.BOR"))
+        for job, options, names in (("convert-prt", (), ["prt/ordinary.PRT", "prt/B.BOR", "prt/pages.PRT"]),
+                                    ("convert-log", template, ["log/B.BOR", "log/thirds.LOG", "log/nopage.LOG"])):
+            boring = next(name for name in names if name.endswith(".BOR"))
+            shutil.copy(self.path("log/template.BOR"), self.path(boring))
+            told = self.run_batch(job, *options, *names, status=1)
+            self.assertEqual(told.splitlines(), [
+                f"This file would be replaced by its own conversion and is left as it is: {self.path(boring)}",
+                f"All .{job[-3:].upper()} Files Converted"])
+            self.assertTrue(filecmp.cmp(self.path(boring), self.path("log/template.BOR"), shallow=False))
+            self.check_kept(job[-3:], [os.path.basename(name)[:-3] + "bor" for name in names if name != boring])
+
     def test_winlog_files(self):
         names = ("ordinary", "short", "thirds", "nopage")
         told = self.run_batch("convert-log", "--template", "log/template.BOR", *(f"log/{name}.LOG" for name in names))
         self.assertEqual(told, "All .LOG Files Converted\n")
         self.check_kept("log", [name + ".bor" for name in names])
         self.run_batch("convert-log", "log/ordinary.LOG")
+
+    def test_the_same_failure_is_told_once_for_each_file(self):
+        with open(self.path("foreign.BOR"), "w") as foreign:
+            foreign.write("4.6\r\n")
+        told = self.run_batch("convert-log", "--template", "foreign.BOR", "log/ordinary.LOG", "log/short.LOG", status=1)
+        self.assertEqual(told.splitlines(), ["This boring file has an invalid format."] * 2 +
+                         ["All .LOG Files Converted"])
+        for name in ("B-1.bor", "B-3.bor"):
+            os.mkdir(self.path("txt/" + name))
+        told = self.run_batch("convert-txt", "txt", status=1)
+        self.assertEqual(told.splitlines()[1:], ["Error 75 in WriteConvertedBoring.  Please contact Norvane"] * 2 +
+                         ["All .TXT Files Converted"])
+        # A file that is given twice is one file.
+        told = self.run_batch("convert-log", "--template", "foreign.BOR", "log/short.LOG", "log/short.LOG", status=1)
+        self.assertEqual(told.splitlines(), ["This boring file has an invalid format.", "All .LOG Files Converted"])
 
     def test_a_file_that_stops_early_ends_the_run(self):
         told = self.run_batch("convert-log", "log/early.LOG", "log/short.LOG", status=1)

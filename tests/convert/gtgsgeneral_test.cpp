@@ -6,6 +6,7 @@
 
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
+#include "session/failure.h"
 #include "session/files.h"
 #include "session/session.h"
 
@@ -162,6 +163,32 @@ TEST_CASE("a template of an older form has no client lines")
     Open("x.bor");
     CHECK(BoringData.Client[1] == "");
     CHECK(BoringData.Info[1][1] == "Prompt 1");
+}
+
+TEST_CASE("the client lines of a template go by its release as the editor reads it, whatever stands before the number")
+{
+    OwnMap();
+    std::string bytes = ConvertData("general/template.BOR");
+    const size_t versionEnd = bytes.find('\r');
+    for (const auto& [version, client] : {std::pair<const char*, bool>("5.0.12", true),
+                                          {"5.0-12", true},
+                                          {"5.0 12", true},
+                                          {"5.0112", true},
+                                          {"5.0.11", false},
+                                          {"5.012", false},
+                                          {"5.1.12", false}}) {
+        INFO(Text(version));
+        WriteScratch("t.BOR", version + bytes.substr(versionEnd));
+        Open("t.BOR");
+        const Text read = BoringData.Client[1];
+        GtgsMapping.templateFile = Scratch("t.BOR");
+        ConvertGTGSGeneral(Scratch("x.bor"));
+        CHECK(Told() == std::vector<Text>{Created("x.bor")});
+        Open("x.bor");
+        CHECK(BoringData.Client[1] == read);
+        CHECK(read.empty() != client);
+        std::filesystem::remove(Scratch("x.bor"));
+    }
 }
 
 TEST_CASE("a folder that is not there, and each table that is not, are told by their paths")
@@ -391,6 +418,34 @@ TEST_CASE("the new boring is opened in the log tool, and unsaved work there is a
     CHECK(frmBorinput::Text1 == "typed");
 }
 
+TEST_CASE("a new boring that could not be written is not opened, nor is an older one in its place")
+{
+    CopyData("general");
+    frmGTGSGenEditor::Load();
+    Dialog.Text1 = "template";
+    Dialog.Option3 = false;
+    Dialog.Text4 = "none/x";
+    BoringFileName = Scratch("open.BOR");
+    frmBorinput::Text1 = "typed";
+    frmGTGSGenEditor::Command1();
+    CHECK(Told() ==
+          std::vector<Text>{"Error 76 in WriteConvertedBoring.  Please contact Norvane", Created("none/x.bor")});
+    CHECK(BoringFileName == Scratch("open.BOR"));
+    CHECK(frmBorinput::Text1 == "typed");
+    // A name that leaves no room for a temporary file beside it.
+    const Text longName(250, 'a');
+    WriteScratch(longName + ".bor", "older");
+    Dialog.Text4 = longName;
+    Messages.clear();
+    Answers = {Yes};
+    frmGTGSGenEditor::Command1();
+    REQUIRE(Messages.size() == 3);
+    CHECK(Messages[1].words.find(" in WriteConvertedBoring.") != Text::npos);
+    CHECK(ReadScratch(longName + ".bor") == "older");
+    CHECK(BoringFileName == Scratch("open.BOR"));
+    CHECK(frmBorinput::Text1 == "typed");
+}
+
 TEST_CASE("a template without a folder is one of the project folder, and one with a folder is taken as it is")
 {
     OwnMap();
@@ -438,10 +493,10 @@ TEST_CASE(
 TEST_CASE("a chooser that is cancelled opens and saves no map")
 {
     frmGTGSGenEditor::Load();
-    Dialog.Text1 = "typed";
     Choose("");
     frmGTGSGenEditor::mnuOpenGTGSConvFile();
-    frmGTGSGenEditor::mnuSaveGTGSConvFile();
+    Dialog.Text1 = "typed";
+    CHECK_FALSE(frmGTGSGenEditor::mnuSaveGTGSConvFile());
     CHECK(Dialog.Text1 == "typed");
     CHECK(Dialog.File == "");
     CHECK(Dialog.Title == "GTGS General Conversion Editor");
@@ -469,4 +524,202 @@ TEST_CASE("the last rows of a map's grids are saved as the first are")
         CHECK(GtgsMapping.fieldMap[row].kind == 4);
         CHECK(GtgsMapping.fieldMap[row].number == 14);
     }
+}
+
+TEST_CASE("a number beyond 16 bits is failure 6, and neither the map nor its file nor a boring takes anything")
+{
+    CopyData("general");
+    frmGTGSGenEditor::Load();
+    Choose(Scratch("comma.GCV"));
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    const std::string bytes = ReadScratch("comma.GCV");
+    const auto nothingTaken = [&bytes] {
+        CHECK(FailureOf([] { frmGTGSGenEditor::mnuSaveGTGSConvFile(); }) == Overflow);
+        CHECK(FailureOf([] { frmGTGSGenEditor::mnuSaveAs(); }) == Overflow);
+        CHECK(FailureOf(frmGTGSGenEditor::Command1) == Overflow);
+        CHECK(GtgsMapping.templateFile == "template");
+        CHECK(GtgsMapping.fixedFields == 0);
+        CHECK(GtgsMapping.fieldSpec == 1);
+        CHECK(GtgsMapping.fieldMap[25].number == 0);
+        CHECK(GtgsMapping.fillMap[1].uscs == "FB");
+        CHECK(Dialog.File == Scratch("comma.GCV"));
+        CHECK(ReadScratch("comma.GCV") == bytes);
+        CHECK_FALSE(FileExists(Scratch("new.GCV")));
+        CHECK_FALSE(FileExists(Scratch("GB-7.bor")));
+    };
+    Choose(Scratch("new"));
+    Dialog.Text1 = "typed";
+    SS2.Cell(1, 2) = "GW";
+    SS1.Cell(25, 2) = "40000";
+    nothingTaken();
+    SS1.Cell(25, 2) = "-32769";
+    nothingTaken();
+    SS1.Cell(25, 2) = "";
+    Dialog.Option2 = true;
+    Dialog.Text3 = "32768";
+    nothingTaken();
+    Dialog.Text3 = "32767";
+    frmGTGSGenEditor::mnuSaveGTGSConvFile();
+    CHECK(GtgsMapping.fieldSpec == 32767);
+    CHECK(Told() == std::vector<Text>());
+}
+
+TEST_CASE("blanks are a template's name and a new file's name as any other: only a box without a character is empty")
+{
+    OwnMap();
+    GtgsMapping.templateFile = " ";
+    CHECK(ConvertGTGSGeneral(Scratch("x.bor")) == "");
+    CHECK(Told() == std::vector<Text>{"The Boring File to be used as a template was not found, please try again."});
+    std::filesystem::copy(Scratch("template.BOR"), Scratch(" .bor"));
+    Messages.clear();
+    CHECK(ConvertGTGSGeneral(Scratch("x.bor")) == Scratch("x.bor"));
+    frmGTGSGenEditor::Load();
+    Dialog.Text1 = "template";
+    Dialog.Option3 = false;
+    Dialog.Text4 = "  ";
+    Messages.clear();
+    frmGTGSGenEditor::Command1();
+    CHECK(Told() == std::vector<Text>{Created("  .bor")});
+    CHECK(FileExists(Scratch("  .bor")));
+}
+
+static const Text quitting = "Would you like to save the current file before quitting?";
+static const Text opening = "Would you like to save the current file before opening another file?";
+
+// The editor with a map of the scratch folder open.
+static void OpenMap(const Text& name)
+{
+    frmGTGSGenEditor::Load();
+    Choose(Scratch(name));
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+}
+
+TEST_CASE("the map's editor is left without a question while its boxes are as begun with, opened or saved")
+{
+    CopyData("general");
+    frmGTGSGenEditor::Load();
+    CHECK(frmGTGSGenEditor::mnuExit());
+    Choose(Scratch("comma.GCV"));
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    CHECK(frmGTGSGenEditor::mnuExit());
+    Dialog.Text1 = "typed";
+    frmGTGSGenEditor::mnuSaveGTGSConvFile();
+    CHECK(frmGTGSGenEditor::mnuExit());
+    SS1.Cell(1, 2) = "7";
+    Choose(Scratch("new"));
+    frmGTGSGenEditor::mnuSaveAs();
+    CHECK(frmGTGSGenEditor::mnuExit());
+    SS1.Cell(1, 2) = "8";
+    SS1.Cell(1, 2) = "7"; // as it was
+    CHECK(frmGTGSGenEditor::mnuExit());
+    // The name of the new boring is for one run and in no file.
+    Dialog.Option3 = false;
+    Dialog.Text4 = "mine";
+    CHECK(frmGTGSGenEditor::mnuExit());
+    Choose(Scratch("comma.GCV"));
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    CHECK(Told() == std::vector<Text>());
+}
+
+TEST_CASE("a change in any box of the map is asked about before the editor is left")
+{
+    CopyData("general");
+    static void (*const changes[])() = {
+        [] { Dialog.Text1 = "typed"; }, [] { Dialog.Text2 = "/typed"; }, [] { Dialog.Option2 = true; },
+        [] { Dialog.Combo1 = 2; },      [] { Dialog.Text3 = "5"; },      [] { SS1.Cell(25, 1) = "Well Info"; },
+        [] { SS1.Cell(25, 2) = "1"; },  [] { SS2.Cell(25, 1) = "1"; },   [] { SS2.Cell(25, 2) = "GW"; }};
+    for (void (*change)() : changes) {
+        OpenMap("comma.GCV");
+        change();
+        Messages.clear();
+        Answers = {Cancel};
+        CHECK_FALSE(frmGTGSGenEditor::mnuExit());
+        CHECK(Told() == std::vector<Text>{quitting});
+        CHECK(Messages[0].buttons == YesNoCancel);
+        CHECK(Messages[0].icon == Question);
+    }
+}
+
+TEST_CASE("leaving the map's editor: Yes saves, No drops, Cancel stays")
+{
+    CopyData("general");
+    const std::string bytes = ReadScratch("comma.GCV");
+    OpenMap("comma.GCV");
+    Dialog.Text1 = "typed";
+    Answers = {Cancel, No, Yes};
+    CHECK_FALSE(frmGTGSGenEditor::mnuExit());
+    CHECK(Dialog.Text1 == "typed");
+    CHECK(frmGTGSGenEditor::mnuExit());
+    CHECK(ReadScratch("comma.GCV") == bytes);
+    CHECK(frmGTGSGenEditor::mnuExit());
+    CHECK(ReadScratch("comma.GCV").starts_with("typed\r\n"));
+    CHECK(Told() == std::vector<Text>{quitting, quitting, quitting});
+    CHECK(frmGTGSGenEditor::mnuExit());
+    CHECK(Messages.size() == 3);
+}
+
+TEST_CASE("a map without a name is saved through Save As, and one that was not saved is not left")
+{
+    frmGTGSGenEditor::Load();
+    Dialog.Text1 = "typed";
+    Choose("");
+    Answers = {Yes};
+    CHECK_FALSE(frmGTGSGenEditor::mnuExit()); // the chooser was cancelled
+    WriteScratch("m.GCV", "older");
+    Choose(Scratch("m"));
+    Answers = {Yes, No};
+    CHECK_FALSE(frmGTGSGenEditor::mnuExit()); // the older file stays
+    CHECK(ReadScratch("m.GCV") == "older");
+    Choose(Scratch("none/m"));
+    Answers = {Yes, Ok};
+    Messages.clear();
+    CHECK_FALSE(frmGTGSGenEditor::mnuExit()); // it could not be written
+    CHECK(Told() == std::vector<Text>{quitting, "Error 76 in SaveGTGSConversionFile.  Please contact Norvane"});
+    CHECK(Dialog.File == "");
+    CHECK(Dialog.Title == "GTGS General Conversion Editor");
+    Choose(Scratch("n"));
+    Answers = {Yes};
+    CHECK(frmGTGSGenEditor::mnuExit());
+    CHECK(ReadScratch("n.GCV").starts_with("typed\r\n"));
+    SS1.Cell(1, 2) = "40000";
+    Answers = {Yes};
+    CHECK(FailureOf([] { frmGTGSGenEditor::mnuExit(); }) == Overflow);
+}
+
+TEST_CASE("another map is opened once the one in the boxes has been asked about: Yes saves, No drops, Cancel stays")
+{
+    CopyData("general");
+    const std::string bytes = ReadScratch("comma.GCV");
+    OpenMap("comma.GCV");
+    static int choosers;
+    choosers = 0;
+    Platform.ShowChooser = [] {
+        ++choosers;
+        DialogResult = chosen;
+    };
+    chosen = Scratch("fixed.GCV");
+    Dialog.Text1 = "typed";
+    Answers = {Cancel};
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    CHECK(Told() == std::vector<Text>{opening});
+    CHECK(choosers == 0);
+    CHECK(Dialog.Text1 == "typed");
+    // At No nothing is dropped before a file is chosen.
+    chosen = "";
+    Answers = {No};
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    CHECK(Dialog.Text1 == "typed");
+    chosen = Scratch("fixed.GCV");
+    Answers = {No};
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    CHECK(Dialog.File == Scratch("fixed.GCV"));
+    CHECK(ReadScratch("comma.GCV") == bytes);
+    CHECK(Told() == std::vector<Text>{opening, opening, opening});
+    Dialog.Text1 = "typed";
+    chosen = Scratch("comma.GCV");
+    Answers = {Yes};
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    CHECK(ReadScratch("fixed.GCV").starts_with("typed\r\n"));
+    CHECK(Dialog.File == Scratch("comma.GCV"));
+    CHECK(Dialog.Text1 == "template");
 }

@@ -123,6 +123,24 @@ TEST_CASE("contacts beyond 100 take the place of the last one")
     CHECK(BoringData.Lith[100][1] == "40");
 }
 
+TEST_CASE("a contact line too short for a code leaves the last row the code that it has")
+{
+    std::string rows;
+    for (int i = 1; i < 100; ++i)
+        rows += "      " + std::to_string(i) + " )\r\n";
+    const auto lastContact = [&rows](const std::string& line) {
+        ConvertChanged("ordinary.PRT", {{"      not a row\r\n", rows}, {"      40       3) short  ", "      " + line}});
+        CHECK(BoringData.LithCount == 100);
+        CHECK(BoringData.Lith[100][1] == "40");
+        return BoringData.Lith[100][2];
+    };
+    CHECK(lastContact("40       3) short") == "CL-ML");
+    CHECK(lastContact("40       3)" + std::string(23, ' ')) == "CL-ML");
+    // With 35 characters there is a code, and it is blank.
+    CHECK(lastContact("40       3)" + std::string(24, ' ')) == "");
+    CHECK(lastContact("40       3)" + std::string(24, ' ') + "SMSC") == "SM-SC");
+}
+
 TEST_CASE("description lines join with a blank, a line with a dot forces marks on both sides, and notes are lines")
 {
     ConvertChanged("ordinary.PRT", {{".L=5.0", ". Dense"}, {"second", ". second"}});

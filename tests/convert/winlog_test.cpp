@@ -114,7 +114,8 @@ TEST_CASE("a template that ends early or has a count above its bound is a run-ti
     CHECK(ErrorOf({}) == "Error 53 in ConvertWinLog.  Please contact Norvane");
 }
 
-TEST_CASE("the end depth is the next whole number of pages, with an increment that goes into it")
+TEST_CASE(
+    "the end depth is the next whole number of pages, and the increment 1 up to 20, 5 behind a last 5 or 0, else 2")
 {
     struct Case {
         const char *depth, *page, *end, *increment, *pageBreak;

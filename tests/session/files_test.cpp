@@ -128,6 +128,17 @@ TEST_CASE("a save keeps the mode of the file and goes through a link")
     CHECK((status.st_mode & 0777) == 0640);
 }
 
+TEST_CASE("two names are one file in another case of their letters and through links, and a file not there is none")
+{
+    WriteScratch("a.BOR", "x");
+    WriteScratch("b.bor", "x");
+    std::filesystem::create_symlink(Scratch("a.BOR"), Scratch("link.PRT"));
+    CHECK(SameFile(Scratch("a.BOR"), Scratch("A.bor")));
+    CHECK(SameFile(Scratch("link.PRT"), Scratch("a.bor")));
+    CHECK_FALSE(SameFile(Scratch("a.BOR"), Scratch("b.bor")));
+    CHECK_FALSE(SameFile(Scratch("none.bor"), Scratch("none.bor")));
+}
+
 TEST_CASE("a folder is writable when the probe can be written and deleted there")
 {
     CHECK(FolderWritable(ScratchFolder()));

@@ -175,3 +175,42 @@ TEST_CASE("the conversion editor: a map is opened, typed in and saved, and Begin
     CHECK(Find<QTableView>(log, "SSLith")->model()->index(0, 1).data().toString() == "FB");
     FileChanged = 0;
 }
+
+TEST_CASE("a changed map is asked about before another is opened and before the window goes, by menu or by its corner")
+{
+    QMainWindow* log = LogWindow();
+    ProjectPath = DataFolder("general");
+    static const char* const quitting = "Would you like to save the current file before quitting?";
+    Then("frmGTGSGenEditor", [](QWidget* window) {
+        Choose(ProjectPath + "/comma.GCV");
+        ClickMenu(window, "mnuFile", "mnuOpenGTGSConvFile");
+        auto* boring = Find<QLineEdit>(window, "Text1");
+        boring->setFocus();
+        TypeWords(window, "s");
+        ThenAnswer("Would you like to save the current file before opening another file?", "Cancel");
+        Choose(ProjectPath + "/fixed.GCV");
+        ClickMenu(window, "mnuFile", "mnuOpenGTGSConvFile");
+        CHECK(boring->text() == "templates");
+        ThenAnswer(quitting, "Cancel");
+        ClickMenu(window, "mnuFile", "mnuExit");
+        CHECK(window->isVisible());
+        // A cell that is still being typed in counts, and a number that does not fit keeps the window.
+        auto* fields = Find<QTableView>(window, "SS1");
+        fields->setFocus();
+        fields->setCurrentIndex(fields->model()->index(24, 1));
+        Settle();
+        TypeWords(window, "40000");
+        ThenAnswer(quitting, "Yes");
+        ThenAnswer("Run-time error 6", "OK");
+        window->close();
+        CHECK(window->isVisible());
+        CHECK(frmGTGSGenEditor::SS1.Cell(25, 2) == "40000");
+        CHECK(ReadScratch("tables/comma.GCV") == Kept("general/comma.GCV"));
+        ThenAnswer(quitting, "No");
+        window->close();
+        CHECK_FALSE(window->isVisible());
+    });
+    ClickMenu(log, "mnuUtilities", "mnuConvertGTGSgeneral");
+    CheckAllDone();
+    CHECK(ReadScratch("tables/comma.GCV") == Kept("general/comma.GCV"));
+}

@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
@@ -54,6 +55,13 @@ void EditorWindow::reject()
         before();
     if (!mayClose || mayClose())
         QDialog::reject();
+}
+
+void EditorWindow::closeEvent(QCloseEvent* event)
+{
+    event->ignore(); // a save on the way out that fails leaves by the failure, and the window is to stay
+    reject();
+    event->setAccepted(!isVisible());
 }
 
 void EditorWindow::keyPressEvent(QKeyEvent* event)
