@@ -5,21 +5,19 @@
 
 #include <algorithm>
 
-// Only a log has several pages to choose from.
+// The jobs that draw pages of files take the options of a log, --page too, whose page of a single one is that one.
 static constexpr char LogOptions[] = "--home DIR;--project DIR;--page N;--date TEXT;--pdf FILE;--png DIR;--dpi N;"
                                      "--dxf DIR;--list FILE";
-static constexpr char IntroOptions[] = "--type 1|2;--home DIR;--project DIR;--date TEXT;--pdf FILE;--png DIR;--dpi N;"
-                                       "--dxf DIR;--list FILE";
-static constexpr char SectionOptions[] = "--home DIR;--project DIR;--date TEXT;--pdf FILE;--png DIR;--dpi N;--dxf DIR;"
-                                         "--list FILE";
+static constexpr char IntroOptions[] = "--type 1|2;--home DIR;--project DIR;--page N;--date TEXT;--pdf FILE;--png DIR;"
+                                       "--dpi N;--dxf DIR;--list FILE";
 static constexpr char GuideOptions[] = "--home DIR;--pdf FILE;--png DIR;--dpi N;--list FILE";
 
 static constexpr BatchJob Jobs[] = {
     {"log", 2, 0, LogOptions, "FILE.BOR...", "the boring logs of saved borings"},
     {"intro", 2, 1, IntroOptions, "FILE.BOR...", "the intro pages of saved borings, one each"},
-    {"section", 4, 0, SectionOptions, "FILE.CRO...", "cross sections, a page each"},
-    {"fence", 6, 0, SectionOptions, "FILE.FEN...", "fence diagrams, a page each"},
-    {"soil", 8, 0, SectionOptions, "FILE.SOI...", "the soil analysis tables of saved definitions"},
+    {"section", 4, 0, LogOptions, "FILE.CRO...", "cross sections, a page each"},
+    {"fence", 6, 0, LogOptions, "FILE.FEN...", "fence diagrams, a page each"},
+    {"soil", 8, 0, LogOptions, "FILE.SOI...", "the soil analysis tables of saved definitions"},
     {"guide", 9, 0, GuideOptions, "", "the Fill Pattern Guide"},
     {"gis-add", 0, 0, "--home DIR", "FILE.BOR...",
      "adds borings to the table of a GIS file, which is made if it is not there", BatchWork::AddsToGis, "--gis FILE"},
@@ -209,7 +207,7 @@ std::string UsageText()
         "                   program's own folder; that of an installed program is\n"
         "                   Stratavue in the user's data folder)\n"
         "  --project DIR    the project folder (the folder of the first file)\n"
-        "  --page N         only page N of each boring\n"
+        "  --page N         only page N of each boring; any other job's page is a single one\n"
         "  --date TEXT      the text of the date line (today)\n"
         "  --pdf FILE       all pages as one PDF\n"
         "  --png DIR        each page as a picture, --dpi N dots to the inch (150)\n"

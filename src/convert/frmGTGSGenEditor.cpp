@@ -170,10 +170,10 @@ void Boxes::Take()
 {
     grid1->FinishEdit();
     grid2->FinishEdit();
-    Dialog.Text1 = FromUi(text1->text());
-    Dialog.Text2 = FromUi(text2->text());
-    Dialog.Text3 = FromUi(text3->text());
-    Dialog.Text4 = FromUi(text4->text());
+    Dialog.Text1 = LineFromUi(text1->text());
+    Dialog.Text2 = LineFromUi(text2->text());
+    Dialog.Text3 = LineFromUi(text3->text());
+    Dialog.Text4 = LineFromUi(text4->text());
     Dialog.Option2 = option2->isChecked();
     Dialog.Combo1 = combo1->currentIndex();
     Dialog.Option3 = option3->isChecked();

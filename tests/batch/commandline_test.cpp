@@ -64,10 +64,6 @@ TEST_CASE("a wrong command line is told in one line, with no job")
         {{"intro", "--type", "1"}, "no file given for intro"},
         {{"guide", "B-1.BOR"}, "guide takes no file"},
         {{"guide", "--dxf", "o"}, "unknown option for guide: --dxf"},
-        {{"intro", "--page", "1", "B-1.BOR"}, "unknown option for intro: --page"},
-        {{"section", "--page", "1", "A.CRO"}, "unknown option for section: --page"},
-        {{"fence", "--page", "1", "A.FEN"}, "unknown option for fence: --page"},
-        {{"soil", "--page", "1", "A.SOI"}, "unknown option for soil: --page"},
         {{"soil"}, "no file given for soil"},
         {{"soil", "--gis", "a.GIS", "a.SOI"}, "unknown option for soil: --gis"},
         {{"gis-add", "B-1.BOR"}, "gis-add takes --gis FILE"},
@@ -99,11 +95,12 @@ TEST_CASE("intro pages run as the print job with the report choice of their type
     CHECK(line.Files.size() == 1);
 }
 
-TEST_CASE("cross sections run as the print job, with the options of a log but for its page")
+TEST_CASE("cross sections run as the print job, with the options of a log")
 {
     const CommandLine line =
-        ReadCommandLine({"section", "--home", "/h", "--project", "/p", "--date", "x", "--pdf", "/o/p", "--png", "/o",
-                         "--dpi", "72", "--dxf", "/o", "--list", "/o/l", "/a/A.CRO", "/a/B.CRO"});
+        ReadCommandLine({"section", "--home", "/h",    "--project", "/p",    "--page",   "2",
+                         "--date",  "x",      "--pdf", "/o/p",      "--png", "/o",       "--dpi",
+                         "72",      "--dxf",  "/o",    "--list",    "/o/l",  "/a/A.CRO", "/a/B.CRO"});
     CHECK(line.Wrong == "");
     CHECK(line.Job->JobCode == 4);
     CHECK(line.ReportOption == 0);
@@ -147,9 +144,8 @@ TEST_CASE("the help has a usage line for each job")
     const std::string text = UsageText();
     CHECK(text.find("stratavue-batch log [--home DIR] [--project DIR] [--page N] [--date TEXT] [--pdf FILE] "
                     "[--png DIR [--dpi N]] [--dxf DIR] [--list FILE] FILE.BOR...\n") != std::string::npos);
-    CHECK(text.find("stratavue-batch intro [--type 1|2] [--home DIR] [--project DIR] [--date TEXT]") !=
-          std::string::npos);
-    CHECK(text.find("stratavue-batch section [--home DIR] [--project DIR] [--date TEXT] [--pdf FILE] "
+    CHECK(text.find("stratavue-batch intro [--type 1|2] [--home DIR]") != std::string::npos);
+    CHECK(text.find("stratavue-batch section [--home DIR] [--project DIR] [--page N] [--date TEXT] [--pdf FILE] "
                     "[--png DIR [--dpi N]] [--dxf DIR] [--list FILE] FILE.CRO...\n") != std::string::npos);
     CHECK(text.find("stratavue-batch guide [--home DIR] [--pdf FILE] [--png DIR [--dpi N]] [--list FILE]\n") !=
           std::string::npos);
