@@ -8,10 +8,49 @@
 #include <QVBoxLayout>
 
 static const char* const HelpText = R"(
-## Looking at a boring
+## Typing a boring
 
-**File, Open** shows a boring file (.BOR) in the tabs of the log window. **Preview** (F5) draws its log and shows it,
-page by page, in the screen view.
+**File, New** begins a boring, **Open** shows a boring file (.BOR) in the tabs of the log window. A grid is typed in as
+in a spreadsheet:
+
+| To | |
+|---|---|
+| write into a cell | type, or F2 to change what is there |
+| go on | Enter, Tab, the arrows; F6 leaves the grid |
+| mark a block | Shift with the arrows, or drag |
+| cut, copy, paste, empty | Ctrl+X, Ctrl+C, Ctrl+V, Delete; tables go to and from spreadsheets |
+| fill a block with its first row | Ctrl+D |
+| put in or take out a row | Ctrl++, Ctrl+- |
+| take back, do again | Ctrl+Z, Ctrl+Y |
+| choose a column of the log | Alt+Down in *Report Parts*, or the arrow in its cell |
+
+Text boxes break their lines exactly as they are printed; *less* and *more* beneath them set how much goes on a line. A
+description that belongs to a contact begins with a line **@** and the number of the contact, one that belongs to a
+depth with **-** and the depth.
+
+**View** has two helpers: *Page beside the Boxes* (Ctrl+F5) draws the page while you type, and a click on a layer leads
+to its row; the *Check List* points at what a reviewer would flag, and leads to it.
+
+A star in the title tells of changes that are not saved. They are copied each minute, and offered again after a crash.
+
+## The log
+
+**Preview** (F5) saves the boring, draws its log and shows it page by page in the screen view. The *Layout File* tells
+how the page is arranged, the *Report Parts* are its columns from left to right with their widths in inches, the *Scale*
+its end depth, increment and page length. **Edit** has the editors of headings, layouts, description items and of the
+words on the boxes; **Utilities** the set-up, the logo, the *Fill Pattern Guide* with the numbers and codes of all
+patterns, and the conversions of foreign data.
+
+## Projects
+
+The file window shows the projects of the office beside the folders. A click on one goes to its folder and takes its
+heading file and logo; *Edit Project List* adds others.
+
+## Sections, fences, tables
+
+The **Tools** menu leads to the cross section, the fence diagram, the soil table and the GIS workbench. They work as the
+log window does, and take their borings from the project folder. The workbench keeps the layers of all borings of a site
+in one table: *Add to GIS* reads borings into it, and sections and fences draw their layers by it where they name it.
 
 ## Many borings at once
 
