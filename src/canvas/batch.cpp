@@ -285,9 +285,10 @@ static void StartJob()
         RunPages.printing = jobCode % 2 == 0 ? 1 : 0;
     if (DrawsBorings() && !intro)
         RunPages.zeroBased = 1;
-    run();
     if (jobCode < guideJob && RunPages.printing == 1)
-        Platform.EndPrintRun();
+        PrintRun(run);
+    else
+        run();
 }
 
 void DrawPrintOk()
