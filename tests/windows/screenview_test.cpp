@@ -208,6 +208,30 @@ TEST_CASE("Zoom Window: the rectangle dragged fills the window, once")
     CheckAllDone();
 }
 
+TEST_CASE("Zoom Window: a rectangle dragged up and to the left shows what lies in it")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-103.BOR");
+    Then("DrawArea", [](QWidget* window) {
+        PageView* view = View(window);
+        ClickMenu(window, "mnuZoom", "mnuZoomWindow");
+        const ViewRecord before = view->View();
+        const int wide = view->width() / 4, high = view->height() / 4;
+        const double left = PageX(before, 400 - wide), top = PageY(before, 300 - high);
+        const double right = PageX(before, 400), bottom = PageY(before, 300);
+        QTest::mousePress(view, Qt::LeftButton, {}, QPoint(400, 300));
+        QTest::mouseMove(view, QPoint(400 - wide, 300 - high));
+        QTest::mouseRelease(view, Qt::LeftButton, {}, QPoint(400 - wide, 300 - high));
+        CHECK(PageX(view->View(), 0) == doctest::Approx(left).epsilon(0.01));
+        CHECK(PageY(view->View(), 0) == doctest::Approx(top).epsilon(0.01));
+        CHECK(PageX(view->View(), view->width()) == doctest::Approx(right).epsilon(0.01));
+        CHECK(PageY(view->View(), view->height()) == doctest::Approx(bottom).epsilon(0.01));
+        Exit(window);
+    });
+    ClickMenu(log, "mnuFile", "mnuPreview");
+    CheckAllDone();
+}
+
 TEST_CASE("Zoom Window: a click without a drag is told as a division by zero, Escape leaves the mode")
 {
     QMainWindow* log = LogWindow();
