@@ -44,10 +44,10 @@ static std::vector<Entity> Records(const std::string& drawing)
     std::vector<Entity> records;
     size_t at = 0;
     const auto line = [&] {
-        const size_t end = drawing.find('\n', at);
+        const size_t end = drawing.find("\r\n", at);
         REQUIRE(end != std::string::npos);
         const std::string text = drawing.substr(at, end - at);
-        at = end + 1;
+        at = end + 2;
         return text;
     };
     while (at < drawing.size()) {
@@ -114,22 +114,22 @@ TEST_CASE("the header tells the version, the code page, the limits and how many 
     StartPage("L");
     lineby(1, 1);
     const std::string drawing = PageDxf();
-    CHECK(drawing.starts_with("999\nOne drawing unit is one device unit of the page: 600 units to the inch\n"));
-    CHECK(drawing.find("$ACADVER\n1\nAC1018\n") != std::string::npos);
-    CHECK(drawing.find("$DWGCODEPAGE\n3\nANSI_1252\n") != std::string::npos);
-    CHECK(drawing.find("$INSUNITS\n70\n0\n") != std::string::npos);
-    CHECK(drawing.find("$LIMMIN\n10\n0\n20\n0\n") != std::string::npos);
-    CHECK(drawing.find("$LIMMAX\n10\n6300\n20\n4800\n") != std::string::npos);
-    CHECK(drawing.find("$EXTMIN\n10\n600\n20\n600\n") != std::string::npos);
-    CHECK(drawing.find("$EXTMAX\n10\n1200\n20\n1200\n") != std::string::npos);
-    CHECK(drawing.ends_with("\n0\nEOF\n"));
+    CHECK(drawing.starts_with("999\r\nOne drawing unit is one device unit of the page: 600 units to the inch\r\n"));
+    CHECK(drawing.find("$ACADVER\r\n1\r\nAC1018\r\n") != std::string::npos);
+    CHECK(drawing.find("$DWGCODEPAGE\r\n3\r\nANSI_1252\r\n") != std::string::npos);
+    CHECK(drawing.find("$INSUNITS\r\n70\r\n0\r\n") != std::string::npos);
+    CHECK(drawing.find("$LIMMIN\r\n10\r\n0\r\n20\r\n0\r\n") != std::string::npos);
+    CHECK(drawing.find("$LIMMAX\r\n10\r\n6300\r\n20\r\n4800\r\n") != std::string::npos);
+    CHECK(drawing.find("$EXTMIN\r\n10\r\n600\r\n20\r\n600\r\n") != std::string::npos);
+    CHECK(drawing.find("$EXTMAX\r\n10\r\n1200\r\n20\r\n1200\r\n") != std::string::npos);
+    CHECK(drawing.ends_with("\r\n0\r\nEOF\r\n"));
 }
 
 TEST_CASE("a page without objects is a drawing without entities whose extents are the sheet")
 {
     StartPage();
     CHECK(Entities().empty());
-    CHECK(PageDxf().find("$EXTMAX\n10\n4800\n20\n6300\n") != std::string::npos);
+    CHECK(PageDxf().find("$EXTMAX\r\n10\r\n4800\r\n20\r\n6300\r\n") != std::string::npos);
 }
 
 TEST_CASE("a drawing before any page was started holds what the list holds")
@@ -160,9 +160,9 @@ TEST_CASE("no handle is given twice and the next free one is behind them all")
     }
     std::sort(handles.begin(), handles.end());
     CHECK(std::adjacent_find(handles.begin(), handles.end()) == handles.end());
-    const size_t seed = drawing.find("$HANDSEED\n5\n");
+    const size_t seed = drawing.find("$HANDSEED\r\n5\r\n");
     REQUIRE(seed != std::string::npos);
-    CHECK(std::stol(drawing.substr(seed + 12), nullptr, 16) > handles.back());
+    CHECK(std::stol(drawing.substr(seed + 14), nullptr, 16) > handles.back());
 }
 
 TEST_CASE("dashes of the line types are lengths of the page")
