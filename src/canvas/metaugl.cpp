@@ -38,7 +38,8 @@ void canvasstart(const Text& mode)
 {
     PageCanvas.mode = mode;
     if (mode != "C") {
-        const Sheet sheet = Platform.PrinterSheet(mode.empty() ? 'T' : mode[0]);
+        PageCanvas.paper = mode.empty() ? 'T' : mode[0];
+        const Sheet sheet = Platform.PrinterSheet(PageCanvas.paper);
         PageCanvas.pageWidthUnits = sheet.WidthUnits;
         PageCanvas.pageHeightUnits = sheet.HeightUnits;
         PageCanvas.pageWidthInches = sheet.WidthInches;

@@ -27,6 +27,7 @@ struct CanvasRecord {
     Text fillsDir;                            // with a separator at its end
     int16_t tintCount = 0;                    // tinted patterns made on this page
     Text mode;                                // the argument of canvasstart
+    char paper = 'T';                         // the sheet, as PrinterSheet takes it; mode "C" keeps it
 };
 extern CanvasRecord PageCanvas;
 

@@ -347,6 +347,19 @@ TEST_CASE("mode C keeps the sheet of the page before, and any other mode than P 
     CHECK(PageCanvas.pageWidthInches == 16.5f);
 }
 
+TEST_CASE("a page is printed on the paper that its sheet was asked for with, also in mode C and without a mode")
+{
+    static char asked;
+    Platform.PrinterSheet = [](char mode) { return DefaultSheet(asked = mode); };
+    for (const char* mode : {"P", "L", "T", ""}) {
+        canvasstart(mode);
+        CHECK(PageCanvas.paper == asked);
+        canvasstart("C");
+        CHECK(PageCanvas.paper == asked);
+    }
+    CHECK(asked == 'T');
+}
+
 TEST_CASE("a new page resets text, pen width and fill but not the pen, the origin and the scales")
 {
     StartPage();

@@ -115,7 +115,7 @@ void PrintPageObjects()
     QPrinter* printer = Printer();
     if (!printer)
         return PageIntoPdf();
-    SetPaper(*printer, PageCanvas.mode.empty() ? 'P' : PageCanvas.mode[0]);
+    SetPaper(*printer, PageCanvas.paper);
     printer->setDocName(ToUi(BaseName(RunPages.pageFile)));
     QPainter painter;
     if (!painter.begin(printer))
@@ -133,7 +133,7 @@ void EndPdfRun()
         return;
     const std::unique_ptr<PdfRun> run = std::move(pdf);
     run->Close();
-    MsgBox("FILE CREATED:  " + pdfName);
+    MsgBox("FILE CREATED:  " + pdfName, OkOnly, Announcement);
 }
 
 // ---- The set-up
