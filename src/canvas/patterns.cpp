@@ -129,22 +129,22 @@ static bool InFolder(const Text& name)
     return CurrentFolder().Files.contains(UpperCase(std::string_view(name).substr(fills.size())));
 }
 
+static bool IsScreenForm(const Text& upperName)
+{
+    return upperName.ends_with("_SC.BMP");
+}
+
 Text PrintForm(const Text& screenName)
 {
     return screenName.size() > 7 ? screenName.substr(0, screenName.size() - 7) + ".bmp" : ".bmp";
 }
 
-bool PatternThere(const Text& screenName)
+bool PatternThere(const Text& fillFile)
 {
-    return InFolder(screenName) || InFolder(PrintForm(screenName));
+    return InFolder(fillFile) || (IsScreenForm(UpperCase(fillFile)) && InFolder(PrintForm(fillFile)));
 }
 
 // ---- Pictures
-
-static bool IsScreenForm(const Text& upperName)
-{
-    return upperName.ends_with("_SC.BMP");
-}
 
 // The key of tints that a form of a tinted copy has.
 static Text TintKey(const Text& upperName)

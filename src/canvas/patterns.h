@@ -24,11 +24,12 @@ void setfillfile(int number);
 // Tinted copy k of the current pattern: "T" k "_sc.bmp" and "T" k ".bmp" in the fills folder.
 void createcoloredFP(const Text& color, int k);
 
-Text PrintForm(const Text& screenName);    // without its last 7 characters, plus ".bmp"
-bool PatternThere(const Text& screenName); // the screen form, or the print form that it is made from
-// The picture behind a name that setfillfile or createcoloredFP has made, from memory or the fills folder; loaded
-// once for the run of the program, a tint until its number is used again. The blank pattern is white where its file is
-// missing. Failure 53 for any other that is not there, 481 for one that is no picture.
+Text PrintForm(const Text& screenName); // of a screen form's name: without its last 7 characters, plus ".bmp"
+// What setfillfile has left is in the fills folder: a print form, or a screen form or the print form it is made from.
+bool PatternThere(const Text& fillFile);
+// The picture behind a name of either form that setfillfile or createcoloredFP has made, from memory or the fills
+// folder; loaded once, until a run finds its file changed, a tint until its number is used again. The blank pattern is
+// white where its file is missing. Failure 53 for any other that is not there, 481 for one that is no picture.
 const Bitmap& PatternPicture(const Text& name);
 bool PictureThere(const Text& name); // it is in memory as a tint, or the fills folder has it
 

@@ -164,6 +164,19 @@ TEST_CASE("a missing pattern leaves its print name, and its fill is the blank pa
     CHECK(Messages.empty());
 }
 
+TEST_CASE("a missing pattern is not taken for another one whose name begins its own")
+{
+    StartPage({"F0.BMP", "F1.bmp", "F21.BMP"});
+    setfillfile(1020);
+    CHECK(PageCanvas.fillFile == FillsName("F1020.BMP"));
+    CHECK_FALSE(PatternThere(PageCanvas.fillFile));
+    rectfill(1, 1);
+    CHECK(BaseName(PageList.Objects.back().BrushPicture) == "f0_sc.bmp");
+    // A screen form counts as there by its print form, in any letters.
+    CHECK(PatternThere(FillsName("f21_SC.Bmp")));
+    CHECK_FALSE(PatternThere(FillsName("F22_sc.BMP")));
+}
+
 TEST_CASE("the blank pattern is white, its file there or not")
 {
     StartPage({});
