@@ -149,6 +149,13 @@ static void PageDrawn()
         WriteWholeFile(JoinPath(Asked.Dxf, PageName + ".dxf"), PageDxf(), Durability::Scratch);
 }
 
+// Also where nothing is painted: a listing and a drawing hold the pictures that a PDF shows.
+static bool Loads(const Text& file)
+{
+    StartWithoutScreen();
+    return PictureLoads(file);
+}
+
 static void PrintPage()
 {
     if (Asked.Pdf.empty() && Asked.Png.empty())
@@ -202,6 +209,8 @@ static void FillPlatform()
     Platform.ShowPage = ShowPage;
     Platform.PrintPage = PrintPage;
     Platform.EndPrintRun = [] {};
+    Platform.PictureLoads = Loads;
+    Platform.DropChangedPictures = DropChangedPictures;
     Platform.ShowDrawPrint = [] {};
     Platform.ShowPrinting = [] {};
     Platform.ShowProgress = [](bool) {};

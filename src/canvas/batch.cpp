@@ -2,6 +2,7 @@
 // know nothing else of who called them.
 #include "canvas/batch.h"
 
+#include "canvas/patterns.h"
 #include "canvas/screenview.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
@@ -285,6 +286,7 @@ static void StartJob()
         RunPages.printing = jobCode % 2 == 0 ? 1 : 0;
     if (DrawsBorings() && !intro)
         RunPages.zeroBased = 1;
+    ForgetChangedPictures();
     if (jobCode < guideJob && RunPages.printing == 1)
         PrintRun(run);
     else

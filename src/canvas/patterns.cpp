@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <map>
 #include <unordered_set>
 
@@ -92,6 +93,26 @@ static FillsFolder fillsFolder;
 static std::map<Text, Tint> tints;      // by the path without "_sc.bmp" or ".bmp", in upper case
 static std::map<Text, Bitmap> pictures; // by the path in upper case
 
+namespace
+{
+// A file that pictures in memory come from, as it was before it was read.
+struct PictureFile {
+    Text Name;
+    FileState State;
+};
+} // namespace
+
+static std::map<std::string, PictureFile> pictureFiles; // by the path of this machine
+
+int PatternPicturesEmptied = 0;
+
+static void EmptyPictures()
+{
+    pictures.clear();
+    pictureFiles.clear();
+    ++PatternPicturesEmptied;
+}
+
 void ForgetPatternFiles()
 {
     fillsFolder.Current = false;
@@ -101,7 +122,7 @@ void ForgetPatterns()
 {
     fillsFolder = FillsFolder();
     tints.clear();
-    pictures.clear();
+    EmptyPictures();
 }
 
 static FillsFolder& CurrentFolder()
@@ -164,6 +185,50 @@ static uint32_t RgbOf(const Text& color)
     return (drawn & 255) << 16 | (drawn & 0xFF00) | (drawn >> 16 & 255);
 }
 
+// To be called before the file is read. What the first picture of it saw counts until all are emptied.
+static void Watch(const Text& name)
+{
+    const std::string path = NativePath(name);
+    pictureFiles.try_emplace(path, PictureFile{name, StateOf(path)});
+}
+
+// This program has written the file just now.
+static void WatchAnew(const Text& name)
+{
+    pictureFiles.erase(NativePath(name));
+    Watch(name);
+}
+
+// The screen form of a print form that has changed, where it is older and so shows the pattern as it was.
+static void DropScreenForm(const PictureFile& print, const FileState& now)
+{
+    if (now.Size < 0 || IsScreenForm(UpperCase(print.Name)))
+        return;
+    const std::string screen = NativePath(print.Name.substr(0, print.Name.size() - 4) + "_sc.bmp");
+    const FileState state = StateOf(screen);
+    if (state.Size >= 0 && state.Changed < now.Changed)
+        std::remove(screen.c_str());
+}
+
+void ForgetChangedPictures()
+{
+    Platform.DropChangedPictures();
+    bool changed = false;
+    for (const auto& [path, file] : pictureFiles) {
+        const FileState now = StateOf(path);
+        if (now == file.State)
+            continue;
+        changed = true;
+        DropScreenForm(file, now);
+    }
+    if (!changed)
+        return;
+    // All of them: tints and screen forms are made of others.
+    EmptyPictures();
+    for (auto& [key, tint] : tints)
+        tint.Written = false;
+}
+
 static Bitmap MakePicture(const Text& name, const Text& upperName)
 {
     const auto tint = tints.find(TintKey(upperName));
@@ -171,6 +236,9 @@ static Bitmap MakePicture(const Text& name, const Text& upperName)
         const Text& of = tint->second.Of;
         return Tinted(PatternPicture(IsScreenForm(upperName) ? of : PrintForm(of)), RgbOf(tint->second.Color));
     }
+    Watch(name);
+    if (IsScreenForm(upperName))
+        Watch(PrintForm(name));
     if (FileExists(name))
         return LoadBitmap(name);
     if (IsScreenForm(upperName) && FileExists(PrintForm(name)))
@@ -228,8 +296,8 @@ void setfillfile(int number)
     if (!InFolder(PageCanvas.fillFile))
         return;
     const Text screen = stem + "_sc.BMP";
-    if (!InFolder(screen))
-        Keep(screen);
+    if (!InFolder(screen) && Keep(screen))
+        WatchAnew(screen);
     PageCanvas.fillFile = screen;
 }
 

@@ -38,6 +38,10 @@ extern bool TintsInMemory;
 
 // At the start of a page, and before one is printed: the fills folder is looked at anew, if it has changed.
 void ForgetPatternFiles();
-void ForgetPatterns(); // all pictures too: as at the start of a program
+// At the start of a run, of all its pages: a pattern, a logo or a map whose file has changed since it was loaded, or
+// has gone, is loaded anew. A screen form that is older than a print form so changed is made anew.
+void ForgetChangedPictures();
+void ForgetPatterns();             // all pictures too: as at the start of a program
+extern int PatternPicturesEmptied; // so many times; what is kept of a pattern's picture elsewhere goes with it
 
 void patternstart(); // the Fill Pattern Guide: draws the page and shows it

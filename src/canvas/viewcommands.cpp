@@ -4,8 +4,8 @@
 #include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
+#include "canvas/patterns.h"
 #include "canvas/screenview.h"
-#include "session/failure.h"
 #include "session/platform.h"
 
 void PrintShownPage()
@@ -32,7 +32,7 @@ static void PutBack(const Text& flag)
         return;
     try {
         WriteBreak(flag);
-    } catch (const RunTimeError&) {
+    } catch (...) {
         return;
     }
 }
@@ -91,6 +91,7 @@ void ExportPdf()
     Platform.ShowPage = PageToPdf;
     RunPages.printing = 1; // every entry of the list is a page, also one that Next on the screen would leave out
     stopRequested = 0;
+    ForgetChangedPictures();
     PrintRun(run);
 }
 

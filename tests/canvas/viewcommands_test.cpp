@@ -188,6 +188,30 @@ TEST_CASE("a print run of the dialog is ended also where its renderer fails")
     CHECK(Messages[0].words == "Error 57 in DrawPrintOk.  Please contact Norvane");
 }
 
+static int looks; // so many times the pictures were looked through for changed ones
+
+TEST_CASE("changed logos and maps are looked for as a run begins, and not for each of its pages")
+{
+    Prepare();
+    looks = 0;
+    Platform.DropChangedPictures = [] { ++looks; };
+    singleFile = 1;
+    singleFileName = "B-1.BOR";
+    frmDrawPrint::Dialog.ReportOption = 1;
+    IntroPages = ThreePages;
+    PlainShowPage = nullptr;
+    DrawPrintOk();
+    CHECK(Listings.size() == 3);
+    CHECK(looks == 1);
+    PlainShowPage = [] {
+        ExportPdf();
+        ExitRun();
+    };
+    DrawPrintOk();
+    CHECK(printedPages.size() == 3);
+    CHECK(looks == 3);
+}
+
 TEST_CASE("Print shows its notice, prints the page and ends the job")
 {
     Prepare();

@@ -11,6 +11,7 @@
 void StartTestPage(int width, int height)
 {
     StartWithoutScreen();
+    DropChangedPictures(); // of the test before, in the same folder
     std::filesystem::create_directories(Scratch("fills"));
     DeviceConfig.SystemFiles[FillFolder] = Scratch("fills/");
     canvasstart("P");
