@@ -163,7 +163,8 @@ static void PrintPage()
     StartWithoutScreen();
     if (PageCount == 1 && !PageFontThere())
         Say("The font Liberation Sans is not installed: text is drawn in another font.");
-    // A page whose logo is damaged goes out without it everywhere, and is told once.
+    // A page whose pattern is damaged goes out without it everywhere, and is told once. A damaged logo or map is no
+    // object of the page: the block that it belongs to has told of it.
     int failure = 0;
     const auto attempt = [&](auto output) {
         try {

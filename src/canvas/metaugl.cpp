@@ -283,6 +283,8 @@ void drawbitmap(const Text& file, float width, float height)
         MsgBox("File Not Found: " + file, OkOnly, Exclamation);
         return;
     }
+    if (!Platform.PictureLoads(file))
+        throw RunTimeError{InvalidPicture};
     const float toX = PageCanvas.penX + PageCanvas.unitsPerInch * width;
     const float toY = PageCanvas.penY - PageCanvas.unitsPerInch * height;
     AddObject(ObjectKind::Picture, Nearest(PageCanvas.penX), Nearest(PageCanvas.penY), Nearest(toX), Nearest(toY))

@@ -95,6 +95,23 @@ static void LevelLines(const char* name = "F21.BMP")
     setfillfile(21);
 }
 
+TEST_CASE("a drawing's lines end with CR LF, as in every file of the program")
+{
+    StartPage();
+    lineright(1);
+    printtext("one\ntwo");
+    const std::string drawing = PageDxf();
+    size_t lines = 0;
+    for (size_t i = 0; i < drawing.size(); ++i)
+        if (drawing[i] == '\n') {
+            ++lines;
+            REQUIRE(i > 0);
+            REQUIRE(drawing[i - 1] == '\r');
+        }
+    CHECK(lines > 100);
+    CHECK(std::count(drawing.begin(), drawing.end(), '\r') == std::ptrdiff_t(lines));
+}
+
 TEST_CASE("one drawing unit is one device unit and y points up")
 {
     StartPage();
@@ -143,7 +160,7 @@ TEST_CASE("a drawing before any page was started holds what the list holds")
 TEST_CASE("no handle is given twice and the next free one is behind them all")
 {
     StartPage();
-    WriteScratch("MAP.BMP", "x");
+    WritePicture("MAP.BMP");
     drawbitmap("MAP.BMP", 1, 1);
     drawbitmap("MAP.BMP", 1, 1);
     printtext("words");
@@ -514,7 +531,7 @@ TEST_CASE("the size of a picture is read from the head of each kind of file, and
 TEST_CASE("a picture that went away since it was drawn is still an image")
 {
     StartPage();
-    WriteScratch("gone.bmp", "BM");
+    WritePicture("gone.bmp");
     drawbitmap("gone.bmp", 1, 1);
     std::filesystem::remove(Scratch("gone.bmp"));
     REQUIRE(Entities().size() == 1);

@@ -313,13 +313,25 @@ TEST_CASE("a missing picture is told and adds nothing")
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "File Not Found: nothing.bmp");
     CHECK(PageList.Objects.empty());
-    WriteScratch("MAP.BMP", "x");
+    WritePicture("MAP.BMP");
     moveto(1, 1);
     setscalex(5);
     drawbitmap("map.bmp", 2.35, -0.7);
     CHECK(Last().X2 == 600 + 1410);
     CHECK(Last().Y2 == 5700 + 420);
     CHECK(Last().String == "map.bmp");
+}
+
+TEST_CASE("a picture that is no picture is failure 481 and adds nothing, whatever the platform reads")
+{
+    StartPage();
+    WriteScratch("MAP.BMP", "a text");
+    CHECK(FailureOf([] { drawbitmap("map.bmp", 1, 1); }) == InvalidPicture);
+    WritePicture("GOOD.BMP");
+    Platform.PictureLoads = [](const Text& file) { return file != "good.bmp"; };
+    CHECK(FailureOf([] { drawbitmap("good.bmp", 1, 1); }) == InvalidPicture);
+    CHECK(PageList.Objects.empty());
+    CHECK(Messages.empty());
 }
 
 TEST_CASE("bringtofront moves the object just added to the end of the list")
