@@ -103,15 +103,23 @@ static Text pdfName;
 
 static void PageIntoPdf()
 {
-    if (!pdf) {
+    const bool first = !pdf;
+    if (first) {
         pdfName = PdfBeside(RunPages.pageFile);
         pdf = std::make_unique<PdfRun>(pdfName, BaseName(RunPages.pageFile));
     }
-    pdf->AddPage();
+    try {
+        pdf->AddPage();
+    } catch (...) {
+        if (first) // nothing whole is in it
+            pdf.reset();
+        throw;
+    }
 }
 
 void PrintPageObjects()
 {
+    LoadPagePictures(PatternForm::Print);
     QPrinter* printer = Printer();
     if (!printer)
         return PageIntoPdf();
