@@ -111,6 +111,7 @@ static void TwoPages()
     for (int page = 1; page <= 2; ++page) {
         RunPages.pageFile = Scratch("RUN.BOR");
         canvasstart("P");
+        setscalex(1);
         lineright(1);
         if (page == 2)
             AddObject(ObjectKind::Picture, 0, 600, 600, 0).String = Scratch("gone.bmp");
