@@ -1,5 +1,6 @@
 // screenview_test.cpp -- the screen view by mouse and keys.
 #include "canvas/batch.h"
+#include "canvas/bitmap.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "canvas/screenview.h"
@@ -248,6 +249,37 @@ TEST_CASE("Zoom Window: a click without a drag is told as a division by zero, Es
         Exit(window);
     });
     ThenAnswer("Error 11 in DrawArea.  Please contact Norvane", "OK");
+    ClickMenu(log, "mnuFile", "mnuPreview");
+    CheckAllDone();
+}
+
+static int RedPixels(QWidget* window)
+{
+    const QImage image = View(window)->grab().toImage();
+    int red = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            red += qRed(image.pixel(x, y)) > 200 && qGreen(image.pixel(x, y)) < 60 && qBlue(image.pixel(x, y)) < 60;
+    return red;
+}
+
+TEST_CASE("a site map that is mended between two previews is seen in the second one")
+{
+    QMainWindow* log = LogWindow();
+    WritePicture("samples/SITEMAP.BMP");
+    OpenSample("MW-108.BOR");
+    Then("DrawArea", [](QWidget* window) {
+        ClickMenu(window, "mnuZoom", "mnuZoomPage");
+        CHECK(RedPixels(window) == 0);
+        Exit(window);
+    });
+    ClickMenu(log, "mnuFile", "mnuPreview");
+    WriteScratch("samples/SITEMAP.BMP", EncodeBitmap(Bitmap{1, 1, {0xFF0000}}));
+    Then("DrawArea", [](QWidget* window) {
+        ClickMenu(window, "mnuZoom", "mnuZoomPage");
+        CHECK(RedPixels(window) > 1000);
+        Exit(window);
+    });
     ClickMenu(log, "mnuFile", "mnuPreview");
     CheckAllDone();
 }
