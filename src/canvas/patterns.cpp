@@ -199,14 +199,16 @@ static void WatchAnew(const Text& name)
     Watch(name);
 }
 
-// The screen form of a print form that has changed, where it is older and so shows the pattern as it was.
+// The screen form of a print form that has changed goes where it shows the pattern as it was: it is the one that was
+// seen before, or, where none was, it is older.
 static void DropScreenForm(const PictureFile& print, const FileState& now)
 {
     if (now.Size < 0 || IsScreenForm(UpperCase(print.Name)))
         return;
     const std::string screen = NativePath(print.Name.substr(0, print.Name.size() - 4) + "_sc.bmp");
     const FileState state = StateOf(screen);
-    if (state.Size >= 0 && state.Changed < now.Changed)
+    const auto seen = pictureFiles.find(screen);
+    if (state.Size >= 0 && (seen != pictureFiles.end() ? state == seen->second.State : state.Placed < now.Placed))
         std::remove(screen.c_str());
 }
 

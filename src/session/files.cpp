@@ -187,8 +187,8 @@ FileState StateOf(const std::string& path)
     struct stat status;
     if (::stat(path.c_str(), &status) != 0)
         return {};
-    // When it came to its place, not when it was written: a copy may bring an older time along.
-    return {status.st_size, Nanoseconds(status.st_ctim), static_cast<int64_t>(status.st_ino)};
+    return {status.st_size, Nanoseconds(status.st_mtim), static_cast<int64_t>(status.st_ino),
+            Nanoseconds(status.st_ctim)};
 }
 
 int64_t FolderStamp(const Text& folder)

@@ -314,6 +314,20 @@ TEST_CASE("a pattern whose screen form alone was seen is made anew too, and a sc
     CHECK(PatternPicture(PageCanvas.fillFile).At(0, 0) == 0x123456);
 }
 
+TEST_CASE("a pattern whose bytes are what they were keeps the screen form that was drawn for it")
+{
+    StartPage({"F21.BMP"});
+    WriteScratch("fills/F21_sc.BMP", EncodeBitmap(Checks(30)));
+    setfillfile(21);
+    CHECK(PatternPicture(PageCanvas.fillFile).Width == 30);
+    CHECK(PatternPicture(FillsName("F21.bmp")).Width == 150);
+    const int before = PatternPicturesEmptied;
+    std::filesystem::permissions(FillsName("F21.BMP"), std::filesystem::perms::owner_all);
+    ForgetChangedPictures();
+    CHECK(PatternPicturesEmptied == before);
+    CHECK(OnDisk("F21_sc.BMP"));
+}
+
 TEST_CASE("a tint follows the pattern that it is made of, and is written anew")
 {
     StartPage({"F21.BMP"});

@@ -5,6 +5,7 @@
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
 #include "session/failure.h"
+#include "session/files.h"
 
 #include <QPainter>
 #include <cmath>
@@ -466,21 +467,26 @@ TEST_CASE("a picture loads in any form that its bytes tell, whatever its name sa
     }
 }
 
+static void Replace(const char* name, std::string_view bytes)
+{
+    WriteWholeFile(Scratch(name), bytes, Durability::Scratch);
+}
+
 TEST_CASE("a map that has changed on the disk is the old one until a run begins, then the new one")
 {
     StartTestPage(400, 400);
     AddObject(ObjectKind::Picture, 100, 300, 300, 100).String = Scratch("MAP.BMP");
     const auto colour = [] { return Painted().pixel(200, 200); };
-    WriteScratch("MAP.BMP", EncodeBitmap(Bitmap{1, 1, {0xFF0000}}));
+    Replace("MAP.BMP", EncodeBitmap(Bitmap{1, 1, {0xFF0000}}));
     CHECK(colour() == qRgb(255, 0, 0));
-    WriteScratch("MAP.BMP", EncodeBitmap(Bitmap{1, 1, {0x0000FF}}));
+    Replace("MAP.BMP", EncodeBitmap(Bitmap{1, 1, {0x0000FF}}));
     CHECK(colour() == qRgb(255, 0, 0));
     DropChangedPictures();
     CHECK(colour() == qRgb(0, 0, 255));
-    WriteScratch("MAP.BMP", "no picture");
+    Replace("MAP.BMP", "no picture");
     DropChangedPictures();
     CHECK_FALSE(PictureLoads(Scratch("MAP.BMP")));
-    WriteScratch("MAP.BMP", EncodeBitmap(Bitmap{1, 1, {0x00FF00}}));
+    Replace("MAP.BMP", EncodeBitmap(Bitmap{1, 1, {0x00FF00}}));
     DropChangedPictures();
     CHECK(PictureLoads(Scratch("MAP.BMP")));
     CHECK(colour() == qRgb(0, 255, 0));
