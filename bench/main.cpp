@@ -20,6 +20,8 @@ static void FillPlatform()
     Platform.ShowPage = [] {};
     Platform.PrintPage = [] {};
     Platform.EndPrintRun = [] {};
+    Platform.PictureLoads = [](const Text&) { return true; };
+    Platform.DropChangedPictures = [] {};
     Platform.ShowProgress = [](bool) {};
     Platform.StepProgress = [](const Text&, float) {};
     Platform.Breathe = [] {};

@@ -8,6 +8,7 @@
 #include "boring/opensave.h"
 #include "boring/projectlist.h"
 #include "canvas/batch.h"
+#include "canvas/bitmap.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
@@ -67,6 +68,15 @@ Text Scratch(const Text& name)
 void WriteScratch(const Text& name, std::string_view bytes)
 {
     std::ofstream(Scratch(name), std::ios::binary) << bytes;
+}
+
+void WritePicture(const Text& name)
+{
+    Bitmap picture;
+    picture.Width = 4;
+    picture.Height = 3;
+    picture.Pixels.assign(12, 0x808080);
+    WriteScratch(name, EncodeBitmap(picture));
 }
 
 std::string ReadScratch(const Text& name)

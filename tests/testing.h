@@ -10,6 +10,7 @@ Text TestData(const Text& name); // path of a file under tests/data
 const Text& ScratchFolder();     // the working folder of the test that runs: empty at its start
 Text Scratch(const Text& name);  // a path in it
 void WriteScratch(const Text& name, std::string_view bytes);
+void WritePicture(const Text& name); // a small grey picture, as a Windows bitmap
 std::string ReadScratch(const Text& name);
 int FailureOf(void (*procedure)()); // the number of the failure that it raises, 0 for none
 

@@ -158,6 +158,13 @@ static void PageDrawn()
         WriteWholeFile(JoinPath(Asked.Dxf, PageName + ".dxf"), PageDxf(), Durability::Scratch);
 }
 
+// Also where nothing is painted: a listing and a drawing hold the pictures that a PDF shows.
+static bool Loads(const Text& file)
+{
+    StartWithoutScreen();
+    return PictureLoads(file);
+}
+
 static void PrintPage()
 {
     if (Asked.Pdf.empty() && Asked.Png.empty())
@@ -165,7 +172,8 @@ static void PrintPage()
     StartWithoutScreen();
     if (PageCount == 1 && !PageFontThere())
         Say("The font Liberation Sans is not installed: text is drawn in another font.");
-    // A page whose logo is damaged goes out without it everywhere, and is told once.
+    // A page whose pattern is damaged goes out without it everywhere, and is told once. A damaged logo or map is no
+    // object of the page: the block that it belongs to has told of it.
     int failure = 0;
     const auto attempt = [&](auto output) {
         try {
@@ -211,6 +219,8 @@ static void FillPlatform()
     Platform.ShowPage = ShowPage;
     Platform.PrintPage = PrintPage;
     Platform.EndPrintRun = [] {};
+    Platform.PictureLoads = Loads;
+    Platform.DropChangedPictures = DropChangedPictures;
     Platform.ShowDrawPrint = [] {};
     Platform.ShowPrinting = [] {};
     Platform.ShowProgress = [](bool) {};

@@ -2,6 +2,7 @@
 // know nothing else of who called them.
 #include "canvas/batch.h"
 
+#include "canvas/patterns.h"
 #include "canvas/screenview.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
@@ -285,9 +286,11 @@ static void StartJob()
         RunPages.printing = jobCode % 2 == 0 ? 1 : 0;
     if (DrawsBorings() && !intro)
         RunPages.zeroBased = 1;
-    run();
+    ForgetChangedPictures();
     if (jobCode < guideJob && RunPages.printing == 1)
-        Platform.EndPrintRun();
+        PrintRun(run);
+    else
+        run();
 }
 
 void DrawPrintOk()

@@ -1,6 +1,8 @@
 // dxfdrawing.cpp -- the sections of a DXF drawing around its entities.
 #include "canvas/dxfdrawing.h"
 
+#include "session/session.h"
+
 #include <charconv>
 #include <cmath>
 
@@ -231,9 +233,9 @@ void DxfTags::Add(int code, std::string_view value)
     char buffer[12];
     const auto end = std::to_chars(buffer, buffer + sizeof buffer, code);
     bytes.append(buffer, end.ptr);
-    bytes += '\n';
+    bytes += CrLf;
     bytes += value;
-    bytes += '\n';
+    bytes += CrLf;
 }
 
 void DxfTags::Add(int code, int value)

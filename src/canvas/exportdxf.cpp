@@ -9,5 +9,5 @@ void ExportDxf()
     // An older file of the name is replaced without a question.
     const Text name = DxfName();
     WriteWholeFile(name, PageDxf());
-    MsgBox("FILE CREATED:  " + name, OkOnly, NoIcon);
+    MsgBox("FILE CREATED:  " + name, OkOnly, Announcement);
 }

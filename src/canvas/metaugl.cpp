@@ -38,7 +38,8 @@ void canvasstart(const Text& mode)
 {
     PageCanvas.mode = mode;
     if (mode != "C") {
-        const Sheet sheet = Platform.PrinterSheet(mode.empty() ? 'T' : mode[0]);
+        PageCanvas.paper = mode.empty() ? 'T' : mode[0];
+        const Sheet sheet = Platform.PrinterSheet(PageCanvas.paper);
         PageCanvas.pageWidthUnits = sheet.WidthUnits;
         PageCanvas.pageHeightUnits = sheet.HeightUnits;
         PageCanvas.pageWidthInches = sheet.WidthInches;
@@ -282,6 +283,8 @@ void drawbitmap(const Text& file, float width, float height)
         MsgBox("File Not Found: " + file, OkOnly, Exclamation);
         return;
     }
+    if (!Platform.PictureLoads(file))
+        throw RunTimeError{InvalidPicture};
     const float toX = PageCanvas.penX + PageCanvas.unitsPerInch * width;
     const float toY = PageCanvas.penY - PageCanvas.unitsPerInch * height;
     AddObject(ObjectKind::Picture, Nearest(PageCanvas.penX), Nearest(PageCanvas.penY), Nearest(toX), Nearest(toY))

@@ -27,6 +27,7 @@ struct CanvasRecord {
     Text fillsDir;                            // with a separator at its end
     int16_t tintCount = 0;                    // tinted patterns made on this page
     Text mode;                                // the argument of canvasstart
+    char paper = 'T';                         // the sheet, as PrinterSheet takes it; mode "C" keeps it
 };
 extern CanvasRecord PageCanvas;
 
@@ -60,7 +61,8 @@ void triangleup(float r);
 void triangledown(float r);
 void triangleupsolid(float r);
 void triangledownsolid(float r);
-void drawbitmap(const Text& file, float width, float height); // missing: a message, and nothing is added
+// A missing file: a message, and nothing is added. Failure 481 for one that is no picture.
+void drawbitmap(const Text& file, float width, float height);
 void bringtofront();
 
 // Polygons: building calls move the pen, one closing call adds the object and puts the pen on the rounded first

@@ -72,7 +72,12 @@ ViewRecord Resized(ViewRecord view, double oldWidth, double oldHeight, double ne
 
 ViewRecord ZoomDragged(ViewRecord view, double x1, double y1, double x2, double y2, double drawWidth, double drawHeight)
 try {
-    return ZoomWindow(x1, y1, x2, y2, drawWidth, drawHeight, 1, 1);
+    view =
+        ZoomWindow(std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2), drawWidth, drawHeight, 1, 1);
+    // A rectangle of a few dots would take the scale past where a page can still be found again.
+    if (view.ImageWidth > MaxScale * double(PageCanvas.pageWidthInches))
+        view = ZoomAbout(view, 1, drawWidth / 2, drawHeight / 2);
+    return view;
 } catch (...) {
     ReportFailure("DrawArea");
     return view;

@@ -28,8 +28,8 @@ ViewRecord KeptInReach(ViewRecord view, double drawWidth, double drawHeight);
 // The same place of the page in the middle, at the same scale, in a control of another size.
 ViewRecord Resized(ViewRecord view, double oldWidth, double oldHeight, double newWidth, double newHeight);
 
-// Zoom Window: the part of the page between two corners, in page units, fills the control. A drag without width or
-// height is told, and the view stays.
+// Zoom Window: the part of the page between two corners, in page units and in any order, fills the control, up to
+// MaxScale. A drag without width or height is told, and the view stays.
 ViewRecord ZoomDragged(ViewRecord view, double x1, double y1, double x2, double y2, double drawWidth,
                        double drawHeight);
 // The corner of the rubber band that goes with the pointer: the band keeps the shape of the control, since the zoom

@@ -148,5 +148,6 @@ try {
     Platform.ShowProgress(false);
     ShowOrPrint();
 } catch (...) {
+    Platform.ShowProgress(false);
     ReportFailure(__func__);
 }

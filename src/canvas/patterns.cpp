@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <map>
 #include <unordered_set>
 
@@ -92,6 +93,29 @@ static FillsFolder fillsFolder;
 static std::map<Text, Tint> tints;      // by the path without "_sc.bmp" or ".bmp", in upper case
 static std::map<Text, Bitmap> pictures; // by the path in upper case
 
+namespace
+{
+// A file that pictures in memory come from, as it was before it was read.
+struct PictureFile {
+    Text Name;
+    FileState State;
+};
+} // namespace
+
+// By the path of this machine; the screen forms are those that this program has written since its start, as it left
+// them.
+static std::map<std::string, PictureFile> pictureFiles;
+static std::map<std::string, FileState> ownScreenForms;
+
+int PatternPicturesEmptied = 0;
+
+static void EmptyPictures()
+{
+    pictures.clear();
+    pictureFiles.clear();
+    ++PatternPicturesEmptied;
+}
+
 void ForgetPatternFiles()
 {
     fillsFolder.Current = false;
@@ -101,7 +125,8 @@ void ForgetPatterns()
 {
     fillsFolder = FillsFolder();
     tints.clear();
-    pictures.clear();
+    ownScreenForms.clear();
+    EmptyPictures();
 }
 
 static FillsFolder& CurrentFolder()
@@ -129,22 +154,22 @@ static bool InFolder(const Text& name)
     return CurrentFolder().Files.contains(UpperCase(std::string_view(name).substr(fills.size())));
 }
 
+static bool IsScreenForm(const Text& upperName)
+{
+    return upperName.ends_with("_SC.BMP");
+}
+
 Text PrintForm(const Text& screenName)
 {
     return screenName.size() > 7 ? screenName.substr(0, screenName.size() - 7) + ".bmp" : ".bmp";
 }
 
-bool PatternThere(const Text& screenName)
+bool PatternThere(const Text& fillFile)
 {
-    return InFolder(screenName) || InFolder(PrintForm(screenName));
+    return InFolder(fillFile) || (IsScreenForm(UpperCase(fillFile)) && InFolder(PrintForm(fillFile)));
 }
 
 // ---- Pictures
-
-static bool IsScreenForm(const Text& upperName)
-{
-    return upperName.ends_with("_SC.BMP");
-}
 
 // The key of tints that a form of a tinted copy has.
 static Text TintKey(const Text& upperName)
@@ -164,6 +189,54 @@ static uint32_t RgbOf(const Text& color)
     return (drawn & 255) << 16 | (drawn & 0xFF00) | (drawn >> 16 & 255);
 }
 
+// To be called before the file is read. What the first picture of it saw counts until all are emptied.
+static void Watch(const Text& name)
+{
+    const std::string path = NativePath(name);
+    pictureFiles.try_emplace(path, PictureFile{name, StateOf(path)});
+}
+
+static void NoteOwn(const Text& screenName)
+{
+    const std::string path = NativePath(screenName);
+    ownScreenForms[path] = StateOf(path);
+    pictureFiles.erase(path);
+    Watch(screenName);
+}
+
+// The screen form of a print form that has changed shows the pattern as it was. It goes if this program has made it;
+// one that was there may be the user's own.
+static void DropScreenForm(const PictureFile& print)
+{
+    if (IsScreenForm(UpperCase(print.Name)))
+        return;
+    const std::string screen = NativePath(print.Name.substr(0, print.Name.size() - 4) + "_sc.bmp");
+    const auto own = ownScreenForms.find(screen);
+    if (own == ownScreenForms.end())
+        return;
+    if (StateOf(screen) == own->second)
+        std::remove(screen.c_str());
+    ownScreenForms.erase(own);
+}
+
+void ForgetChangedPictures()
+{
+    Platform.DropChangedPictures();
+    bool changed = false;
+    for (const auto& [path, file] : pictureFiles) {
+        if (StateOf(path) == file.State)
+            continue;
+        changed = true;
+        DropScreenForm(file);
+    }
+    if (!changed)
+        return;
+    // All of them: tints and screen forms are made of others.
+    EmptyPictures();
+    for (auto& [key, tint] : tints)
+        tint.Written = false;
+}
+
 static Bitmap MakePicture(const Text& name, const Text& upperName)
 {
     const auto tint = tints.find(TintKey(upperName));
@@ -171,6 +244,9 @@ static Bitmap MakePicture(const Text& name, const Text& upperName)
         const Text& of = tint->second.Of;
         return Tinted(PatternPicture(IsScreenForm(upperName) ? of : PrintForm(of)), RgbOf(tint->second.Color));
     }
+    Watch(name);
+    if (IsScreenForm(upperName))
+        Watch(PrintForm(name));
     if (FileExists(name))
         return LoadBitmap(name);
     if (IsScreenForm(upperName) && FileExists(PrintForm(name)))
@@ -228,8 +304,8 @@ void setfillfile(int number)
     if (!InFolder(PageCanvas.fillFile))
         return;
     const Text screen = stem + "_sc.BMP";
-    if (!InFolder(screen))
-        Keep(screen);
+    if (!InFolder(screen) && Keep(screen))
+        NoteOwn(screen);
     PageCanvas.fillFile = screen;
 }
 

@@ -24,11 +24,12 @@ void setfillfile(int number);
 // Tinted copy k of the current pattern: "T" k "_sc.bmp" and "T" k ".bmp" in the fills folder.
 void createcoloredFP(const Text& color, int k);
 
-Text PrintForm(const Text& screenName);    // without its last 7 characters, plus ".bmp"
-bool PatternThere(const Text& screenName); // the screen form, or the print form that it is made from
-// The picture behind a name that setfillfile or createcoloredFP has made, from memory or the fills folder; loaded
-// once for the run of the program, a tint until its number is used again. The blank pattern is white where its file is
-// missing. Failure 53 for any other that is not there, 481 for one that is no picture.
+Text PrintForm(const Text& screenName); // of a screen form's name: without its last 7 characters, plus ".bmp"
+// What setfillfile has left is in the fills folder: a print form, or a screen form or the print form it is made from.
+bool PatternThere(const Text& fillFile);
+// The picture behind a name of either form that setfillfile or createcoloredFP has made, from memory or the fills
+// folder; loaded once, until a run finds its file changed, a tint until its number is used again. The blank pattern is
+// white where its file is missing. Failure 53 for any other that is not there, 481 for one that is no picture.
 const Bitmap& PatternPicture(const Text& name);
 bool PictureThere(const Text& name); // it is in memory as a tint, or the fills folder has it
 
@@ -37,6 +38,10 @@ extern bool TintsInMemory;
 
 // At the start of a page, and before one is printed: the fills folder is looked at anew, if it has changed.
 void ForgetPatternFiles();
-void ForgetPatterns(); // all pictures too: as at the start of a program
+// At the start of a run, of all its pages: a pattern, a logo or a map whose file has changed since it was loaded, or
+// has gone, is loaded anew. Its screen form is made anew if this program has made it.
+void ForgetChangedPictures();
+void ForgetPatterns();             // all pictures too: as at the start of a program
+extern int PatternPicturesEmptied; // so many times; what is kept of a pattern's picture elsewhere goes with it
 
 void patternstart(); // the Fill Pattern Guide: draws the page and shows it

@@ -81,6 +81,20 @@ void printcanvas()
     Platform.PrintPage();
 }
 
+void PrintRun(void (*print)())
+{
+    try {
+        print();
+    } catch (...) {
+        try {
+            Platform.EndPrintRun();
+        } catch (...) { // the first failure is the one to tell
+        }
+        throw;
+    }
+    Platform.EndPrintRun();
+}
+
 Text DxfName()
 {
     const Text& file = RunPages.pageFile;

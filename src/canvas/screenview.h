@@ -18,6 +18,9 @@ void ShowOrPrint();
 // The page to the printer: the objects hold the print forms of their patterns meanwhile. Failures by number; a
 // pattern that has gone from the fills folder is 53.
 void printcanvas();
+// Prints by that procedure and ends the print run, also when it fails: what has gone out stays, and the next print
+// does not come behind it. Failures by number, of the printing first.
+void PrintRun(void (*print)());
 
 // The page as DXF beside its source, and the box that says so; the name is pageFile with its last 4 characters
 // replaced by ".dxf".

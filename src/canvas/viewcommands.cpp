@@ -4,23 +4,36 @@
 #include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
+#include "canvas/patterns.h"
 #include "canvas/screenview.h"
 #include "session/platform.h"
 
 void PrintShownPage()
 {
     Platform.ShowPrinting();
-    printcanvas();
-    Platform.EndPrintRun();
+    PrintRun(printcanvas);
 }
 
-// The flag of break.mas, which the description column hands from one page to the next. Only log runs write the file.
+// The flag of break.mas, which the description column hands from one page to the next. Only log runs write the file;
+// "" where it is not there.
 static Text BreakFlag()
 {
     try {
         return ReadBreak();
     } catch (...) {
         return "";
+    }
+}
+
+// A flag that cannot be written is no reason to lose the page on the screen: the disk is full, and the run has told it.
+static void PutBack(const Text& flag)
+{
+    if (flag.empty())
+        return;
+    try {
+        WriteBreak(flag);
+    } catch (...) {
+        return;
     }
 }
 
@@ -41,6 +54,7 @@ struct Kept {
     ~Kept()
     {
         Platform.PrintToPdf(false);
+        PutBack(breakFlag);
         Platform.ShowPage = showPage;
         RunPages = run;
         PageList = list;
@@ -59,6 +73,11 @@ static void PageToPdf()
     NextPage();
 }
 
+static bool IsLogRun()
+{
+    return jobCode <= 2 && introType == 0;
+}
+
 void ExportPdf()
 {
     // The run as a person at Next would see it, from its first page to its last, by the very loop that waits here.
@@ -66,14 +85,14 @@ void ExportPdf()
     if (!run)
         return;
     const Kept kept;
+    if (IsLogRun())
+        WriteBreak("0"); // as a run begins, not what the page on the screen has left behind
     Platform.PrintToPdf(true);
     Platform.ShowPage = PageToPdf;
     RunPages.printing = 1; // every entry of the list is a page, also one that Next on the screen would leave out
     stopRequested = 0;
-    run();
-    Platform.EndPrintRun();
-    if (!kept.breakFlag.empty())
-        WriteBreak(kept.breakFlag);
+    ForgetChangedPictures();
+    PrintRun(run);
 }
 
 static constexpr int GuideJob = 9;
@@ -82,8 +101,8 @@ Text ShownPlace()
 {
     if (jobCode == GuideJob)
         return "";
-    const bool fromZero = jobCode <= 2 && introType == 0; // a log run; every other run counts from 1
-    return "Page" + NumberText(RunPages.pageIndex + (fromZero ? 1 : 0)) + " of" + NumberText(RunPages.pageCount);
+    // A log run counts from 0, every other run from 1.
+    return "Page" + NumberText(RunPages.pageIndex + (IsLogRun() ? 1 : 0)) + " of" + NumberText(RunPages.pageCount);
 }
 
 Text ShownFile()

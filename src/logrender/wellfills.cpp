@@ -4,6 +4,8 @@
 #include "logrender/welldiagram.h"
 #include "report/heading.h"
 
+#include <cmath>
+
 // Which of the material words of the heading file, slots 31 to 37, stands first in a text; 0 for none.
 static int MaterialOf(const Text& text)
 {
@@ -21,8 +23,10 @@ int16_t VLOG::selectfill(int layer)
     if (!IsBlank(cell))
         return getpch(cell);
     const int material = MaterialOf(text);
-    if (material == 7) // a centralizer; the number behind its comma is its offset
-        return RoundInt16(wellFillNumbers[7] + TextNumber(Behind(text, ',')));
+    // A centralizer. The number behind its comma is its offset, a whole number before it is added: half to even, so
+    // that 1.5 and 2.5 are the same symbol.
+    if (material == 7)
+        return RoundInt16(wellFillNumbers[7] + std::nearbyint(TextNumber(Behind(text, ','))));
     return wellFillNumbers[material];
 }
 

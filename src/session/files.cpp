@@ -182,17 +182,30 @@ bool FolderWritable(const Text& path)
     return ::unlink(probe.c_str()) == 0 && written;
 }
 
+static constexpr int64_t Second = 1'000'000'000;
+
+static int64_t Nanoseconds(const timespec& time)
+{
+    return time.tv_sec * Second + time.tv_nsec;
+}
+
+FileState StateOf(const std::string& path)
+{
+    struct stat status;
+    if (::stat(path.c_str(), &status) != 0)
+        return {};
+    return {status.st_size, Nanoseconds(status.st_mtim), static_cast<int64_t>(status.st_ino)};
+}
+
 int64_t FolderStamp(const Text& folder)
 {
     struct stat status;
     if (::stat(NativePath(folder.empty() ? Text(".") : folder).c_str(), &status) != 0 || !S_ISDIR(status.st_mode))
         return 0;
-    constexpr int64_t second = 1'000'000'000;
-    const int64_t changed = status.st_mtim.tv_sec * second + status.st_mtim.tv_nsec;
+    const int64_t changed = Nanoseconds(status.st_mtim);
     timespec clock;
     ::clock_gettime(CLOCK_REALTIME, &clock);
-    const int64_t now = clock.tv_sec * second + clock.tv_nsec;
-    return changed > now - second ? 0 : changed ^ static_cast<int64_t>(status.st_ino);
+    return changed > Nanoseconds(clock) - Second ? 0 : changed ^ static_cast<int64_t>(status.st_ino);
 }
 
 std::vector<Text> FilesIn(const Text& folder, const Text& ending)

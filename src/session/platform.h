@@ -33,6 +33,10 @@ struct PlatformRecord {
     void (*ShowPage)();    // the screen view, blocking; its commands move RunPages.pageIndex
     void (*PrintPage)();   // the object list to the printer: one page, brush pictures as the objects hold them
     void (*EndPrintRun)(); // the last page of a print run has gone out
+    // Logos and maps: whether that file can be decoded; and, as a run begins, those that have changed on the disk since
+    // they were loaded are forgotten.
+    bool (*PictureLoads)(const Text& file);
+    void (*DropChangedPictures)();
     // Windows. The blocking ones return when the window is closed.
     void (*ShowDrawPrint)(); // the batch dialog, blocking
     void (*ShowPrinting)();  // the notice "Printing...", blocking for a second and a half

@@ -44,10 +44,10 @@ static std::vector<Entity> Records(const std::string& drawing)
     std::vector<Entity> records;
     size_t at = 0;
     const auto line = [&] {
-        const size_t end = drawing.find('\n', at);
+        const size_t end = drawing.find("\r\n", at);
         REQUIRE(end != std::string::npos);
         const std::string text = drawing.substr(at, end - at);
-        at = end + 1;
+        at = end + 2;
         return text;
     };
     while (at < drawing.size()) {
@@ -95,6 +95,23 @@ static void LevelLines(const char* name = "F21.BMP")
     setfillfile(21);
 }
 
+TEST_CASE("a drawing's lines end with CR LF, as in every file of the program")
+{
+    StartPage();
+    lineright(1);
+    printtext("one\ntwo");
+    const std::string drawing = PageDxf();
+    size_t lines = 0;
+    for (size_t i = 0; i < drawing.size(); ++i)
+        if (drawing[i] == '\n') {
+            ++lines;
+            REQUIRE(i > 0);
+            REQUIRE(drawing[i - 1] == '\r');
+        }
+    CHECK(lines > 100);
+    CHECK(std::count(drawing.begin(), drawing.end(), '\r') == std::ptrdiff_t(lines));
+}
+
 TEST_CASE("one drawing unit is one device unit and y points up")
 {
     StartPage();
@@ -114,22 +131,22 @@ TEST_CASE("the header tells the version, the code page, the limits and how many 
     StartPage("L");
     lineby(1, 1);
     const std::string drawing = PageDxf();
-    CHECK(drawing.starts_with("999\nOne drawing unit is one device unit of the page: 600 units to the inch\n"));
-    CHECK(drawing.find("$ACADVER\n1\nAC1018\n") != std::string::npos);
-    CHECK(drawing.find("$DWGCODEPAGE\n3\nANSI_1252\n") != std::string::npos);
-    CHECK(drawing.find("$INSUNITS\n70\n0\n") != std::string::npos);
-    CHECK(drawing.find("$LIMMIN\n10\n0\n20\n0\n") != std::string::npos);
-    CHECK(drawing.find("$LIMMAX\n10\n6300\n20\n4800\n") != std::string::npos);
-    CHECK(drawing.find("$EXTMIN\n10\n600\n20\n600\n") != std::string::npos);
-    CHECK(drawing.find("$EXTMAX\n10\n1200\n20\n1200\n") != std::string::npos);
-    CHECK(drawing.ends_with("\n0\nEOF\n"));
+    CHECK(drawing.starts_with("999\r\nOne drawing unit is one device unit of the page: 600 units to the inch\r\n"));
+    CHECK(drawing.find("$ACADVER\r\n1\r\nAC1018\r\n") != std::string::npos);
+    CHECK(drawing.find("$DWGCODEPAGE\r\n3\r\nANSI_1252\r\n") != std::string::npos);
+    CHECK(drawing.find("$INSUNITS\r\n70\r\n0\r\n") != std::string::npos);
+    CHECK(drawing.find("$LIMMIN\r\n10\r\n0\r\n20\r\n0\r\n") != std::string::npos);
+    CHECK(drawing.find("$LIMMAX\r\n10\r\n6300\r\n20\r\n4800\r\n") != std::string::npos);
+    CHECK(drawing.find("$EXTMIN\r\n10\r\n600\r\n20\r\n600\r\n") != std::string::npos);
+    CHECK(drawing.find("$EXTMAX\r\n10\r\n1200\r\n20\r\n1200\r\n") != std::string::npos);
+    CHECK(drawing.ends_with("\r\n0\r\nEOF\r\n"));
 }
 
 TEST_CASE("a page without objects is a drawing without entities whose extents are the sheet")
 {
     StartPage();
     CHECK(Entities().empty());
-    CHECK(PageDxf().find("$EXTMAX\n10\n4800\n20\n6300\n") != std::string::npos);
+    CHECK(PageDxf().find("$EXTMAX\r\n10\r\n4800\r\n20\r\n6300\r\n") != std::string::npos);
 }
 
 TEST_CASE("a drawing before any page was started holds what the list holds")
@@ -143,7 +160,7 @@ TEST_CASE("a drawing before any page was started holds what the list holds")
 TEST_CASE("no handle is given twice and the next free one is behind them all")
 {
     StartPage();
-    WriteScratch("MAP.BMP", "x");
+    WritePicture("MAP.BMP");
     drawbitmap("MAP.BMP", 1, 1);
     drawbitmap("MAP.BMP", 1, 1);
     printtext("words");
@@ -160,9 +177,9 @@ TEST_CASE("no handle is given twice and the next free one is behind them all")
     }
     std::sort(handles.begin(), handles.end());
     CHECK(std::adjacent_find(handles.begin(), handles.end()) == handles.end());
-    const size_t seed = drawing.find("$HANDSEED\n5\n");
+    const size_t seed = drawing.find("$HANDSEED\r\n5\r\n");
     REQUIRE(seed != std::string::npos);
-    CHECK(std::stol(drawing.substr(seed + 12), nullptr, 16) > handles.back());
+    CHECK(std::stol(drawing.substr(seed + 14), nullptr, 16) > handles.back());
 }
 
 TEST_CASE("dashes of the line types are lengths of the page")
@@ -514,7 +531,7 @@ TEST_CASE("the size of a picture is read from the head of each kind of file, and
 TEST_CASE("a picture that went away since it was drawn is still an image")
 {
     StartPage();
-    WriteScratch("gone.bmp", "BM");
+    WritePicture("gone.bmp");
     drawbitmap("gone.bmp", 1, 1);
     std::filesystem::remove(Scratch("gone.bmp"));
     REQUIRE(Entities().size() == 1);

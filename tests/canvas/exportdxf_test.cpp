@@ -19,7 +19,7 @@ TEST_CASE("the export lands beside the source file, replaces an older one withou
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "FILE CREATED:  " + Scratch("B-1.dxf"));
     CHECK(Messages[0].buttons == OkOnly);
-    CHECK(Messages[0].icon == NoIcon);
+    CHECK(Messages[0].icon == Announcement);
 }
 
 TEST_CASE("an export that cannot be written says nothing of a file")

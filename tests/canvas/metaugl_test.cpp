@@ -313,13 +313,25 @@ TEST_CASE("a missing picture is told and adds nothing")
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "File Not Found: nothing.bmp");
     CHECK(PageList.Objects.empty());
-    WriteScratch("MAP.BMP", "x");
+    WritePicture("MAP.BMP");
     moveto(1, 1);
     setscalex(5);
     drawbitmap("map.bmp", 2.35, -0.7);
     CHECK(Last().X2 == 600 + 1410);
     CHECK(Last().Y2 == 5700 + 420);
     CHECK(Last().String == "map.bmp");
+}
+
+TEST_CASE("a picture that is no picture is failure 481 and adds nothing, whatever the platform reads")
+{
+    StartPage();
+    WriteScratch("MAP.BMP", "a text");
+    CHECK(FailureOf([] { drawbitmap("map.bmp", 1, 1); }) == InvalidPicture);
+    WritePicture("GOOD.BMP");
+    Platform.PictureLoads = [](const Text& file) { return file != "good.bmp"; };
+    CHECK(FailureOf([] { drawbitmap("good.bmp", 1, 1); }) == InvalidPicture);
+    CHECK(PageList.Objects.empty());
+    CHECK(Messages.empty());
 }
 
 TEST_CASE("bringtofront moves the object just added to the end of the list")
@@ -345,6 +357,19 @@ TEST_CASE("mode C keeps the sheet of the page before, and any other mode than P 
     CHECK(PageCanvas.pageWidthUnits == 9900);
     canvasstart("");
     CHECK(PageCanvas.pageWidthInches == 16.5f);
+}
+
+TEST_CASE("a page is printed on the paper that its sheet was asked for with, also in mode C and without a mode")
+{
+    static char asked;
+    Platform.PrinterSheet = [](char mode) { return DefaultSheet(asked = mode); };
+    for (const char* mode : {"P", "L", "T", ""}) {
+        canvasstart(mode);
+        CHECK(PageCanvas.paper == asked);
+        canvasstart("C");
+        CHECK(PageCanvas.paper == asked);
+    }
+    CHECK(asked == 'T');
 }
 
 TEST_CASE("a new page resets text, pen width and fill but not the pen, the origin and the scales")

@@ -5,6 +5,8 @@
 #include "canvas/pageobjects.h"
 #include "testing.h"
 
+#include <array>
+
 static void Letter()
 {
     canvasstart("P");
@@ -105,6 +107,29 @@ TEST_CASE("a rectangle of the page fills the window, less a pixel on each side")
     CHECK(view.ImageHeight == doctest::Approx(568.0 * 6300 / 720));
     CHECK(PageX(view, 0) == doctest::Approx(1200));
     CHECK(PageY(view, 0) == doctest::Approx(600));
+}
+
+TEST_CASE("a rectangle shows the same part of the page, whichever corner its drag began in")
+{
+    Letter();
+    for (const auto& [x1, y1, x2, y2] : {std::array{1200, 600, 2400, 1320}, std::array{2400, 1320, 1200, 600},
+                                         std::array{2400, 600, 1200, 1320}, std::array{1200, 1320, 2400, 600}}) {
+        const ViewRecord view = ZoomDragged({}, x1, y1, x2, y2, 950, 570);
+        CHECK(PageX(view, 0) == doctest::Approx(1200));
+        CHECK(PageY(view, 0) == doctest::Approx(600));
+        CHECK(PageX(view, 948) == doctest::Approx(2400));
+        CHECK(PageY(view, 568) == doctest::Approx(1320));
+    }
+}
+
+TEST_CASE("rectangle in rectangle stops where the wheel stops, with the middle of the last one in the middle")
+{
+    Letter();
+    const ViewRecord view = ZoomDragged({}, 1200, 600, 1202, 601.2, 950, 570);
+    CHECK(view.ImageWidth == doctest::Approx(8 * MaxScale));
+    CHECK(view.ImageHeight == doctest::Approx(10.5 * MaxScale).epsilon(0.01));
+    CHECK(PageX(view, 475) == doctest::Approx(1201).epsilon(0.0001));
+    CHECK(PageY(view, 285) == doctest::Approx(600.6).epsilon(0.0001));
 }
 
 TEST_CASE("a rectangle without width is told, and the view stays")

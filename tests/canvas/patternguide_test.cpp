@@ -99,6 +99,19 @@ TEST_CASE("the guide counts 66 steps and shows its page once, as the only page o
     CHECK(DxfName() == Scratch("fillpatt.dxf"));
 }
 
+TEST_CASE("a guide that fails leaves no progress window behind")
+{
+    progressShown.clear();
+    Platform.ShowProgress = [](bool shown) { progressShown.push_back(shown); };
+    std::filesystem::create_directories(Scratch("fills"));
+    WriteScratch("fills/F30.BMP", "no picture");
+    patternstart();
+    CHECK(progressShown == std::vector<bool>{true, false});
+    REQUIRE(Messages.size() == 1);
+    CHECK(Messages[0].words == "Error 481 in patternstart.  Please contact Norvane");
+    CHECK(Listings.empty());
+}
+
 TEST_CASE("Previous and GoTo from the guide find no other page")
 {
     PlainShowPage = [] { CHECK_FALSE(PreviousPage()); };

@@ -164,6 +164,19 @@ TEST_CASE("a missing pattern leaves its print name, and its fill is the blank pa
     CHECK(Messages.empty());
 }
 
+TEST_CASE("a missing pattern is not taken for another one whose name begins its own")
+{
+    StartPage({"F0.BMP", "F1.bmp", "F21.BMP"});
+    setfillfile(1020);
+    CHECK(PageCanvas.fillFile == FillsName("F1020.BMP"));
+    CHECK_FALSE(PatternThere(PageCanvas.fillFile));
+    rectfill(1, 1);
+    CHECK(BaseName(PageList.Objects.back().BrushPicture) == "f0_sc.bmp");
+    // A screen form counts as there by its print form, in any letters.
+    CHECK(PatternThere(FillsName("f21_SC.Bmp")));
+    CHECK_FALSE(PatternThere(FillsName("F22_sc.BMP")));
+}
+
 TEST_CASE("the blank pattern is white, its file there or not")
 {
     StartPage({});
@@ -245,6 +258,108 @@ TEST_CASE("two tints of a page have files of their own, numbered anew on the nex
     CHECK(BaseName(PageList.Objects[0].BrushPicture) == "T1_sc.bmp");
     CHECK(LoadBitmap(FillsName("T1.bmp")).At(0, 0) == 0x00FF00);
     CHECK(PatternPicture(FillsName("T1.bmp")).At(0, 0) == 0x00FF00);
+}
+
+// As a user who draws a pattern anew: another picture in the file's place.
+static void Mend(const char* file, uint32_t color)
+{
+    Bitmap bitmap;
+    bitmap.Width = bitmap.Height = 150;
+    bitmap.Pixels.assign(150 * 150, color);
+    WriteWholeFile(FillsName(file), EncodeBitmap(bitmap), Durability::Scratch);
+}
+
+TEST_CASE("a pattern that has been mended is seen from the next run on, in both its forms")
+{
+    StartPage({"F21.BMP", "F22.BMP"});
+    setfillfile(21);
+    const Text screen = PageCanvas.fillFile;
+    CHECK(PatternPicture(screen).At(0, 0) == 0xFFFFFF);
+    CHECK(PatternPicture(PrintForm(screen)).At(0, 0) == 0xFFFFFF);
+    const Bitmap& other = PatternPicture(FillsName("F22.bmp"));
+    CHECK(other.Width == 150);
+    Mend("F21.BMP", 0);
+    // Not within the run: all its pages have the same.
+    canvasstart("P");
+    setfillfile(21);
+    CHECK(PatternPicture(PrintForm(screen)).At(0, 0) == 0xFFFFFF);
+    const int before = PatternPicturesEmptied;
+    ForgetChangedPictures();
+    CHECK(PatternPicturesEmptied == before + 1);
+    canvasstart("P");
+    setfillfile(21);
+    CHECK(PatternPicture(PrintForm(screen)).At(0, 0) == 0);
+    CHECK(PatternPicture(screen).At(0, 0) == 0);
+    CHECK(PatternPicture(screen).Width == 25);
+    CHECK(LoadBitmap(FillsName("F21_sc.BMP")).At(0, 0) == 0);
+    CHECK(PatternPicture(FillsName("F22.bmp")).At(0, 0) == 0xFFFFFF);
+}
+
+TEST_CASE("the screen form of a mended pattern stays if it was there before, or if the user has drawn it meanwhile")
+{
+    StartPage({"F21.BMP", "F22.BMP"});
+    WriteScratch("fills/F21_sc.BMP", EncodeBitmap(Checks(30)));
+    setfillfile(21);
+    CHECK(PatternPicture(PageCanvas.fillFile).Width == 30);
+    setfillfile(22);
+    CHECK(PatternPicture(PageCanvas.fillFile).At(0, 0) == 0xFFFFFF);
+    Mend("F21.BMP", 0);
+    Mend("F22.BMP", 0);
+    Mend("F22_sc.BMP", 0x123456);
+    ForgetChangedPictures();
+    canvasstart("P");
+    setfillfile(21);
+    CHECK(PatternPicture(PageCanvas.fillFile).Width == 30);
+    CHECK(PatternPicture(PrintForm(PageCanvas.fillFile)).At(0, 0) == 0);
+    setfillfile(22);
+    CHECK(PatternPicture(PageCanvas.fillFile).At(0, 0) == 0x123456);
+}
+
+TEST_CASE("a pattern whose bytes are what they were keeps the screen form that was drawn for it")
+{
+    StartPage({"F21.BMP"});
+    WriteScratch("fills/F21_sc.BMP", EncodeBitmap(Checks(30)));
+    setfillfile(21);
+    CHECK(PatternPicture(PageCanvas.fillFile).Width == 30);
+    CHECK(PatternPicture(FillsName("F21.bmp")).Width == 150);
+    const int before = PatternPicturesEmptied;
+    std::filesystem::permissions(FillsName("F21.BMP"), std::filesystem::perms::owner_all);
+    ForgetChangedPictures();
+    CHECK(PatternPicturesEmptied == before);
+    CHECK(OnDisk("F21_sc.BMP"));
+}
+
+TEST_CASE("a tint follows the pattern that it is made of, and is written anew")
+{
+    StartPage({"F21.BMP"});
+    setfillfile(21);
+    rectfillcolored(1, 1, "255 0 0");
+    CHECK(LoadBitmap(FillsName("T1.bmp")).At(0, 0) == 0xFF0000);
+    Mend("F21.BMP", 0);
+    ForgetChangedPictures();
+    canvasstart("P");
+    setfillfile(21);
+    rectfillcolored(1, 1, "255 0 0");
+    CHECK(PatternPicture(FillsName("T1.bmp")).At(0, 0) == 0);
+    CHECK(LoadBitmap(FillsName("T1.bmp")).At(0, 0) == 0);
+}
+
+TEST_CASE("runs that find every pattern as it was keep their pictures")
+{
+    StartPage({"F0.BMP", "F21.BMP"});
+    setfillfile(21);
+    rectfillcolored(1, 1, "255 0 0");
+    PatternPicture(FillsName("T1.bmp"));
+    PatternPicture(FillsName("f0_sc.bmp"));
+    const int before = PatternPicturesEmptied;
+    ForgetChangedPictures();
+    ForgetChangedPictures();
+    CHECK(PatternPicturesEmptied == before);
+    // A pattern that goes is forgotten.
+    std::filesystem::remove(FillsName("F21.BMP"));
+    ForgetChangedPictures();
+    CHECK(PatternPicturesEmptied == before + 1);
+    CHECK(FailureOf([] { PatternPicture(FillsName("F21.bmp")); }) == FileNotFound);
 }
 
 TEST_CASE("a tint that stands there already is not written again")

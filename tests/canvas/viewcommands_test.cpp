@@ -89,6 +89,129 @@ TEST_CASE("a run that fails on its way to the PDF gives the screen back")
     ThreePages();
 }
 
+// A run of two pages that notes the flag of break.mas which each of them finds.
+static std::vector<Text> flagsFound;
+
+static void PagesThatReadTheFlag()
+{
+    RunPages.pageCount = 2;
+    RunPages.pageIndex = 0;
+    RunPages.pageFile = "B-1.BOR";
+    while (RunPages.pageIndex < RunPages.pageCount) {
+        flagsFound.push_back(ReadBreak());
+        WriteBreak("Y");
+        ShowOrPrint();
+    }
+}
+
+TEST_CASE("the PDF of a log run begins with the flag of break.mas that every run begins with")
+{
+    Prepare();
+    flagsFound.clear();
+    JobTable[1] = PagesThatReadTheFlag;
+    WriteBreak("0");
+    PlainShowPage = [] {
+        ExportPdf();
+        CHECK(ReadBreak() == "Y");
+        ExitRun();
+    };
+    PagesThatReadTheFlag();
+    CHECK(flagsFound == std::vector<Text>{"0", "0", "Y"});
+}
+
+TEST_CASE("the PDF of an intro page or of a section leaves break.mas alone")
+{
+    Prepare();
+    PlainShowPage = [] { ExitRun(); };
+    for (const bool intro : {true, false}) {
+        jobCode = intro ? 1 : 3;
+        introType = intro ? 1 : 0;
+        static Text found;
+        IntroPages = JobTable[3] = [] { found = FailureOf([] { ReadBreak(); }) == 0 ? ReadBreak() : "none"; };
+        ExportPdf();
+        CHECK(found == "none");
+        CHECK_FALSE(std::filesystem::exists(Scratch("break.mas")));
+    }
+}
+
+TEST_CASE("a PDF run that fails gives break.mas back too, and is ended")
+{
+    Prepare();
+    PlainShowPage = [] {
+        WriteBreak("Y");
+        Platform.PrintPage = [] { throw RunTimeError{DiskFull}; };
+        CHECK(FailureOf(ExportPdf) == DiskFull);
+        CHECK(ReadBreak() == "Y");
+        CHECK(events == std::vector<Text>{"to PDF", "run ended", "as before"});
+        ExitRun();
+    };
+    ThreePages();
+}
+
+TEST_CASE("a PDF run whose end fails gives break.mas back too")
+{
+    Prepare();
+    PlainShowPage = [] {
+        WriteBreak("N");
+        Platform.EndPrintRun = [] { throw RunTimeError{DiskFull}; };
+        CHECK(FailureOf(ExportPdf) == DiskFull);
+        CHECK(ReadBreak() == "N");
+        ExitRun();
+    };
+    ThreePages();
+}
+
+TEST_CASE("a page that cannot be printed ends its job all the same, and its own failure is told")
+{
+    Prepare();
+    PlainShowPage = [] {
+        Platform.PrintPage = [] { throw RunTimeError{PrinterError}; };
+        CHECK(FailureOf(PrintShownPage) == PrinterError);
+        CHECK(events == std::vector<Text>{"notice", "run ended"});
+        Platform.EndPrintRun = [] { throw RunTimeError{DiskFull}; };
+        CHECK(FailureOf(PrintShownPage) == PrinterError);
+        ExitRun();
+    };
+    ThreePages();
+}
+
+TEST_CASE("a print run of the dialog is ended also where its renderer fails")
+{
+    Prepare();
+    JobTable[4] = [] { throw RunTimeError{DeviceError}; };
+    jobCode = 4;
+    singleFile = 1;
+    singleFileName = "S-1.CRO";
+    DrawPrintOk();
+    CHECK(events == std::vector<Text>{"run ended"});
+    REQUIRE(Messages.size() == 1);
+    CHECK(Messages[0].words == "Error 57 in DrawPrintOk.  Please contact Norvane");
+}
+
+static int looks; // so many times the pictures were looked through for changed ones
+
+TEST_CASE("changed logos and maps are looked for as a run begins, and not for each of its pages")
+{
+    Prepare();
+    looks = 0;
+    Platform.DropChangedPictures = [] { ++looks; };
+    singleFile = 1;
+    singleFileName = "B-1.BOR";
+    frmDrawPrint::Dialog.ReportOption = 1;
+    IntroPages = ThreePages;
+    PlainShowPage = nullptr;
+    DrawPrintOk();
+    CHECK(Listings.size() == 3);
+    CHECK(looks == 1);
+    PlainShowPage = [] {
+        ExportPdf();
+        ExitRun();
+    };
+    DrawPrintOk();
+    CHECK(printedPages.size() == 3);
+    CHECK(looks == 3);
+}
+
 TEST_CASE("Print shows its notice, prints the page and ends the job")
 {
     Prepare();

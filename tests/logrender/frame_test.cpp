@@ -179,7 +179,7 @@ TEST_CASE("each code of a layout has its block")
         for (int i = 1; i <= 10; ++i)
             LogBoring.BottNotes[i] = "N" + std::to_string(i);
         LogBoring.Client[1] = "C1";
-        WriteScratch("MAP.BMP", "");
+        WritePicture("MAP.BMP");
         LogBoring.MapFile = "MAP.BMP";
         LogGeometry.TitleBlocks[1] = code;
         Frame();

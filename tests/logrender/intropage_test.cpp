@@ -107,7 +107,7 @@ TEST_CASE("the map is project.bmp of the project folder, in any letters, under i
     StartIntro();
     std::filesystem::create_directories(Scratch("project"));
     ProjectPath = Scratch("project");
-    WriteScratch("project/PROJECT.BMP", "");
+    WritePicture("project/PROJECT.BMP");
     VLOG::drawintromap();
     CHECK(Drawn() == Drawing{"text 3390,150 10pt  W18  centred", "picture 2670,270 4170,2070 project.bmp",
                              "rectangle 2670,270 4170,2070"});
@@ -117,6 +117,21 @@ TEST_CASE("the map is project.bmp of the project folder, in any letters, under i
     CHECK(Drawn() == Drawing{"text 1320,1170 10pt  W18  centred", "picture 120,1260 2520,3660 project.bmp",
                              "rectangle 120,1260 2520,3660"});
     CHECK(Messages.empty());
+}
+
+TEST_CASE("a project map that is no picture ends its block, and the legend follows")
+{
+    StartIntro();
+    WriteScratch("project.bmp", "a text");
+    VLOG::drawintromain();
+    introType = 2;
+    VLOG::drawintromap2();
+    REQUIRE(Messages.size() == 2);
+    CHECK(Messages[0].words == "Error 481 in drawintromap.  Please contact Norvane");
+    CHECK(Messages[1].words == "Error 481 in drawintromap2.  Please contact Norvane");
+    CHECK(Drawn() == Drawing{"text 150,1140 12pt B-1", "rectangle 120,1260 2520,3660", "line 1320,1260 1320,3660",
+                             "text 1380,1320 7pt W16", "text 3390,150 10pt  W18  centred",
+                             "text 120,3810 10pt W19:", "text 1320,1170 10pt  W18  centred"});
 }
 
 TEST_CASE("arrangement 1 has the name over the well block, then the map, then the legend's title")

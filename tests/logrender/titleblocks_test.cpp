@@ -68,7 +68,7 @@ TEST_CASE("on a wide page the logo text stands in the middle of the wider block"
 TEST_CASE("a picture logo fills its block but for a small rim")
 {
     StartBlock();
-    WriteScratch("OWN.bmp", "");
+    WritePicture("OWN.bmp");
     PictureLogo("OWN.bmp");
     VLOG::drawlogo(0);
     CHECK(Drawn() == Drawing{"rectangle 0,0 1440,450", "picture 15,15 1425,435 OWN.bmp"});
@@ -81,8 +81,8 @@ TEST_CASE("a picture logo fills its block but for a small rim")
 TEST_CASE("the logo is looked for in the logo folder, and in the working folder where none is set")
 {
     std::filesystem::create_directories(Scratch("logos"));
-    WriteScratch("logos/A.BMP", "");
-    WriteScratch("B.BMP", "");
+    WritePicture("logos/A.BMP");
+    WritePicture("B.BMP");
     StartBlock();
     DeviceConfig.SystemFiles[LogoFolder] = Scratch("logos");
     PictureLogo("A.BMP");
@@ -113,6 +113,17 @@ TEST_CASE("a missing logo picture is told")
     VLOG::drawlogo(0);
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "File Not Found: " + Scratch("NONE.BMP"));
+}
+
+TEST_CASE("a logo that is no picture is the failure of its block, which has its box alone")
+{
+    StartBlock();
+    WriteScratch("TEXT.BMP", "not a picture");
+    PictureLogo("TEXT.BMP");
+    VLOG::drawlogo(0);
+    REQUIRE(Messages.size() == 1);
+    CHECK(Messages[0].words == "Error 481 in drawlogo.  Please contact Norvane");
+    CHECK(Drawn() == Drawing{"rectangle 0,0 1440,450"});
 }
 
 TEST_CASE("the client block has five lines in the open style")
@@ -280,12 +291,23 @@ TEST_CASE("the map is the boring's picture in the project folder, at its true si
     StartBlock();
     std::filesystem::create_directories(Scratch("project"));
     ProjectPath = Scratch("project");
-    WriteScratch("project/SITE.BMP", "");
+    WritePicture("project/SITE.BMP");
     LogBoring.MapFile = "  SITE.BMP ";
     VLOG::drawmap();
     CHECK(Drawn() == Drawing{"picture 30,30 1410,870 SITE.BMP"});
     CHECK(PageCanvas.scaleX == 1);
     CHECK(PageCanvas.scaleY == 1);
+}
+
+TEST_CASE("a map that is no picture is the failure of its block")
+{
+    StartBlock();
+    WriteScratch("SITE.BMP", "not a picture");
+    LogBoring.MapFile = "SITE.BMP";
+    VLOG::drawmap();
+    REQUIRE(Messages.size() == 1);
+    CHECK(Messages[0].words == "Error 481 in drawmap.  Please contact Norvane");
+    CHECK(Drawn().empty());
 }
 
 TEST_CASE("a boring without a map draws none, and a missing one is told")

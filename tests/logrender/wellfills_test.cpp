@@ -48,6 +48,14 @@ TEST_CASE("a centralizer's offset counts up from its symbol")
     CHECK(FillOf("Centralizer,-3") == 498);
 }
 
+TEST_CASE("the half of a centralizer's offset goes to the even number by itself, before the symbol's is added")
+{
+    CHECK(FillOf("Centralizer, 0.5") == 501);
+    CHECK(FillOf("Centralizer, 1.5") == 503);
+    CHECK(FillOf("Centralizer, 2.5") == 503);
+    CHECK(FillOf("Centralizer, -0.5") == 501);
+}
+
 TEST_CASE("findcenttype cuts a centralizer's text at its comma and gives the number behind it")
 {
     Text text = "4 in. cent., 1.5";

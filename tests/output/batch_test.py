@@ -240,6 +240,49 @@ class Batch(unittest.TestCase):
         self.assertEqual(done.stderr, "Boring File Not Found: " + os.path.realpath(self.folder) + "/NONE.BOR\n")
         self.assertEqual([page[0]["source"] for page in listing(self.path("a.jsonl"))], ["A.CRO", "B.CRO"])
 
+    def test_a_map_or_a_logo_that_is_no_picture_is_left_out_of_every_output_and_told_by_its_block(self):
+        home = self.home()
+        with open(os.path.join(home, "logo.txt"), encoding="latin-1", newline="") as file:
+            lines = file.read().split("\r\n")
+        lines[3:5] = ["1", "TEXT.BMP"]
+        with open(os.path.join(home, "logo.txt"), "w", encoding="latin-1", newline="") as file:
+            file.write("\r\n".join(lines))
+        os.mkdir(self.path("job"))
+        for place in (os.path.join(home, "TEXT.BMP"), self.path("job/SITEMAP.BMP"), self.path("job/project.bmp")):
+            with open(place, "w") as file:
+                file.write("a text under the name of a picture")
+        for name in ("TC-101.BOR", "MW-108.BOR", "TC-F1.FEN"):
+            shutil.copy(sample(name), self.path("job"))
+        words = "Error 481 in %s.  Please contact Norvane"
+        for job, file, failing in (("log", "MW-108.BOR", {"drawlogo", "drawmap"}),
+                                   ("intro", "MW-108.BOR", {"drawlogo", "drawintromap"}),
+                                   ("fence", "TC-F1.FEN", {"drawlogo"})):
+            good = "good.jsonl"
+            self.run_batch(job, "--project", SAMPLES, "--list", good, sample(file))
+            wanted = [[item for item in page[1] if item["kind"] != "text"] for page in listing(self.path(good))]
+            for outputs in (["--list", "a.jsonl"], ["--list", "a.jsonl", "--pdf", "a.pdf"],
+                            ["--list", "a.jsonl", "--pdf", "a.pdf", "--png", "png", "--dpi", "20", "--dxf", "dxf"]):
+                with self.subTest(job=job, outputs=outputs):
+                    done = self.run_batch(job, "--home", home, *outputs, "job/" + file, status=1)
+                    told = {line for line in done.stderr.splitlines() if line.startswith("Error")}
+                    self.assertEqual(told, {words % name for name in failing})
+                    pages = listing(self.path("a.jsonl"))
+                    self.assertEqual(len(pages), len(wanted))
+                    for page, kept in zip(pages, wanted):
+                        self.assertEqual([item for item in page[1] if item["kind"] == "picture"], [])
+                        if job == "log":
+                            self.assertEqual([item for item in page[1] if item["kind"] != "text"],
+                                             [item for item in kept if item["kind"] != "picture"])
+            info = subprocess.run(["pdfinfo", self.path("a.pdf")], capture_output=True, text=True).stdout
+            self.assertIn(f"Pages:           {len(wanted)}\n", info)
+            images = subprocess.run(["pdfimages", "-list", self.path("a.pdf")], capture_output=True, text=True).stdout
+            self.assertEqual(images.count(" image "), 0, images)
+            stem = file[:-4]
+            for number in range(1, len(wanted) + 1):
+                self.assertTrue(os.path.exists(self.path(f"png/{stem}-{number}.png")))
+                with open(self.path(f"dxf/{stem}-{number}.dxf"), "rb") as drawing:
+                    self.assertFalse(b"\r\n0\r\nIMAGE\r\n5\r\n" in drawing.read())
+
     def test_intro_pages_are_one_page_a_boring_in_the_arrangement_asked_for(self):
         names = {}
         for arrangement in ("1", "2"):

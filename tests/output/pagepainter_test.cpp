@@ -5,6 +5,7 @@
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
 #include "session/failure.h"
+#include "session/files.h"
 
 #include <QPainter>
 #include <cmath>
@@ -426,6 +427,94 @@ TEST_CASE("a picture that is gone fails with 53 and a damaged one with 481, when
     CHECK(Dark(image, 200, 300));
     WriteScratch("LOGO.BMP", "no picture");
     CHECK(paint() == InvalidPicture);
+}
+
+static int FailureOfLoading()
+{
+    return FailureOf([] { LoadPagePictures(PatternForm::Print); });
+}
+
+TEST_CASE("the pictures of a page can be had or not before any of it is painted")
+{
+    StartTestPage(400, 400);
+    CHECK(FailureOfLoading() == 0);
+    PageObject& pattern = AddObject(ObjectKind::Rectangle, 0, 400, 400, 0);
+    pattern.Brush = BrushStyle::Picture;
+    pattern.BrushPicture = Scratch("fills/F21_sc.BMP");
+    pattern.Fill = Scratch("fills/F21.bmp");
+    CHECK(FailureOfLoading() == FileNotFound);
+    WriteTestPattern("F21.BMP", 0, 0);
+    CHECK(FailureOfLoading() == 0);
+    AddObject(ObjectKind::Picture, 50, 200, 200, 50).String = Scratch("MAP.BMP");
+    CHECK(FailureOfLoading() == FileNotFound);
+    WriteScratch("MAP.BMP", "no picture");
+    CHECK(FailureOfLoading() == InvalidPicture);
+}
+
+TEST_CASE("a picture loads in any form that its bytes tell, whatever its name says")
+{
+    StartTestPage(400, 400);
+    QImage(3, 2, QImage::Format_RGB32).save(QString::fromStdString(Scratch("png.bmp")), "png");
+    WritePicture("real.bmp");
+    WriteScratch("text.bmp", "a text");
+    WriteScratch("cut.bmp", ReadScratch("real.bmp").substr(0, 30));
+    WriteScratch("empty.bmp", "");
+    CHECK(PictureLoads(Scratch("png.bmp")));
+    CHECK(PictureLoads(Scratch("REAL.BMP")));
+    for (const char* name : {"text.bmp", "cut.bmp", "empty.bmp", "gone.bmp"}) {
+        CAPTURE(name);
+        CHECK_FALSE(PictureLoads(Scratch(name)));
+    }
+}
+
+static void Replace(const char* name, std::string_view bytes)
+{
+    WriteWholeFile(Scratch(name), bytes, Durability::Scratch);
+}
+
+TEST_CASE("a map that has changed on the disk is the old one until a run begins, then the new one")
+{
+    StartTestPage(400, 400);
+    AddObject(ObjectKind::Picture, 100, 300, 300, 100).String = Scratch("MAP.BMP");
+    const auto colour = [] { return Painted().pixel(200, 200); };
+    Replace("MAP.BMP", EncodeBitmap(Bitmap{1, 1, {0xFF0000}}));
+    CHECK(colour() == qRgb(255, 0, 0));
+    Replace("MAP.BMP", EncodeBitmap(Bitmap{1, 1, {0x0000FF}}));
+    CHECK(colour() == qRgb(255, 0, 0));
+    DropChangedPictures();
+    CHECK(colour() == qRgb(0, 0, 255));
+    Replace("MAP.BMP", "no picture");
+    DropChangedPictures();
+    CHECK_FALSE(PictureLoads(Scratch("MAP.BMP")));
+    Replace("MAP.BMP", EncodeBitmap(Bitmap{1, 1, {0x00FF00}}));
+    DropChangedPictures();
+    CHECK(PictureLoads(Scratch("MAP.BMP")));
+    CHECK(colour() == qRgb(0, 255, 0));
+    std::filesystem::remove(Scratch("MAP.BMP"));
+    DropChangedPictures();
+    CHECK_FALSE(PictureLoads(Scratch("MAP.BMP")));
+}
+
+TEST_CASE("a pattern that has been mended is painted anew from the next run on, at full size and averaged")
+{
+    StartTestPage(400, 400);
+    PageObject& object = AddObject(ObjectKind::Rectangle, 0, 300, 300, 0);
+    object.Brush = BrushStyle::Picture;
+    object.BrushPicture = Scratch("fills/F21_sc.BMP");
+    object.Fill = Scratch("fills/F21.bmp");
+    object.PenWidth = 1;
+    WriteTestPattern("F21.BMP", 0, 0);
+    CHECK(Dark(Painted(), 15, 15));
+    CHECK(Dark(Painted(0.5), 8, 8));
+    WriteTestPattern("F21.BMP", 60, 60);
+    CHECK(Dark(Painted(), 15, 15));
+    Platform.DropChangedPictures = DropChangedPictures;
+    ForgetChangedPictures();
+    for (const double scale : {1.0, 0.5}) {
+        const QImage image = Painted(scale);
+        CHECK_FALSE(Dark(image, int(15 * scale), int(15 * scale)));
+        CHECK(Dark(image, int(75 * scale), int(75 * scale)));
+    }
 }
 
 TEST_CASE("a picture fills its corners, found in any case of its name")

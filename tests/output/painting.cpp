@@ -5,12 +5,14 @@
 #include "canvas/metaugl.h"
 #include "platform/qt/headless.h"
 #include "session/deviceconfig.h"
+#include "session/files.h"
 
 #include <QPainter>
 
 void StartTestPage(int width, int height)
 {
     StartWithoutScreen();
+    DropChangedPictures(); // of the test before, in the same folder
     std::filesystem::create_directories(Scratch("fills"));
     DeviceConfig.SystemFiles[FillFolder] = Scratch("fills/");
     canvasstart("P");
@@ -23,7 +25,8 @@ void WriteTestPattern(const char* name, int left, int top)
     for (int y = top; y < top + 30; ++y)
         for (int x = left; x < left + 30; ++x)
             bitmap.At(x, y) = 0;
-    WriteScratch(Text("fills/") + name, EncodeBitmap(bitmap));
+    // In the place of an older one, as an editor saves: another file, however soon it comes.
+    WriteWholeFile(Scratch(Text("fills/") + name), EncodeBitmap(bitmap), Durability::Scratch);
 }
 
 QImage Painted(double scale, PatternForm form)

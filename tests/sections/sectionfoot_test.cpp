@@ -9,6 +9,8 @@
 #include "sections/fencerun.h"
 #include "session/deviceconfig.h"
 
+#include <algorithm>
+
 using namespace VCROSS;
 
 // The foot of a section, without logo and date line unless they are asked for.
@@ -101,12 +103,27 @@ TEST_CASE("titles stand centred behind a picture logo too, and empty ones are pr
 {
     LogoData.Flag = 1;
     LogoData.File = "OWN.bmp";
-    WriteScratch("OWN.bmp", "");
+    WritePicture("OWN.bmp");
     SectionText section;
     section.MainTitle = section.Title1 = "";
     const Drawing drawing = Foot(section);
     CHECK(drawing[4] == "text 2160,3540 10pt    centred");
     CHECK(drawing[8] == "text 2160,3990 9pt    centred");
+}
+
+TEST_CASE("behind a logo that is no picture the rest of the foot is drawn")
+{
+    LogoData.Flag = 1;
+    LogoData.File = "OWN.bmp";
+    WritePicture("OWN.bmp");
+    const Drawing whole = Foot({});
+    WriteScratch("OWN.bmp", "a text");
+    const Drawing drawing = Foot({});
+    REQUIRE(Messages.size() == 1);
+    CHECK(Messages[0].words == "Error 481 in drawlogo.  Please contact Norvane");
+    REQUIRE(drawing.size() + 1 == whole.size());
+    for (const Text& line : drawing)
+        CHECK(std::find(whole.begin(), whole.end(), line) != whole.end());
 }
 
 TEST_CASE("where layers are drawn a legend row is a swatch of its pattern and its text")

@@ -1,8 +1,12 @@
 // printing_test.cpp -- print runs where there is no printer, and the printer set-up.
 #include "canvas/batch.h"
+#include "canvas/metaugl.h"
+#include "canvas/pageobjects.h"
 #include "canvas/screenview.h"
+#include "canvas/viewcommands.h"
 #include "platform/qt/pdfrun.h"
 #include "platform/qt/printers.h"
+#include "session/failure.h"
 #include "session/files.h"
 #include "windows/driver.h"
 
@@ -63,6 +67,75 @@ TEST_CASE("a PDF that another program wrote is left alone, and one of ours is re
     CHECK(ReadScratch("samples/TC-103.pdf") == "%PDF-1.4 somebody else's");
     CHECK(WrittenByUs(name));
     CHECK_FALSE(FileExists(Scratch("samples/TC-103-3.pdf")));
+}
+
+// A page with a line, and a picture that cannot be had; printed as the screen view's Print does, without its notice.
+static void PrintTestPage(const Text& source, const char* picture)
+{
+    RunPages.pageFile = source;
+    canvasstart("P");
+    setscalex(1);
+    setscaley(1);
+    lineright(1);
+    if (*picture)
+        AddObject(ObjectKind::Picture, 0, 600, 600, 0).String = Scratch(picture);
+    PrintShownPage();
+}
+
+TEST_CASE("a page that cannot be printed leaves no PDF, is told by its own failure, and the next print stands alone")
+{
+    UseDesktop();
+    static std::vector<Text> boxes;
+    boxes.clear();
+    Platform.MsgBox = [](const Text& words, Buttons, Icon icon) {
+        boxes.push_back(words);
+        CHECK(icon == Announcement);
+        return int(Ok);
+    };
+    Platform.ShowPrinting = [] {};
+    CHECK(FailureOf([] { PrintTestPage(Scratch("FIRST.BOR"), "gone.bmp"); }) == FileNotFound);
+    CHECK(boxes.empty());
+    CHECK_FALSE(FileExists(Scratch("FIRST.pdf")));
+    PrintTestPage(Scratch("SECOND.BOR"), "");
+    CHECK(boxes == std::vector<Text>{"FILE CREATED:  " + Scratch("SECOND.pdf")});
+    CHECK(ReadScratch("SECOND.pdf").find("/Count 1\n") != std::string::npos);
+    CHECK(FailureOf([] { PrintTestPage(Scratch("none/THIRD.BOR"), ""); }) == PathNotFound);
+    PrintTestPage(Scratch("FOURTH.BOR"), "");
+    CHECK(boxes.back() == "FILE CREATED:  " + Scratch("FOURTH.pdf"));
+    CHECK(FilesIn(ScratchFolder(), ".tmp~").empty());
+}
+
+// A print run whose second page cannot be printed, as a renderer makes it.
+static void TwoPages()
+{
+    for (int page = 1; page <= 2; ++page) {
+        RunPages.pageFile = Scratch("RUN.BOR");
+        canvasstart("P");
+        setscalex(1);
+        lineright(1);
+        if (page == 2)
+            AddObject(ObjectKind::Picture, 0, 600, 600, 0).String = Scratch("gone.bmp");
+        ShowOrPrint();
+    }
+}
+
+TEST_CASE("of a print run that fails on its second page the first one is kept, whole")
+{
+    UseDesktop();
+    static std::vector<Text> boxes;
+    boxes.clear();
+    Platform.MsgBox = [](const Text& words, Buttons, Icon) {
+        boxes.push_back(words);
+        return int(Ok);
+    };
+    JobTable[6] = TwoPages;
+    jobCode = 6;
+    singleFile = 1;
+    singleFileName = Scratch("RUN.BOR");
+    DrawPrintOk();
+    CHECK(boxes == std::vector<Text>{"FILE CREATED:  " + Scratch("RUN.pdf"),
+                                     "Error 53 in DrawPrintOk.  Please contact Norvane"});
+    CHECK(ReadScratch("RUN.pdf").find("/Count 1\n") != std::string::npos);
 }
 
 TEST_CASE("the printer set-up offers Print to PDF, which is the choice of a system without printers")

@@ -1,5 +1,6 @@
 // screenview_test.cpp -- the screen view by mouse and keys.
 #include "canvas/batch.h"
+#include "canvas/bitmap.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "canvas/screenview.h"
@@ -208,6 +209,30 @@ TEST_CASE("Zoom Window: the rectangle dragged fills the window, once")
     CheckAllDone();
 }
 
+TEST_CASE("Zoom Window: a rectangle dragged up and to the left shows what lies in it")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-103.BOR");
+    Then("DrawArea", [](QWidget* window) {
+        PageView* view = View(window);
+        ClickMenu(window, "mnuZoom", "mnuZoomWindow");
+        const ViewRecord before = view->View();
+        const int wide = view->width() / 4, high = view->height() / 4;
+        const double left = PageX(before, 400 - wide), top = PageY(before, 300 - high);
+        const double right = PageX(before, 400), bottom = PageY(before, 300);
+        QTest::mousePress(view, Qt::LeftButton, {}, QPoint(400, 300));
+        QTest::mouseMove(view, QPoint(400 - wide, 300 - high));
+        QTest::mouseRelease(view, Qt::LeftButton, {}, QPoint(400 - wide, 300 - high));
+        CHECK(PageX(view->View(), 0) == doctest::Approx(left).epsilon(0.01));
+        CHECK(PageY(view->View(), 0) == doctest::Approx(top).epsilon(0.01));
+        CHECK(PageX(view->View(), view->width()) == doctest::Approx(right).epsilon(0.01));
+        CHECK(PageY(view->View(), view->height()) == doctest::Approx(bottom).epsilon(0.01));
+        Exit(window);
+    });
+    ClickMenu(log, "mnuFile", "mnuPreview");
+    CheckAllDone();
+}
+
 TEST_CASE("Zoom Window: a click without a drag is told as a division by zero, Escape leaves the mode")
 {
     QMainWindow* log = LogWindow();
@@ -224,6 +249,37 @@ TEST_CASE("Zoom Window: a click without a drag is told as a division by zero, Es
         Exit(window);
     });
     ThenAnswer("Error 11 in DrawArea.  Please contact Norvane", "OK");
+    ClickMenu(log, "mnuFile", "mnuPreview");
+    CheckAllDone();
+}
+
+static int RedPixels(QWidget* window)
+{
+    const QImage image = View(window)->grab().toImage();
+    int red = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            red += qRed(image.pixel(x, y)) > 200 && qGreen(image.pixel(x, y)) < 60 && qBlue(image.pixel(x, y)) < 60;
+    return red;
+}
+
+TEST_CASE("a site map that is mended between two previews is seen in the second one")
+{
+    QMainWindow* log = LogWindow();
+    WritePicture("samples/SITEMAP.BMP");
+    OpenSample("MW-108.BOR");
+    Then("DrawArea", [](QWidget* window) {
+        ClickMenu(window, "mnuZoom", "mnuZoomPage");
+        CHECK(RedPixels(window) == 0);
+        Exit(window);
+    });
+    ClickMenu(log, "mnuFile", "mnuPreview");
+    WriteScratch("samples/SITEMAP.BMP", EncodeBitmap(Bitmap{1, 1, {0xFF0000}}));
+    Then("DrawArea", [](QWidget* window) {
+        ClickMenu(window, "mnuZoom", "mnuZoomPage");
+        CHECK(RedPixels(window) > 1000);
+        Exit(window);
+    });
     ClickMenu(log, "mnuFile", "mnuPreview");
     CheckAllDone();
 }

@@ -1,8 +1,10 @@
 // plain.cpp -- the seam with no screen.
 #include "platform/plain/plain.h"
 
+#include "canvas/bitmap.h"
 #include "canvas/pagelisting.h"
 #include "canvas/screenview.h"
+#include "session/failure.h"
 #include "session/session.h"
 
 std::vector<PlainMessage> Messages;
@@ -48,6 +50,19 @@ static void Show()
         NextPage();
 }
 
+// Windows bitmaps only are read here; any other picture is taken for a good one.
+static bool Loads(const Text& file)
+{
+    if (!UpperCase(file).ends_with(".BMP"))
+        return true;
+    try {
+        LoadBitmap(file);
+        return true;
+    } catch (const RunTimeError&) {
+        return false;
+    }
+}
+
 void UsePlainPlatform()
 {
     Messages.clear();
@@ -66,6 +81,8 @@ void UsePlainPlatform()
     Platform.ShowPage = Show;
     Platform.PrintPage = [] { ++PlainPrinted; };
     Platform.EndPrintRun = [] { ++PlainRunsEnded; };
+    Platform.PictureLoads = Loads;
+    Platform.DropChangedPictures = [] {};
     Platform.ShowDrawPrint = [] {};
     Platform.ShowPrinting = [] {};
     Platform.ShowProgress = [](bool) {};

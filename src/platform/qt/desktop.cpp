@@ -10,6 +10,7 @@
 #include "platform/qt/fonts.h"
 #include "platform/qt/headless.h"
 #include "platform/qt/helpwindow.h"
+#include "platform/qt/pagepainter.h"
 #include "platform/qt/printers.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
@@ -136,6 +137,8 @@ void UseDesktopPlatform()
     Platform.ShowPage = ShowDrawArea;
     Platform.PrintPage = PrintPageObjects;
     Platform.EndPrintRun = EndPdfRun;
+    Platform.PictureLoads = PictureLoads;
+    Platform.DropChangedPictures = DropChangedPictures;
     Platform.ShowDrawPrint = ShowDrawPrintDialog;
     Platform.ShowPrinting = ShowPrintingNotice;
     Platform.ShowProgress = ShowProgressWindow;

@@ -97,13 +97,34 @@ struct Tile {
     QImage image;     // null: a blank pattern
     bool ink = false; // nothing but black strokes
 };
+
+// What is made of the pictures of patterns, which it lives as long as. Of a run each tile is one image throughout, so
+// that a PDF has it once.
+struct Tiles {
+    std::map<Text, Tile> byName;
+    std::map<std::pair<Text, double>, QImage> averaged; // by name and pixels to a dot
+    int emptied = 0;                                    // PatternPicturesEmptied when the first one was made
+};
 } // namespace
+
+static Tiles& AllTiles()
+{
+    static auto& tiles = *new Tiles;
+    return tiles;
+}
+
+// At the start of a page.
+static void FollowPatterns()
+{
+    if (AllTiles().emptied != PatternPicturesEmptied)
+        AllTiles() = Tiles{{}, {}, PatternPicturesEmptied};
+}
 
 // A pattern's bitmap with its white made transparent. A grey is black that is thinned, so that it looks the same on
 // white and goes with the colour of a ground.
 static const Tile& TileOf(const Text& name)
 {
-    static auto& tiles = *new std::map<Text, Tile>;
+    std::map<Text, Tile>& tiles = AllTiles().byName;
     const auto [entry, isNew] = tiles.try_emplace(name);
     Tile& tile = entry->second;
     if (!isNew)
@@ -163,29 +184,60 @@ static QImage Averaged(const QImage& tile, double dotsPerPixel)
 namespace
 {
 struct LoadedPicture {
-    QImage image;
+    QImage image;            // null: the file is no picture
     bool photograph = false; // came compressed with losses; may go on so
+    FileState state;         // of the file, before it was read
 };
 } // namespace
 
-// A logo or a map, loaded once.
-static const LoadedPicture& PictureOf(const Text& name)
+static std::map<std::string, LoadedPicture>& AllPictures() // by path
 {
     static auto& pictures = *new std::map<std::string, LoadedPicture>;
-    const std::string path = NativePath(name);
-    const auto found = pictures.find(path);
-    if (found != pictures.end())
-        return found->second;
-    if (!FileExists(name))
-        throw RunTimeError{FileNotFound};
+    return pictures;
+}
+
+static LoadedPicture Loaded(const std::string& path)
+{
+    LoadedPicture picture;
+    picture.state = StateOf(path);
     QImageReader::setAllocationLimit(1024); // megabytes: site maps are large
     QImageReader reader(QString::fromStdString(path));
     reader.setDecideFormatFromContent(true);
-    LoadedPicture picture;
     if (!reader.read(&picture.image))
-        throw RunTimeError{InvalidPicture};
+        picture.image = QImage(); // as far as it could be read
     picture.photograph = reader.format() == "jpeg";
-    return pictures.emplace(path, picture).first->second;
+    return picture;
+}
+
+// A logo or a map, loaded once; so is one that cannot be, which would cost as much on every page.
+static const LoadedPicture& PictureOf(const Text& name)
+{
+    std::map<std::string, LoadedPicture>& pictures = AllPictures();
+    const std::string path = NativePath(name);
+    auto found = pictures.find(path);
+    if (found == pictures.end()) {
+        if (!FileExists(name))
+            throw RunTimeError{FileNotFound};
+        found = pictures.emplace(path, Loaded(path)).first;
+    }
+    if (found->second.image.isNull())
+        throw RunTimeError{InvalidPicture};
+    return found->second;
+}
+
+bool PictureLoads(const Text& name)
+{
+    try {
+        PictureOf(name);
+        return true;
+    } catch (const RunTimeError&) {
+        return false;
+    }
+}
+
+void DropChangedPictures()
+{
+    std::erase_if(AllPictures(), [](const auto& entry) { return entry.second.state != StateOf(entry.first); });
 }
 
 // ---- The page
@@ -220,7 +272,6 @@ private:
     QPen PenOf(const PageObject& object) const;
     QPen PenOf(int16_t style, int32_t width, int32_t color) const;
     QBrush BrushOf(const Text& name) const;
-    Text PatternOf(const PageObject& object) const;
     void Draw(const PageObject& object);
     void DrawTextObject(const PageObject& object);
     void DrawPicture(const PageObject& object);
@@ -281,7 +332,7 @@ QPen PagePlotter::PenOf(const PageObject& object) const
 }
 
 // The bitmap to fill with. A tinted pattern is its tint with the untinted bitmap on it.
-Text PagePlotter::PatternOf(const PageObject& object) const
+static Text PatternOf(const PageObject& object, PatternForm form)
 {
     if (!object.TintOf.empty())
         return form == PatternForm::Print ? PrintForm(object.TintOf) : object.TintOf;
@@ -302,8 +353,7 @@ QBrush PagePlotter::BrushOf(const Text& name) const
     const double unitsPerDot = unitsPerInch / 600;
     const double dotsPerPixel = unitsPerDot * scale; // pixels of the painter to a dot of the tile
     if (raster && dotsPerPixel < 0.99) {
-        static auto& averaged = *new std::map<std::pair<Text, double>, QImage>;
-        QImage& image = averaged[{name, dotsPerPixel}];
+        QImage& image = AllTiles().averaged[{name, dotsPerPixel}];
         if (image.isNull())
             image = Averaged(tile.image, dotsPerPixel);
         // As many whole tiles as fit the averaged picture, stretched by less than a pixel.
@@ -393,7 +443,7 @@ void PagePlotter::Plot(const PageObject& object)
         return AddShape(ink.solids.emplaceBack(), object);
     if (object.Brush == BrushStyle::Solid || !object.TintOf.empty() || object.Kind == ObjectKind::Ellipse)
         return Alone(object);
-    const Text name = PatternOf(object);
+    const Text name = PatternOf(object, form);
     if (!TileOf(name).ink)
         return Alone(object);
     const auto [entry, isNew] = ink.patterns.try_emplace(name);
@@ -456,7 +506,7 @@ void PagePlotter::Draw(const PageObject& object)
     else {
         if (!object.TintOf.empty())
             painter.fillPath(shape, ColorFrom(ParseColor(object.Tint)));
-        painter.setBrush(BrushOf(PatternOf(object)));
+        painter.setBrush(BrushOf(PatternOf(object, form)));
     }
     painter.setPen(PenOf(object));
     painter.drawPath(shape);
@@ -525,8 +575,19 @@ static bool OutlinedAnew(const PageObject& ground, const PageObject& next)
            ground.Vertices == next.Vertices;
 }
 
+void LoadPagePictures(PatternForm form)
+{
+    FollowPatterns();
+    for (const PageObject& object : PageList.Objects)
+        if (object.Kind == ObjectKind::Picture)
+            PictureOf(object.String);
+        else if (object.Brush == BrushStyle::Picture)
+            TileOf(PatternOf(object, form));
+}
+
 void PaintPage(QPainter& painter, double scale, PatternForm form)
 {
+    FollowPatterns();
     int failure = 0;
     {
         const std::vector<PageObject>& objects = PageList.Objects;

@@ -15,6 +15,13 @@ enum class PatternForm {
 // be had is left out; when all else is drawn the first of these failures is raised, 53 or 481.
 void PaintPage(QPainter& painter, double scale, PatternForm form);
 
+// All pictures that the page needs, so that none is missed when half of it is out: failure 53 or 481 for the first one
+// that cannot be had.
+void LoadPagePictures(PatternForm form);
+// Whether a logo or a map can be loaded; it stays so, for the painting. Those whose files have changed are forgotten.
+bool PictureLoads(const Text& name);
+void DropChangedPictures();
+
 // The sum of the advance widths of a text's characters in parts of the em: no kerning, no rounding.
 double TextAdvance(const Text& words, const Text& fontName, bool bold);
 

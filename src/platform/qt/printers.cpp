@@ -103,19 +103,27 @@ static Text pdfName;
 
 static void PageIntoPdf()
 {
-    if (!pdf) {
+    const bool first = !pdf;
+    if (first) {
         pdfName = PdfBeside(RunPages.pageFile);
         pdf = std::make_unique<PdfRun>(pdfName, BaseName(RunPages.pageFile));
     }
-    pdf->AddPage();
+    try {
+        pdf->AddPage();
+    } catch (...) {
+        if (first) // nothing whole is in it
+            pdf.reset();
+        throw;
+    }
 }
 
 void PrintPageObjects()
 {
+    LoadPagePictures(PatternForm::Print);
     QPrinter* printer = Printer();
     if (!printer)
         return PageIntoPdf();
-    SetPaper(*printer, PageCanvas.mode.empty() ? 'P' : PageCanvas.mode[0]);
+    SetPaper(*printer, PageCanvas.paper);
     printer->setDocName(ToUi(BaseName(RunPages.pageFile)));
     QPainter painter;
     if (!painter.begin(printer))
@@ -133,7 +141,7 @@ void EndPdfRun()
         return;
     const std::unique_ptr<PdfRun> run = std::move(pdf);
     run->Close();
-    MsgBox("FILE CREATED:  " + pdfName);
+    MsgBox("FILE CREATED:  " + pdfName, OkOnly, Announcement);
 }
 
 // ---- The set-up

@@ -13,8 +13,10 @@ QStringList PrinterNames(); // "Print to PDF" first
 QString ChosenPrinter();
 void ChoosePrinter(const QString& name);
 
-Sheet SheetOf(char mode);   // of the chosen printer: what it can print on, in inches and in its dots
-void PrintPageObjects();    // the page in hand; one job a page, or one page of the run's PDF. Failures by number
-void EndPdfRun();           // after the last page of a run: the PDF is closed, and its name shown
+Sheet SheetOf(char mode); // of the chosen printer: what it can print on, in inches and in its dots
+// The page in hand; one job a page, or one page of the run's PDF. Failures by number; nothing of the page goes out
+// where one of its pictures cannot be had.
+void PrintPageObjects();
+void EndPdfRun();           // after the last page of a run: the PDF is closed, if one was begun, and its name shown
 void ForcePdf(bool on);     // while on, runs go to a PDF whatever is chosen
 void ShowPrinterSetupBox(); // blocking
