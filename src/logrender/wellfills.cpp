@@ -3,10 +3,11 @@
 #include "logrender/logdata.h"
 #include "logrender/welldiagram.h"
 #include "report/heading.h"
+#include "session/failure.h"
 
 #include <cmath>
 
-// Which of the material words of the heading file, slots 31 to 37, stands first in a text; 0 for none.
+// The first of the material words of the heading file, slots 31 to 37, that a text holds, wherever; 0 for none.
 static int MaterialOf(const Text& text)
 {
     const Text upper = UpperCase(text);
@@ -17,7 +18,7 @@ static int MaterialOf(const Text& text)
 }
 
 int16_t VLOG::selectfill(int layer)
-{
+try {
     const Text& text = LogBoring.OuterLayers[layer][3];
     const Text cell(Before(LogBoring.OuterLayers[layer][5], ','));
     if (!IsBlank(cell))
@@ -28,6 +29,9 @@ int16_t VLOG::selectfill(int layer)
     if (material == 7)
         return RoundInt16(wellFillNumbers[7] + std::nearbyint(TextNumber(Behind(text, ','))));
     return wellFillNumbers[material];
+} catch (...) {
+    ReportFailure(__func__);
+    return 0;
 }
 
 double VLOG::findcenttype(Text& layer)

@@ -56,6 +56,13 @@ TEST_CASE("the half of a centralizer's offset goes to the even number by itself,
     CHECK(FillOf("Centralizer, -0.5") == 501);
 }
 
+TEST_CASE("an offset beyond all symbols is told by its own reader, and the layer goes without a fill")
+{
+    CHECK(FillOf("Centralizer,40000") == 0);
+    REQUIRE(Messages.size() == 1);
+    CHECK(Messages[0].words == "Error 6 in selectfill.  Please contact Norvane");
+}
+
 TEST_CASE("findcenttype cuts a centralizer's text at its comma and gives the number behind it")
 {
     Text text = "4 in. cent., 1.5";
