@@ -134,9 +134,10 @@ static void ReadSoilWords(LineReader& in)
     for (const int wanted : {3, 10, 11, 16, 67, 69, 70, 71}) {
         in.Skip(wanted - line - 1);
         HeadingWords[++slot] = in.Line();
+        if (wanted == 3)
+            HeadingWords[slot] = Text(Before(HeadingWords[slot], ','));
         line = wanted;
     }
-    HeadingWords[1] = Text(Before(HeadingWords[1], ','));
 }
 
 // logo.txt of the working folder. Its three lines of text have to be there, the others need not.

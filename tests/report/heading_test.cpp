@@ -56,6 +56,19 @@ TEST_CASE("soil tables take eight words, the first cut at its comma")
     CHECK(HeadingWords[9] == "");
 }
 
+TEST_CASE("a heading file that ends among a soil table's words has given those before, the first of them cut")
+{
+    const std::string whole = HeadingText({{3, "Depth, in"}});
+    WriteScratch("us.hdg", whole.substr(0, whole.find("w20")));
+    WriteLogo();
+    getclientlogo(3);
+    REQUIRE(Messages.size() == 1);
+    CHECK(Messages[0].words == "Error 62 in getclientlogo.  Please contact Norvane");
+    CHECK(HeadingWords[1] == "Depth");
+    CHECK(HeadingWords[4] == "w16");
+    CHECK(HeadingWords[5] == "");
+}
+
 TEST_CASE("words that a run does not load stay from the run before")
 {
     WriteScratch("us.hdg", HeadingText());
