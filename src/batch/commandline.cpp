@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-// The jobs that draw pages of files take the options of a log, --page too, whose page of a single one is that one.
+// The jobs that draw the pages of files take the options of a log. --page has no effect where a file has one page.
 static constexpr char LogOptions[] = "--home DIR;--project DIR;--page N;--date TEXT;--pdf FILE;--png DIR;--dpi N;"
                                      "--dxf DIR;--list FILE";
 static constexpr char IntroOptions[] = "--type 1|2;--home DIR;--project DIR;--page N;--date TEXT;--pdf FILE;--png DIR;"

@@ -113,7 +113,7 @@ static void OpenListing()
 {
     if (Asked.List.empty())
         return;
-    ListingPart = NativePath(Asked.List) + "." + std::to_string(::getpid()) + ".tmp~";
+    ListingPart = TemporaryFor(NativePath(Asked.List));
     Listing.open(ListingPart, std::ios::binary);
     if (!Listing)
         RaiseSystemError(errno, std::filesystem::is_directory(NativePath(FolderName(Asked.List))));

@@ -15,6 +15,8 @@
 #include "session/platform.h"
 #include "session/session.h"
 
+#include <algorithm>
+
 void (*OlderForms[3])() = {};
 
 // ---------------------------------------------------------------------------------------------------- reading

@@ -263,8 +263,8 @@ static void ReadRemarks(LineReader& in, Text section)
 
 // ---------------------------------------------------------------------------------------------------- the boring
 
-// The end depth in whole pages, and the increment by its size and last character: 1 up to 20, 5 behind a 5 or 0, else
-// 2, whether or not that divides it. A page break at the end depth is none.
+// The end depth in whole pages, and the increment by the end depth's size and last character: 1 up to 20, 5 where it
+// ends in 5 or 0, else 2, whether or not that divides it. A page break at the end depth is none.
 static void SetScale(int maxDepth)
 {
     const float page = static_cast<float>(TextNumber(BoringData.Scale[3]));

@@ -473,12 +473,13 @@ QComboBox* BorinputWindow::LayoutBox()
         }
         // With the place in the list, or leaving the box would count as a choice from the list.
         const QString chosen = ToUi(cmbLayFile);
+        const bool other = box->currentText() != chosen;
         if (const int place = box->findText(chosen); place >= 0)
             box->setCurrentIndex(place);
-        if (box->currentText() != chosen) {
+        if (box->currentText() != chosen)
             box->setEditText(chosen);
+        if (other)
             box->lineEdit()->setCursorPosition(0);
-        }
     });
     return box;
 }

@@ -5,8 +5,8 @@
 
 #include <vector>
 
-// The items as they are offered to the user, in list order. The letters n, n2, n3 stand for numbers of parameters, which
-// the user puts in.
+// The items as they are offered to the user, in list order. The letters n, n2, n3 stand for numbers of parameters,
+// which the user puts in.
 extern const std::vector<Text> OfferedItems;
 // The width of a report part in inches; 0 for an unknown item. Reads the general well grid's names.
 float findpartwidth(const Text& item, const Text& width);

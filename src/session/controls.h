@@ -55,8 +55,7 @@ struct Grid {
     std::vector<Text> rowHeadings; // from index 1; short or empty: numbers
     Text title;
     std::vector<std::vector<Text>> choices; // of the columns, from index 1: what a cell is picked from; none: any text
-    std::vector<std::vector<Text>>
-        offered;    // of the columns, from index 1: what a cell may be picked from, besides typing
+    std::vector<std::vector<Text>> offered; // likewise, but any text may be typed as well
     int locked = 0; // so many first columns are there to read: nothing that the user does changes them
     Text fontName;  // of the cells; "": the window's own
     // What the user does in it (session/gridedit.h).

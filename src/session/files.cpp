@@ -274,6 +274,15 @@ static std::string BehindLinks(const std::string& path)
     return target;
 }
 
+std::string TemporaryFor(const std::string& path)
+{
+    static std::atomic<unsigned> serial = 0;
+    constexpr size_t room = 200;             // of the 255 bytes of a name
+    const size_t base = path.rfind('/') + 1; // 0 where there is no folder
+    return path.substr(0, base + std::min(path.size() - base, room)) + "." + std::to_string(::getpid()) + "-" +
+           std::to_string(++serial) + ".tmp~";
+}
+
 void WriteWholeFile(const Text& name, std::string_view bytes, Durability durability)
 {
     if (name.empty())
@@ -289,12 +298,7 @@ void WriteWholeFile(const Text& name, std::string_view bytes, Durability durabil
     const bool replaces = ::stat(path.c_str(), &old) == 0;
     if (replaces && ::access(path.c_str(), W_OK) != 0)
         RaiseFor(path, errno);
-    static std::atomic<unsigned> serial = 0;
-    // A name may be as long as the system lets it be, and the temporary one no longer.
-    constexpr size_t room = 200;
-    const size_t base = path.rfind('/') + 1; // 0 where there is no folder
-    const std::string temporary = path.substr(0, base + std::min(path.size() - base, room)) + "." +
-                                  std::to_string(::getpid()) + "-" + std::to_string(++serial) + ".tmp~";
+    const std::string temporary = TemporaryFor(path);
     int failure = 0;
     {
         File file(::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));

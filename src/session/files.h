@@ -33,6 +33,10 @@ struct FileState {
 FileState StateOf(const std::string& path);                        // a path of this machine
 std::vector<Text> FilesIn(const Text& folder, const Text& ending); // base names, ending in any case, by name
 
+// Beside a file of this machine, and no longer than a name may be: where its new form is written, to take its place by
+// a rename when it is whole. Another one at each call.
+std::string TemporaryFor(const std::string& path);
+
 // The whole file as bytes; failures by number.
 std::string ReadWholeFile(const Text& name);
 

@@ -127,6 +127,7 @@ TEST_CASE("the PDF of an intro page or of a section leaves break.mas alone")
         jobCode = intro ? 1 : 3;
         introType = intro ? 1 : 0;
         static Text found;
+        found = "";
         IntroPages = JobTable[3] = [] { found = FailureOf([] { ReadBreak(); }) == 0 ? ReadBreak() : "none"; };
         ExportPdf();
         CHECK(found == "none");

@@ -328,6 +328,29 @@ TEST_CASE("the items of report parts are offered by an arrow, Alt+Down and the c
     choose("USCS");
     CHECK(frmBorinput::SSRepParts.Cell(2, 1) == "USCS");
 
+    // A right press beside the arrow is the context menu alone, and a press that is to extend the block does only that.
+    const auto lists = [view] { return view->findChildren<QMenu*>("mnuOffered").size(); };
+    ClickCell(log, "SSRepParts", 1, 1);
+    const QPoint arrow(cell.right() - 6, cell.center().y());
+    QTest::mouseClick(view->viewport(), Qt::RightButton, {}, arrow);
+    CHECK(lists() == 0);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ShiftModifier, arrow);
+    CHECK(lists() == 0);
+    // Without the focus there is no arrow.
+    Click(Find<QLineEdit>(log, "Text1"));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, arrow);
+    CHECK(lists() == 0);
+    // While a cell is edited what was typed is taken, and the list comes for that cell.
+    ClickCell(log, "SSRepParts", 4, 1);
+    TypeText("g");
+    Press(Qt::Key_Down, Qt::AltModifier);
+    CHECK(frmBorinput::SSRepParts.Cell(4, 1) == "g");
+    choose("graphic");
+    CHECK(frmBorinput::SSRepParts.Cell(4, 1) == "graphic");
+    // Below the last cell nothing is offered.
+    QContextMenuEvent below(QContextMenuEvent::Mouse, QPoint(5, 5000), view->mapToGlobal(QPoint(5, 5000)));
+    QApplication::sendEvent(view->viewport(), &below);
+    CHECK(lists() == 0);
     // A width has nothing to offer.
     ClickCell(log, "SSRepParts", 2, 2);
     Press(Qt::Key_Down, Qt::AltModifier);

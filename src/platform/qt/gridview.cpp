@@ -14,6 +14,7 @@
 #include <QSettings>
 #include <QStyledItemDelegate>
 #include <algorithm>
+#include <utility>
 
 // The record as Qt's tables ask for it. Rows and columns of the record count from 1.
 class GridModel : public QAbstractTableModel
@@ -155,6 +156,7 @@ public:
     CellDelegate(const Grid& shown, bool& goUp, QObject* parent) : QStyledItemDelegate(parent), grid(shown), up(goUp)
     {
     }
+    std::function<bool()> offer; // the list of what the cell offers, also while it is edited; false: it has none
     // A column with choices has a list to pick from.
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
@@ -213,6 +215,8 @@ protected:
         if (event->type() == QEvent::KeyPress) {
             const int key = static_cast<QKeyEvent*>(event)->key();
             const bool list = qobject_cast<QComboBox*>(editor); // they move in it
+            if (key == Qt::Key_Down && static_cast<QKeyEvent*>(event)->modifiers() == Qt::AltModifier && offer())
+                return true;
             if (!list && (key == Qt::Key_Up || key == Qt::Key_Down)) {
                 auto* box = static_cast<QWidget*>(editor);
                 up = key == Qt::Key_Up;
@@ -269,7 +273,15 @@ GridView::GridView(const char* name, Grid& shown, QWidget* parent, const QString
     setHorizontalHeader(new Headings(Qt::Horizontal, this));
     setVerticalHeader(new Headings(Qt::Vertical, this));
     setModel(model);
-    setItemDelegate(new CellDelegate(grid, up, this));
+    auto* delegate = new CellDelegate(grid, up, this);
+    delegate->offer = [this] {
+        if (!Offered())
+            return false;
+        FinishEdit();
+        Offer();
+        return true;
+    };
+    setItemDelegate(delegate);
     setAlternatingRowColors(true);
     setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
     setSelectionMode(ContiguousSelection);
@@ -512,9 +524,18 @@ void GridView::Offer()
     menu->popup(viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()));
 }
 
+void GridView::focusInEvent(QFocusEvent* event)
+{
+    entered = event->reason() == Qt::MouseFocusReason;
+    QTableView::focusInEvent(event);
+}
+
+// The press that enters the grid has seen no arrow.
 void GridView::mousePressEvent(QMouseEvent* event)
 {
-    const bool onArrow = Offered() && OfferArrow(visualRect(currentIndex())).contains(event->pos());
+    const bool onArrow = !std::exchange(entered, false) && event->button() == Qt::LeftButton &&
+                         event->modifiers() == Qt::NoModifier && Offered() &&
+                         OfferArrow(visualRect(currentIndex())).contains(event->pos());
     QTableView::mousePressEvent(event);
     if (onArrow)
         Offer();
@@ -522,7 +543,8 @@ void GridView::mousePressEvent(QMouseEvent* event)
 
 void GridView::contextMenuEvent(QContextMenuEvent* event)
 {
-    if (Offered())
+    const bool here = event->reason() == QContextMenuEvent::Keyboard || indexAt(event->pos()) == currentIndex();
+    if (here && Offered())
         Offer();
     else
         QTableView::contextMenuEvent(event);

@@ -27,6 +27,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+    void focusInEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
@@ -47,6 +48,7 @@ private:
     bool showing = false; // the view follows the record, not the user
     bool fitting = false;
     bool up = false;            // an edit has ended by the arrow up
+    bool entered = false;       // by a press that is still to come
     QTimer keepSoon;            // while a column is dragged its width changes at every step
     std::vector<bool> widthSet; // columns whose width is the user's own
 };

@@ -12,7 +12,6 @@
 #include <QPainter>
 #include <QPdfWriter>
 
-#include <atomic>
 #include <cerrno>
 #include <cmath>
 #include <cstdio>
@@ -29,11 +28,6 @@ struct PdfRun::Body {
         : path(place), temporary(TemporaryFor(place)), title(documentTitle), file(QString::fromStdString(temporary)),
           writer(&file)
     {
-    }
-    static std::string TemporaryFor(const std::string& place)
-    {
-        static std::atomic<unsigned> serial = 0;
-        return place + "." + std::to_string(::getpid()) + "-" + std::to_string(++serial) + ".tmp~";
     }
     [[noreturn]] void Fail()
     {

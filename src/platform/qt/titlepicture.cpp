@@ -30,7 +30,7 @@ static double Contact(double top, const Layer& layer, double height, double x)
 }
 
 // The marks of a layer below its contact; what goes beyond its base is painted over by the next layer. All of one
-// kind go out in one call and nothing is clipped: the program starts behind this picture.
+// kind go out in one call, and none is clipped to the layer: the program starts behind this picture.
 template <class Below>
 static void Marks(QPainter& painter, const QRectF& area, int mark, Below below)
 {
