@@ -91,6 +91,31 @@ static std::string MissingOption(const CommandLine& line)
     return given == 1 ? "" : std::string(job.Name) + " takes " + job.Needs;
 }
 
+// A slip that would cost a source: an output that is one of the files given, or that would take the place of a file
+// that this program reads and the output is not. "" for none.
+static std::string LostFile(const CommandLine& line)
+{
+    struct Output {
+        const char* option;
+        const Text& name;
+        const char* ending; // that it may replace
+    };
+    for (const Output& output :
+         {Output{"--pdf", line.Pdf, ""}, Output{"--list", line.List, ""}, Output{"--arcview", line.ArcView, ""},
+          Output{"--evs", line.Evs, ""}, Output{"--gis", line.Gis, ".GIS"}}) {
+        if (output.name.empty())
+            continue;
+        bool lost = std::any_of(line.Files.begin(), line.Files.end(),
+                                [&](const Text& file) { return SameFile(file, output.name); });
+        for (const char* source : {".BOR", ".CRO", ".FEN", ".SOI", ".GIS", ".GCV", ".LAY", ".HDG"})
+            lost = lost || (UpperCase(output.name).ends_with(source) && Text(source) != output.ending &&
+                            FileExists(output.name));
+        if (lost)
+            return std::string(output.option) + " would replace " + ToUtf8(output.name);
+    }
+    return "";
+}
+
 static bool IsNumber(const std::string& word)
 {
     return !word.empty() && word.size() < 6 &&
@@ -170,6 +195,8 @@ CommandLine ReadCommandLine(const std::vector<std::string>& words)
         line.Wrong = std::string(job->Name) + " takes one " + what;
     if (line.Wrong.empty() && dpiGiven && line.Png.empty())
         line.Wrong = "--dpi goes with --png";
+    if (line.Wrong.empty())
+        line.Wrong = LostFile(line);
     if (!line.Wrong.empty())
         line.Job = nullptr;
     return line;

@@ -122,7 +122,9 @@ void frmOpenSave::Command1()
 {
     const Text& typed = Dialog.fileText;
     const bool wholePath = typed.find_first_of("\\:") != Text::npos || Holds(typed, separator);
-    if (typed.empty() || wholePath)
+    if (wholePath && BaseName(typed).empty())
+        DialogResult = ""; // a folder alone names no file
+    else if (typed.empty() || wholePath)
         DialogResult = typed;
     // Kept: the one root that gets no second separator is that of this drive.
     else if (Dialog.Dir1.starts_with("a:\\"))

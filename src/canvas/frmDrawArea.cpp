@@ -85,26 +85,26 @@ DrawArea::DrawArea()
         ShowState();
     };
 
-    QMenu* file = menuBar()->addMenu("File");
+    QMenu* file = menuBar()->addMenu("&File");
     file->menuAction()->setObjectName("mnuFile");
-    Entry(file, "mnuDXF", "Export to DXF", {}, ExportDxf);
-    Entry(file, "mnuPDF", "Export to PDF", {}, ExportPdf);
+    Entry(file, "mnuDXF", "Export to &DXF", {}, ExportDxf);
+    Entry(file, "mnuPDF", "&Export to PDF", {}, ExportPdf);
     file->addSeparator();
-    Entry(file, "mnuPrintSetup", "Print Setup", {}, [] { Platform.ShowPrinterSetup(); });
-    Entry(file, "mnuPrint", "Print", QKeySequence::Print, PrintShownPage);
+    Entry(file, "mnuPrintSetup", "Print &Setup", {}, [] { Platform.ShowPrinterSetup(); });
+    Entry(file, "mnuPrint", "&Print", QKeySequence::Print, PrintShownPage);
     file->addSeparator();
-    Entry(file, "mnuExit", "Exit", QKeySequence("Ctrl+Q"), [this] { Steer(ExitRun); });
+    Entry(file, "mnuExit", "E&xit", QKeySequence("Ctrl+Q"), [this] { Steer(ExitRun); });
 
-    QMenu* zoom = menuBar()->addMenu("Zoom");
+    QMenu* zoom = menuBar()->addMenu("&Zoom");
     zoom->menuAction()->setObjectName("mnuZoom");
     Entry(zoom, "mnuZoomWindow", "Zoom &Window", QKeySequence("Ctrl+W"), [this] { draw->RectangleMode(true); });
     Entry(zoom, "mnuZoomScreenWidth", "Zoom &Screen Width", QKeySequence("Ctrl+1"), [this] { Zoom(Fit::Width); });
     Entry(zoom, "mnuZoomPage", "Zoom &Page", QKeySequence("Ctrl+0"), [this] { Zoom(Fit::Page); });
 
-    Entry(menuBar(), "mnuPrevious", "Previous", Qt::Key_PageUp, [this] { Steer(PreviousPage); });
-    Entry(menuBar(), "mnuNext", "Next", Qt::Key_PageDown, [this] { Steer(NextPage); });
-    Entry(menuBar(), "mnuGotoPage", "GoTo", QKeySequence("Ctrl+G"), [this] { Steer(GoToPage); });
-    Entry(menuBar(), "mnuHelp", "Help", QKeySequence::HelpContents, [] { Platform.ShowHelp(); });
+    Entry(menuBar(), "mnuPrevious", "&Previous", Qt::Key_PageUp, [this] { Steer(PreviousPage); });
+    Entry(menuBar(), "mnuNext", "&Next", Qt::Key_PageDown, [this] { Steer(NextPage); });
+    Entry(menuBar(), "mnuGotoPage", "&GoTo", QKeySequence("Ctrl+G"), [this] { Steer(GoToPage); });
+    Entry(menuBar(), "mnuHelp", "&Help", QKeySequence::HelpContents, [] { Platform.ShowHelp(); });
 
     const auto label = [this](const char* name) {
         auto* words = new QLabel(this);

@@ -189,14 +189,44 @@ static void CheckLines(const Memo& memo, const char* box, const Text& words, int
              textBox, 1, 1, box, int(memo.text.size())});
 }
 
-// The columns against the page, as the label beneath them tells it: "7.2/6.8".
+// The layout where a run looks for it, into LayoutData. False: it is not there.
+static bool ReadLayout()
+{
+    Text name = JoinPath(DeviceConfig.SystemFiles[LayoutFolder], cmbLayFile);
+    if (!UpperCase(name).ends_with(".LAY"))
+        name += ".lay";
+    if (!FileExists(name))
+        return false;
+    ReadLayoutFile(name);
+    return true;
+}
+
+// The columns against the page. The label beneath them knows the layouts of the working folder only.
 static void CheckWidth()
 {
     const size_t bar = lblWidthtot.find('/');
-    if (bar != Text::npos && TextNumber(lblWidthtot) > TextNumber(lblWidthtot.substr(bar + 1)))
+    if (bar == Text::npos)
+        return;
+    const Kept layout(LayoutData);
+    LayoutData.Orientation = 0;
+    ReadLayout();
+    const double room = LayoutData.Orientation == 0 ? 6.8 : LayoutData.Orientation == 1 ? 9.2 : 15.2;
+    if (TextNumber(lblWidthtot) > room)
         Flag("The report parts are " + lblWidthtot.substr(0, bar) + " inches wide, and the page has room for " +
-                 lblWidthtot.substr(bar + 1) + ".",
+                 PlainNumber(room) + ".",
              partsBox, 1, 2);
+}
+
+// A save keeps the first lines of the client box.
+static void CheckClient()
+{
+    int lines = txtClient.empty() ? 0 : 1;
+    for (size_t at = txtClient.find(CrLf); at != Text::npos; at = txtClient.find(CrLf, at + CrLf.size()))
+        ++lines;
+    if (lines > MaxClient)
+        list->push_back({"The client information exceeds " + PlainNumber(MaxClient) + " lines, by " +
+                             PlainNumber(lines - MaxClient) + ".",
+                         textBox, 1, 1, "txtClient", int(txtClient.size())});
 }
 
 // The inches that a page has for its depths, by the layout.
@@ -209,12 +239,8 @@ static double PageLength()
     const Text pageBreak = SSScale.Cell(3, 1);
     const size_t comma = pageBreak.find(',');
     LogBoring.PageLength = comma == Text::npos ? 0 : TextNumber(pageBreak.substr(comma + 1));
-    Text name = JoinPath(DeviceConfig.SystemFiles[LayoutFolder], cmbLayFile);
-    if (!UpperCase(name).ends_with(".LAY"))
-        name += ".lay";
     LogGeometry.FrameKind = 'P';
-    if (FileExists(name)) {
-        ReadLayoutFile(name);
+    if (ReadLayout()) {
         LogGeometry.FrameKind = LayoutData.Orientation == 0 ? 'P' : LayoutData.Orientation == 1 ? 'L' : 'T';
         const auto& blocks = LayoutData.Blocks;
         LogGeometry.HasBottomRow = LogGeometry.FrameKind == 'P' && (blocks[3] > 0 || blocks[6] > 0 || blocks[9] > 0);
@@ -323,6 +349,7 @@ std::vector<CheckEntry> CheckBoring()
         CheckLines(MemoWcon, "MemoWcon", "notes", MaxWellNotes);
         CheckLines(MemoRemarks, "MemoRemarks", "remarks", MaxRemarks);
         CheckLines(MemoBottNotes, "MemoBottNotes", "general notes", MaxBottNotes);
+        CheckClient();
         CheckDescriptionRoom();
     } catch (...) { // a layout that cannot be read is told of by the page
     }

@@ -818,8 +818,10 @@ void BorinputWindow::Refresh()
     Typed();
     if (shownFile != BoringFileName) {
         shownFile = BoringFileName;
-        for (GridView* grid : grids)
+        for (GridView* grid : grids) {
             grid->Fit();
+            grid->Home();
+        }
     }
     recent->Show(BoringFileName);
     const auto dress = [this](const char* name, const Text& family) {

@@ -97,7 +97,7 @@ static void FillMenus(ToolWindow& window)
     QMenu* file = window.Menu("mnuFile");
     QAction* exit = file->actions().last();
     file->insertAction(exit,
-                       window.Entry(file, "mnuExportArcView", "Export to &ArcView...", {}, frmGIS::mnuExportArcView));
+                       window.Entry(file, "mnuExportArcView", "Export to A&rcView...", {}, frmGIS::mnuExportArcView));
     file->insertAction(exit, window.Entry(file, "mnuExp2EVS", "Export to &EVS...", {}, frmGIS::mnuExp2EVS));
     file->insertSeparator(exit);
     QMenu* edit = window.Menu("mnuEdit");

@@ -20,6 +20,19 @@ std::vector<CheckEntry> CheckGisTable()
     std::vector<CheckEntry> entries;
     const int layers = frmGIS::SSGISInfo.columns - GisColumns;
     const int rows = frmGIS::SSGISInfo.DataRowCount();
+    // A save and the exports write a column for each name of the list, in its order.
+    const auto heading = [](int k) { return frmGIS::SSGISInfo.headings[size_t(GisColumns) + k]; };
+    const int listed = frmGIS::SSGISLayers.DataRowCount();
+    bool same = listed == layers;
+    for (int k = 1; k <= std::min(listed, layers); ++k)
+        same = same && heading(k) == frmGIS::SSGISLayers.Cell(k, 1);
+    if (!same && rows > 0) {
+        CheckEntry entry;
+        entry.Words = "The columns of the table are not those of the Layer List, by which it is saved.  Bring the list "
+                      "to the columns, or the columns to the list by Update Layers.";
+        entry.GridName = "SSGISLayers";
+        entries.push_back(entry);
+    }
     for (int row = 1; row <= rows; ++row)
         for (int k = 2; k <= layers; ++k) {
             const Text cell = frmGIS::LayerCell(row, k), above = frmGIS::LayerCell(row, k - 1);

@@ -189,7 +189,16 @@ void frmLayout::StepTile(int code, int right, int down)
         DropTile(code, columns[0], nearest);
         return;
     }
-    const int column = (position - 1) / rowCount + right, row = (position - 1) % rowCount + down;
+    int column = (position - 1) / rowCount + right, row = (position - 1) % rowCount + down;
+    // Over the places of others: on each of them the tile would put out the one that is there.
+    const auto taken = [&] {
+        return column >= 0 && column < int(columns.size()) && row >= 0 && row < rowCount &&
+               LayoutData.Blocks[column * rowCount + row + 1] > 0;
+    };
+    while (taken()) {
+        column += right;
+        row += down;
+    }
     if (column < 0)
         TakeOutTile(code);
     else if (column < int(columns.size()) && row >= 0 && row < rowCount)

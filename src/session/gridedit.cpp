@@ -106,15 +106,25 @@ void PasteSelected(Grid& grid)
     size_t width = 0;
     for (const std::vector<Text>& row : rows)
         width = std::max(width, row.size());
+    // A grid that rows can be put into grows for them.
+    const int wanted = alone ? grid.rows : at.top + int(rows.size()) - 1;
+    const int grown = std::max(grid.rows, std::min(wanted, grid.maxRows));
     Block filled = at;
     if (!alone) {
-        filled.bottom = std::min(grid.rows, at.top + int(rows.size()) - 1);
+        filled.bottom = std::min(grown, wanted);
         filled.right = std::min(grid.columns, at.left + int(width) - 1);
     }
     grid.selected = filled;
     grid.row = filled.top;
     grid.column = filled.left;
     Change(grid, [&] {
+        if (grid.beside && grown > grid.rows) { // what an earlier document left below the last row does not come up
+            std::vector<Text> cells = grid.beside();
+            std::fill(cells.begin() + std::ptrdiff_t(grid.rows) * grid.besideWidth,
+                      cells.begin() + std::ptrdiff_t(grown) * grid.besideWidth, Text());
+            grid.putBeside(cells);
+        }
+        grid.Resize(grown, grid.columns);
         for (int row = filled.top; row <= filled.bottom; ++row)
             for (int column = filled.left; column <= filled.right; ++column) {
                 const std::vector<Text>& from = rows[alone ? 0 : size_t(row - at.top)];
@@ -125,8 +135,9 @@ void PasteSelected(Grid& grid)
     const int rowsOut = alone ? 0 : at.top + int(rows.size()) - 1 - filled.bottom;
     const int columnsOut = alone ? 0 : at.left + int(width) - 1 - filled.right;
     if (rowsOut > 0 || columnsOut > 0)
-        Platform.Notice("The clipboard holds more than fits here: left out are " + PlainNumber(rowsOut) + " rows and " +
-                        PlainNumber(columnsOut) + " columns.");
+        Platform.Notice("The clipboard holds more than fits here: left out are " + PlainNumber(rowsOut) +
+                        (rowsOut == 1 ? " row and " : " rows and ") + PlainNumber(columnsOut) +
+                        (columnsOut == 1 ? " column." : " columns."));
 }
 
 void FillDown(Grid& grid)

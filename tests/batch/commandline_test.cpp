@@ -177,6 +177,27 @@ TEST_CASE("the words of the help about jobs and options begin in one column")
     CHECK(described > 25);
 }
 
+TEST_CASE(
+    "an output that is one of the files given, or would take the place of another source, is a wrong command line")
+{
+    for (const char* name : {"A.BOR", "B.bor", "S.GIS", "E.TXT"})
+        WriteScratch(name, "x");
+    const auto wrong = [](std::vector<std::string> words) {
+        for (std::string& word : words)
+            if (word.find('.') != std::string::npos)
+                word = Scratch(word);
+        return ReadCommandLine(words).Wrong;
+    };
+    CHECK(wrong({"log", "--pdf", "A.BOR", "B.bor"}) == "--pdf would replace " + Scratch("A.BOR"));
+    CHECK(wrong({"log", "--list", "a.bor", "A.BOR"}) == "--list would replace " + Scratch("a.bor"));
+    CHECK(wrong({"gis-add", "--gis", "A.BOR", "B.bor"}) == "--gis would replace " + Scratch("A.BOR"));
+    CHECK(wrong({"gis-export", "--evs", "S.GIS", "S.GIS"}) == "--evs would replace " + Scratch("S.GIS"));
+    CHECK(wrong({"gis-export", "--arcview", "A.BOR", "S.GIS"}) == "--arcview would replace " + Scratch("A.BOR"));
+    CHECK(wrong({"gis-add", "--gis", "S.GIS", "B.bor"}) == "");
+    CHECK(wrong({"gis-export", "--evs", "E.TXT", "S.GIS"}) == "");
+    CHECK(wrong({"log", "--pdf", "new.pdf", "B.bor"}) == "");
+}
+
 TEST_CASE("without windows the set-up is read and never written, and a missing one is no message")
 {
     Platform.Unattended = true;

@@ -106,6 +106,13 @@ TEST_CASE("a whole path in the name box ignores the folder shown")
     CHECK(Choose("/srv/x.bor") == "/srv/x.bor");
 }
 
+TEST_CASE("a folder alone in the name box names no file")
+{
+    Open(1);
+    CHECK(Choose("/srv/") == "");
+    CHECK(Choose("C:\\logs\\") == "");
+}
+
 TEST_CASE("OK with nothing typed is an empty answer, with the version all the same")
 {
     Open(1);

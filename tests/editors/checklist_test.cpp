@@ -6,10 +6,12 @@
 #include "boring/boringfile.h"
 #include "editors/borinput.h"
 #include "editors/fillform.h"
+#include "session/deviceconfig.h"
 #include "session/session.h"
 #include "testing.h"
 
 #include <algorithm>
+#include <filesystem>
 
 // A boring of 20 feet on one portrait page, with nothing to flag.
 static void GoodBoring()
@@ -191,6 +193,32 @@ TEST_CASE("depths below the last contact are flagged in every list and text that
     CHECK(std::any_of(more.begin(), more.end(), [](const CheckEntry& entry) {
         return entry.Words == "Descriptions, line 6: 30 lies below the last contact." && entry.Place == 19;
     }));
+}
+
+TEST_CASE("a client text of more lines than a save keeps is flagged")
+{
+    GoodBoring();
+    frmBorinput::txtClient = "1\r\n2\r\n3\r\n4\r\n5";
+    CHECK(CheckBoring().empty());
+    frmBorinput::txtClient += "\r\n6";
+    REQUIRE(CheckBoring().size() == 1);
+    CHECK(CheckBoring()[0].Words == "The client information exceeds 5 lines, by 1.");
+    CHECK(Text(CheckBoring()[0].TextBox) == "txtClient");
+}
+
+TEST_CASE("columns are measured against the page of the layout where a run looks for it")
+{
+    GoodBoring();
+    std::filesystem::create_directory(Scratch("layouts"));
+    WriteScratch("layouts/WIDE.LAY", " 1 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n "
+                                     "0 \r\n 0 \r\n");
+    DeviceConfig.SystemFiles[LayoutFolder] = Scratch("layouts");
+    frmBorinput::cmbLayFile = "WIDE.LAY";
+    frmBorinput::lblWidthtot = "9.05/6.8";
+    CHECK(CheckBoring().empty());
+    frmBorinput::lblWidthtot = "9.25/15.2";
+    REQUIRE(CheckBoring().size() == 1);
+    CHECK(CheckBoring()[0].Words == "The report parts are 9.25 inches wide, and the page has room for 9.2.");
 }
 
 TEST_CASE("columns wider than the page are flagged")

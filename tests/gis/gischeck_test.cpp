@@ -20,6 +20,27 @@ static void Table(std::initializer_list<const char*> cells)
         SSGISInfo.Cell(1, ++column) = cell;
 }
 
+TEST_CASE("columns that are not those of the layer list, by which a save writes them, are flagged")
+{
+    Table({"5", "10", "20", "30"});
+    CHECK(CheckGisTable().empty());
+    SSGISInfo.column = GisColumns + 2;
+    mnuInsertColumn();
+    REQUIRE(CheckGisTable().size() == 2); // and the depth under the new column's blank cell
+    CHECK(CheckGisTable()[0].Words.starts_with("The columns of the table are not those of the Layer List"));
+    CHECK(Text(CheckGisTable()[0].GridName) == "SSGISLayers");
+    mnuDeleteColumn();
+    CHECK(CheckGisTable().empty());
+    mnuDeleteColumn();
+    CHECK(CheckGisTable().size() == 1);
+    SSGISLayers.Cell(2, 1) = "C";
+    SSGISLayers.Cell(3, 1) = "D";
+    SSGISLayers.Cell(4, 1) = "";
+    CHECK(CheckGisTable().empty());
+    SSGISLayers.Cell(3, 1) = "E";
+    CHECK(CheckGisTable().size() == 1);
+}
+
 TEST_CASE("a plain depth under a blank cell or one with X is flagged, since its layer is drawn from the ground on")
 {
     Table({"5", "X", "20", "30"});

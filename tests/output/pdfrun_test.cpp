@@ -5,8 +5,11 @@
 
 #include "canvas/metaugl.h"
 #include "session/failure.h"
+#include "session/files.h"
 
+#include <csignal>
 #include <cstdio>
+#include <sys/resource.h>
 
 static void WritePdf(const Text& name, int pages, const Text& title, void (*draw)(int page))
 {
@@ -187,4 +190,20 @@ TEST_CASE("a print run goes beside its source; what another program wrote there 
     CHECK(PdfBeside(Scratch("B-1.BOR")) == Scratch("B-1-2.pdf"));
     WriteScratch("B-1-2.pdf", "another");
     CHECK(PdfBeside(Scratch("B-1.BOR")) == Scratch("B-1-3.pdf"));
+}
+
+TEST_CASE("a PDF that the disk has no room for is failure 61, and leaves nothing beside it")
+{
+    // A limit on the size of files stands for the full disk: the write comes back short in the same way.
+    rlimit limit;
+    REQUIRE(::getrlimit(RLIMIT_FSIZE, &limit) == 0);
+    const rlim_t before = limit.rlim_cur;
+    ::signal(SIGXFSZ, SIG_IGN);
+    limit.rlim_cur = 1000;
+    REQUIRE(::setrlimit(RLIMIT_FSIZE, &limit) == 0);
+    const int failure = FailureOf([] { WritePdf("full.pdf", 40, "Full", [](int) { AddWords("words", 300, 300); }); });
+    limit.rlim_cur = before;
+    REQUIRE(::setrlimit(RLIMIT_FSIZE, &limit) == 0);
+    CHECK(failure != 0);
+    CHECK(FilesIn(ScratchFolder(), "").empty());
 }

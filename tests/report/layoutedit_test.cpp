@@ -230,6 +230,22 @@ TEST_CASE("by the keyboard a tile goes from place to place, enters from beside t
     CHECK(BlocksInUse() == 0);
 }
 
+TEST_CASE("by the keyboard a tile goes over the places of others, and stays where there is none behind them")
+{
+    frmLayout::mnuNew();
+    frmLayout::DropTile(1, 6465, 1425);
+    frmLayout::DropTile(12, 5400, 1425);
+    frmLayout::StepTile(12, 1, 0);
+    CHECK(LayoutData.Blocks[5] == 1);
+    CHECK(LayoutData.Blocks[8] == 12);
+    CHECK(LayoutData.Blocks[2] == 0);
+    frmLayout::StepTile(1, 1, 0);
+    CHECK(LayoutData.Blocks[5] == 1);
+    frmLayout::StepTile(12, -1, 0);
+    CHECK(LayoutData.Blocks[2] == 12);
+    CHECK(BlocksInUse() == 2);
+}
+
 TEST_CASE("every place of every page holds the tile that is dropped there")
 {
     const std::vector<std::vector<int>> columns{

@@ -151,7 +151,30 @@ TEST_CASE("a paste larger than the grid fills what fits and says so")
     PasteSelected(grid);
     CHECK(All(grid) == "\t\r\n\t1\r\n");
     REQUIRE(Notices.size() == 1);
-    CHECK(Notices[0] == "The clipboard holds more than fits here: left out are 1 rows and 1 columns.");
+    CHECK(Notices[0] == "The clipboard holds more than fits here: left out are 1 row and 1 column.");
+}
+
+TEST_CASE("a grid that rows can be put into grows for a paste, up to its bound, and shrinks when that is undone")
+{
+    static std::vector<Text> hidden;
+    hidden = {"a", "b", "old", "old", "old"};
+    Grid grid(2, 1);
+    grid.minRows = 2;
+    grid.maxRows = 4;
+    grid.besideWidth = 1;
+    grid.beside = [] { return hidden; };
+    grid.putBeside = [](const std::vector<Text>& cells) { hidden = cells; };
+    PlainClipboard = "1\r\n2\r\n3\r\n4\r\n";
+    Select(grid, {2, 1, 2, 1});
+    PasteSelected(grid);
+    CHECK(grid.rows == 4);
+    CHECK(All(grid) == "\r\n1\r\n2\r\n3\r\n");
+    CHECK(hidden == std::vector<Text>{"a", "b", "", "", "old"});
+    REQUIRE(Notices.size() == 1);
+    CHECK(Notices[0] == "The clipboard holds more than fits here: left out are 1 row and 0 columns.");
+    UndoGrid(grid);
+    CHECK(grid.rows == 2);
+    CHECK(hidden == std::vector<Text>{"a", "b", "old", "old", "old"});
 }
 
 TEST_CASE("one copied cell fills the whole block")

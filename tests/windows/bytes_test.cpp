@@ -18,7 +18,9 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTableView>
+#include <QTest>
 #include <QWheelEvent>
 #include <filesystem>
 
@@ -186,4 +188,51 @@ TEST_CASE("the labels of the single fields are the words of prompt.txt and no mo
         labels << label->text();
     for (const char* words : {"Boring Name", "Map File", "Layout File"})
         CHECK(labels.contains(words));
+}
+
+TEST_CASE("F2 and a double click put the caret behind what is there, and a key over a cell begins anew")
+{
+    QMainWindow* log = LogWindow();
+    auto* view = static_cast<QTableView*>(Bring(log, "SSInfo"));
+    frmBorinput::SSInfo.Cell(1, 2) = "Truck";
+    ClickCell(log, "SSInfo", 1, 2);
+    Press(Qt::Key_F2);
+    TypeText(" rig\n");
+    CHECK(frmBorinput::SSInfo.Cell(1, 2) == "Truck rig");
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(view->model()->index(0, 1)).center());
+    TypeText(", 2\n");
+    CHECK(frmBorinput::SSInfo.Cell(1, 2) == "Truck rig, 2");
+    ClickCell(log, "SSInfo", 1, 2);
+    TypeText("new\n");
+    CHECK(frmBorinput::SSInfo.Cell(1, 2) == "new");
+}
+
+TEST_CASE("a file of the recent ones that has gone is told, and what is open stays")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-103.BOR");
+    OpenSample("TC-101.BOR");
+    std::filesystem::remove(Scratch("samples/TC-103.BOR"));
+    ThenAnswer(("File Not Found: " + Scratch("samples/TC-103.BOR")).c_str(), "OK");
+    for (QAction* action : log->findChildren<QAction*>())
+        if (action->text().contains("TC-103.BOR")) {
+            action->trigger();
+            break;
+        }
+    CheckAllDone();
+    CHECK(frmBorinput::Text1 == "TC-101");
+    CHECK(BoringFileName == Scratch("samples/TC-101.BOR"));
+}
+
+TEST_CASE("another boring is shown from its first rows on")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-101.BOR");
+    auto* view = static_cast<QTableView*>(Bring(log, "SSLith"));
+    ClickCell(log, "SSLith", 90, 2);
+    CHECK(view->verticalScrollBar()->value() > 0);
+    OpenSample("TC-103.BOR");
+    CHECK(view->verticalScrollBar()->value() == 0);
+    CHECK(view->currentIndex() == view->model()->index(0, 0));
+    CHECK(frmBorinput::SSLith.row == 1);
 }

@@ -652,7 +652,9 @@ TEST_CASE(
 TEST_CASE("the workbench's check list follows the table, and an entry leads to its cell")
 {
     Visit(LogWindow(), cases[3], [](QWidget* tool) {
-        frmGIS::SSGISInfo.Resize(frmGIS::SSGISInfo.rows, 8);
+        for (const auto& [row, layer] : {std::pair(1, "A"), {2, "B"}, {3, "C"}})
+            frmGIS::SSGISLayers.Cell(row, 1) = layer;
+        frmGIS::Command2();
         for (const auto& [column, cell] : {std::pair(6, "5"), {7, "10"}, {8, "20"}})
             frmGIS::SSGISInfo.Cell(2, column) = cell;
         ClickMenu(tool, "mnuView", "mnuCheckList");

@@ -18,7 +18,8 @@ CheckDock::CheckDock(QMainWindow* window, QMenu* menu) : QDockWidget("Check List
     entries->setObjectName("lstCheck");
     entries->setAccessibleName("Check list");
     entries->setWordWrap(true);
-    entries->setSpacing(2);
+    entries->setTextElideMode(Qt::ElideNone);
+    entries->setStyleSheet("QListView::item { padding: 3px; }"); // a spacing would be dead strips between the entries
     entries->setMinimumSize(200, 60);
     entries->OnChoice = [this](const QListWidgetItem& item) {
         const Text words = FromUi(item.text());

@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QScrollBar>
 #include <QSettings>
 #include <QStyledItemDelegate>
 #include <algorithm>
@@ -44,15 +45,17 @@ public:
     }
     // What was typed goes into the record. It waits until the box that it was typed in is closed: a change may bring a
     // message, and the message would take the focus from a box that is still being closed.
-    void TakeTyped()
+    // The cell that it went to.
+    QModelIndex TakeTyped()
     {
         if (!typed.isValid())
-            return;
+            return {};
         const QModelIndex at = typed;
         typed = QModelIndex();
         if (at.row() >= grid.rows || at.column() >= grid.columns) // the cell has gone meanwhile
-            return;
+            return {};
         TypeCell(grid, at.row() + 1, at.column() + 1, FromUi(typedText));
+        return at;
     }
     int rowCount(const QModelIndex& parent) const override
     {
@@ -317,6 +320,27 @@ GridView::GridView(const char* name, Grid& shown, QWidget* parent, const QString
     });
 }
 
+// A column that the user has not set shows the whole of what was put into one of its cells, within the bounds of Fit.
+void GridView::Widen(const QModelIndex& at)
+{
+    const bool last = horizontalHeader()->stretchLastSection() && at.column() == model->columnCount({}) - 1;
+    if (!at.isValid() || last || widthSet[size_t(at.column())])
+        return;
+    const int wanted = std::min(sizeHintForIndex(at).width() + 8, 260);
+    if (wanted <= columnWidth(at.column()))
+        return;
+    fitting = true;
+    setColumnWidth(at.column(), wanted);
+    fitting = false;
+}
+
+void GridView::Grow()
+{
+    for (int column = grid.selected.left; column <= grid.selected.right; ++column)
+        for (int row = grid.selected.top; row <= grid.selected.bottom; ++row)
+            Widen(model->index(row - 1, column - 1));
+}
+
 // A grid of few columns has the last one as wide as what the others leave.
 void GridView::Stretch()
 {
@@ -359,6 +383,13 @@ void GridView::Fit()
     fitting = false;
 }
 
+void GridView::Home()
+{
+    setCurrentIndex(model->index(0, 0));
+    scrollToTop();
+    horizontalScrollBar()->setValue(0);
+}
+
 // The widths that are the user's own, for the next session; 0 for the others.
 void GridView::KeepWidths() const
 {
@@ -389,7 +420,7 @@ void GridView::FinishEdit()
         commitData(box);
         closeEditor(box, QAbstractItemDelegate::NoHint);
     }
-    model->TakeTyped();
+    Widen(model->TakeTyped());
     Done();
 }
 
@@ -425,12 +456,12 @@ void GridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint h
     case QAbstractItemDelegate::NoHint:
         // The focus has gone elsewhere; who asked for it comes first.
         QTimer::singleShot(0, this, [this] {
-            model->TakeTyped();
+            Widen(model->TakeTyped());
             Done();
         });
         return;
     }
-    model->TakeTyped();
+    Widen(model->TakeTyped());
     Done();
 }
 
@@ -449,6 +480,16 @@ void GridView::Step(int rows, int columns)
     setCurrentIndex(model->index(std::clamp(row, 0, lastRow), std::clamp(column, 0, lastColumn)));
 }
 
+// To change what is there, the caret stands behind it; what is typed over a cell begins anew.
+bool GridView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+{
+    const bool begun = QTableView::edit(index, trigger, event);
+    auto* box = begun ? qobject_cast<QLineEdit*>(indexWidget(index)) : nullptr;
+    if (box && (trigger == EditKeyPressed || trigger == DoubleClicked))
+        box->end(false);
+    return begun;
+}
+
 // Tab goes on to the next cell, and out of the grid behind the last one.
 bool GridView::focusNextPrevChild(bool next)
 {
@@ -465,15 +506,16 @@ void GridView::keyPressEvent(QKeyEvent* event)
 {
     if (state() == EditingState) // a key that the box of the edit has let through
         return QTableView::keyPressEvent(event);
-    model->TakeTyped();
+    Widen(model->TakeTyped());
     const auto is = [event](QKeySequence::StandardKey key) { return event->matches(key); };
     const bool control = event->modifiers() == Qt::ControlModifier;
+    bool pasted = false;
     if (is(QKeySequence::Copy))
         CopySelected(grid);
     else if (is(QKeySequence::Cut))
         CutSelected(grid);
     else if (is(QKeySequence::Paste))
-        PasteSelected(grid);
+        PasteSelected(grid), pasted = true;
     else if (is(QKeySequence::Undo))
         UndoGrid(grid);
     else if (is(QKeySequence::Redo) || (control && event->key() == Qt::Key_Y))
@@ -493,6 +535,8 @@ void GridView::keyPressEvent(QKeyEvent* event)
         return QTableView::keyPressEvent(event);
     event->accept();
     Done();
+    if (pasted)
+        Grow();
 }
 
 // ---- What a column offers
@@ -518,10 +562,18 @@ void GridView::Offer()
             FinishEdit();
             TypeCell(grid, grid.row, grid.column, words);
             Done();
+            Widen(currentIndex());
             if (words.find("Pn") != Text::npos || words.find("Gn") != Text::npos)
-                QTimer::singleShot(0, this, [this] { edit(currentIndex()); }); // when the menu has given the focus back
+                QTimer::singleShot(0, this, [this] { // when the menu has given the focus back
+                    edit(currentIndex());
+                    if (auto* box = qobject_cast<QLineEdit*>(indexWidget(currentIndex())))
+                        box->setSelection(int(box->text().indexOf('n')), 1);
+                });
         });
     menu->popup(viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()));
+    for (QAction* action : menu->actions())
+        if (SameText(FromUi(action->text()), Trim(grid.Cell(grid.row, grid.column))))
+            menu->setActiveAction(action); // from what the cell has, up or down
 }
 
 void GridView::focusInEvent(QFocusEvent* event)

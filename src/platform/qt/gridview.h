@@ -18,6 +18,7 @@ public:
     GridView(const char* name, Grid& shown, QWidget* parent, const QString& keptAs = QString());
     void Refresh();                 // the record has changed: cells, headings, current cell, selected block
     void Fit();                     // columns as wide as what they hold, but for those that the user has set
+    void Home();                    // another document: its first row is in sight
     void FinishEdit();              // takes in what is being typed
     void AsTyped(void (*work)());   // work sees what is being typed as if it had been taken in; it has not
     std::function<void()> OnChange; // after every change by the user
@@ -25,6 +26,8 @@ public:
 protected:
     QSize sizeHint() const override;
     void keyPressEvent(QKeyEvent* event) override;
+    using QTableView::edit;
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -39,6 +42,8 @@ private:
     void TakeSelection();
     void KeepWidths() const;
     void Stretch();
+    void Widen(const QModelIndex& at);
+    void Grow();                              // the columns of the selected block, for what has been pasted into it
     const std::vector<Text>* Offered() const; // for the current cell; null: nothing
     void Offer();                             // the list of it, below the cell
 

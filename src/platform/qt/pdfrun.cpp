@@ -67,7 +67,9 @@ PdfRun::~PdfRun()
 {
     if (!body->closed) {
         body->painter.end();
-        body->file.remove();
+        // Not by the file's own way, which leaves it where its last bytes could not be written.
+        body->file.close();
+        ::unlink(body->temporary.c_str());
     }
 }
 

@@ -345,11 +345,18 @@ void ToolWindow::Refresh()
 {
     setWindowTitle(ToUi(tool.Title) + "[*]");
     Typed();
-    if (shownFile != tool.FileName) {
-        shownFile = tool.FileName;
-        for (GridView* view : views)
+    int rows = 0;
+    for (const Grid* grid : tool.grids)
+        rows += grid->DataRowCount();
+    if (shownFile != tool.FileName || rows > fittedRows) { // another file, or rows that a command has added
+        for (GridView* view : views) {
             view->Fit();
+            if (shownFile != tool.FileName)
+                view->Home();
+        }
+        shownFile = tool.FileName;
     }
+    fittedRows = rows;
     recent->Show(tool.FileName);
     project->setText("Project folder: " + ToUi(ProjectPath));
 }

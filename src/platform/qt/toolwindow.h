@@ -69,4 +69,5 @@ private:
     std::vector<QWidget*> order; // of the Tab key
     QPointer<QWidget> focus;     // while the window is hidden
     Text shownFile;              // the file that the boxes were last fitted to
+    int fittedRows = 0;          // and the rows that they held then
 };

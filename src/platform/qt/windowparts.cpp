@@ -3,6 +3,7 @@
 
 #include "platform/qt/uitext.h"
 #include "session/files.h"
+#include "session/platform.h"
 
 #include <QAction>
 #include <QLabel>
@@ -65,6 +66,14 @@ void RecentFiles::Show(const Text& current)
     for (const QString& file : files) {
         QAction* action = menu->addAction(QString("&%1 %2").arg(++i).arg(QString(file).replace("&", "&&")));
         action->setObjectName(QString("mnuRecent%1").arg(i));
-        QObject::connect(action, &QAction::triggered, menu, [this, file] { opens(FromUi(file)); });
+        QObject::connect(action, &QAction::triggered, menu, [this, file] {
+            if (FileExists(FromUi(file)))
+                return opens(FromUi(file));
+            MsgBox("File Not Found: " + FromUi(file), OkOnly, Exclamation);
+            QSettings kept("Stratavue", "Stratavue");
+            QStringList others = kept.value(key).toStringList();
+            others.removeAll(file);
+            kept.setValue(key, others);
+        });
     }
 }
