@@ -17,6 +17,7 @@
 #include <QMainWindow>
 #include <QScreen>
 #include <QTabWidget>
+#include <algorithm>
 #include <cstdlib>
 
 static const std::string gallery = std::string(SOURCE_DIR) + "/docs/gallery/windows/";
@@ -43,7 +44,11 @@ static QStringList Clipped(QWidget* window)
             words << text;
     };
     for (QLabel* label : window->findChildren<QLabel*>())
-        check(label, label->text());
+        if (!label->objectName().startsWith("Tile"))
+            check(label, label->text());
+        else if (!label->rect().contains(label->fontMetrics().boundingRect(
+                     label->rect(), Qt::AlignCenter | Qt::TextWordWrap, label->text())))
+            words << label->text(); // a tile of a layout, which breaks its words itself
     for (QAbstractButton* button : window->findChildren<QAbstractButton*>())
         check(button, button->text());
     return words;
@@ -69,8 +74,8 @@ static void Picture(QWidget* window, const Text& name)
     // Widths of letters differ from one machine to the next, and with them the sizes of windows.
     const QImage before(kept);
     REQUIRE_FALSE(before.isNull());
-    CHECK(std::abs(now.width() - before.width()) <= before.width() / 8);
-    CHECK(std::abs(now.height() - before.height()) <= before.height() / 8);
+    CHECK(std::abs(now.width() - before.width()) <= std::max(before.width() / 8, 40));
+    CHECK(std::abs(now.height() - before.height()) <= std::max(before.height() / 8, 40));
 }
 
 static void Escape(QWidget* window)
