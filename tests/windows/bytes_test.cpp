@@ -8,6 +8,7 @@
 #include "platform/qt/uitext.h"
 #include "report/desitems.h"
 #include "session/files.h"
+#include "session/platform.h"
 #include "session/session.h"
 
 #include <QAction>
@@ -235,4 +236,19 @@ TEST_CASE("another boring is shown from its first rows on")
     CHECK(view->verticalScrollBar()->value() == 0);
     CHECK(view->currentIndex() == view->model()->index(0, 0));
     CHECK(frmBorinput::SSLith.row == 1);
+}
+
+TEST_CASE("Save As leaves the user in the cell that is worked in")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-101.BOR");
+    ClickCell(log, "SSLith", 60, 2);
+    TypeText("CL");
+    Press(Qt::Key_Return);
+    Platform.MsgBox = [](const Text&, Buttons, Icon) { return int(Ok); };
+    Platform.ShowChooser = [] { DialogResult = Scratch("samples/OTHER.BOR"); };
+    Find<QAction>(log, "mnuSaveAs")->trigger();
+    CHECK(BoringFileName == Scratch("samples/OTHER.BOR"));
+    CHECK(frmBorinput::SSLith.row == 61);
+    CHECK(static_cast<QTableView*>(Bring(log, "SSLith"))->currentIndex().row() == 60);
 }

@@ -385,6 +385,8 @@ void GridView::Fit()
 
 void GridView::Home()
 {
+    if (!grid.done.empty() || !grid.undone.empty())
+        return; // the same document under another name: the user stays where the work is
     setCurrentIndex(model->index(0, 0));
     scrollToTop();
     horizontalScrollBar()->setValue(0);

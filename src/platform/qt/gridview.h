@@ -18,7 +18,7 @@ public:
     GridView(const char* name, Grid& shown, QWidget* parent, const QString& keptAs = QString());
     void Refresh();                 // the record has changed: cells, headings, current cell, selected block
     void Fit();                     // columns as wide as what they hold, but for those that the user has set
-    void Home();                    // another document: its first row is in sight
+    void Home();                    // another document, whose steps are still to come: its first row
     void FinishEdit();              // takes in what is being typed
     void AsTyped(void (*work)());   // work sees what is being typed as if it had been taken in; it has not
     std::function<void()> OnChange; // after every change by the user
