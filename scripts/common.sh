@@ -34,6 +34,9 @@ CHECK_PACKAGES=(doctest-dev clang-format-14 python3-ezdxf librecad poppler-utils
 PACKAGE_PACKAGES=(dpkg-dev file lintian)
 BENCH_PACKAGES=(libbenchmark-dev)
 
+# A compiler cache knows the same sources again in another checkout.
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+
 # build FOLDER [cmake options]: configures once, builds what changed. Quiet unless something is wrong.
 build() {
     local folder=$1

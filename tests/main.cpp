@@ -20,6 +20,7 @@
 #include "gis/gisfile.h"
 #include "gis/gistool.h"
 #include "logrender/logdata.h"
+#include "places.h"
 #include "report/desitems.h"
 #include "report/fontprofile.h"
 #include "report/heading.h"

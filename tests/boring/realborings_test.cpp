@@ -5,6 +5,7 @@
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
 #include "editors/fillform.h"
+#include "places.h"
 #include "session/files.h"
 #include "session/session.h"
 

@@ -6,6 +6,7 @@
 #include "boring/textlines.h"
 #include "canvas/batch.h"
 #include "editors/fillform.h"
+#include "places.h"
 #include "session/files.h"
 #include "session/session.h"
 

@@ -5,6 +5,7 @@
 #include "boring/boringdata.h"
 #include "canvas/batch.h"
 #include "canvas/screenview.h"
+#include "places.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"

@@ -2,6 +2,7 @@
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "editors/borinput.h"
+#include "places.h"
 #include "session/files.h"
 #include "session/recovery.h"
 #include "session/session.h"

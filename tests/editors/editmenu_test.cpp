@@ -3,6 +3,7 @@
 #include "boring/boringdata.h"
 #include "editors/borinput.h"
 #include "editors/fillform.h"
+#include "places.h"
 #include "session/deviceconfig.h"
 #include "session/session.h"
 #include "testing.h"

@@ -6,6 +6,7 @@
 #include "canvas/screenview.h"
 #include "editors/borinput.h"
 #include "logrender/vlog.h"
+#include "places.h"
 #include "session/files.h"
 #include "session/session.h"
 #include "testing.h"

@@ -2,6 +2,7 @@
 #include "boring/boringboxes.h"
 #include "boring/projectlist.h"
 #include "editors/borinput.h"
+#include "places.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"

@@ -6,6 +6,7 @@
 #include "editors/borinput.h"
 #include "editors/livepreview.h"
 #include "gis/gistool.h"
+#include "places.h"
 #include "report/prompts.h"
 #include "sections/crosstool.h"
 #include "sections/fencetool.h"

@@ -2,6 +2,7 @@
 #include "boring/boringboxes.h"
 #include "editors/borinput.h"
 #include "gis/gistool.h"
+#include "places.h"
 #include "report/prompts.h"
 #include "sections/crosstool.h"
 #include "sections/fencetool.h"

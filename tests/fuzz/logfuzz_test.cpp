@@ -11,6 +11,7 @@
 #include "logrender/intropage.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
+#include "places.h"
 #include "session/files.h"
 #include "session/platform.h"
 

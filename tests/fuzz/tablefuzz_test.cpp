@@ -10,6 +10,7 @@
 #include "canvas/screenview.h"
 #include "gis/gisfile.h"
 #include "logrender/boringtext.h"
+#include "places.h"
 #include "sections/soilfile.h"
 #include "sections/soiltable.h"
 #include "session/failure.h"

@@ -3,6 +3,7 @@
 
 #include "testing.h"
 
+#include "places.h"
 #include "session/files.h"
 #include "session/session.h"
 

@@ -8,6 +8,7 @@
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
 #include "canvas/viewcommands.h"
+#include "places.h"
 
 // Without the first line, whose page number counts on.
 static std::string Objects(const std::string& listing)

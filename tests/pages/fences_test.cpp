@@ -3,6 +3,7 @@
 
 #include "testing.h"
 
+#include "places.h"
 #include "session/files.h"
 
 TEST_CASE("the sample fences draw the kept pages, object by object, and without a message")

@@ -7,6 +7,7 @@
 #include "canvas/batch.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "places.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"

@@ -8,6 +8,7 @@
 
 #include "canvas/batch.h"
 #include "canvas/patterns.h"
+#include "places.h"
 #include "platform/qt/headless.h"
 #include "platform/qt/pngpages.h"
 #include "session/files.h"

@@ -4,6 +4,7 @@
 
 #include "testing.h"
 
+#include "places.h"
 #include "session/files.h"
 
 TEST_CASE("the sample cross sections draw the kept pages, object by object, and without a message")

@@ -3,6 +3,7 @@
 
 #include "report/choosing.h"
 
+#include "places.h"
 #include "report/heading.h"
 #include "session/files.h"
 #include "session/gridedit.h"

@@ -4,6 +4,7 @@
 #include "testing.h"
 
 #include "boring/opensave.h"
+#include "places.h"
 #include "session/files.h"
 #include "session/gridedit.h"
 #include "session/session.h"

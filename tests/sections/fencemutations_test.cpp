@@ -9,6 +9,7 @@
 #include "canvas/pageobjects.h"
 #include "canvas/screenview.h"
 #include "logrender/boringtext.h"
+#include "places.h"
 #include "sections/fencefile.h"
 #include "sections/fencerun.h"
 #include "session/files.h"

@@ -5,6 +5,7 @@
 #include "boring/boringboxes.h"
 #include "boring/boringfile.h"
 #include "editors/borinput.h"
+#include "places.h"
 #include "session/files.h"
 #include "session/recovery.h"
 #include "session/session.h"

@@ -4,6 +4,7 @@
 #include "canvas/batch.h"
 #include "convert/gtgsgeneditor.h"
 #include "convert/gtgsgeneral.h"
+#include "places.h"
 #include "session/files.h"
 #include "session/session.h"
 #include "windows/driver.h"

@@ -2,6 +2,7 @@
 #include "windows/driver.h"
 
 #include "batch/jobtable.h"
+#include "places.h"
 #include "platform/qt/application.h"
 #include "platform/qt/printers.h"
 #include "platform/qt/uitext.h"

@@ -4,6 +4,7 @@
 #include "boring/boringboxes.h"
 #include "boring/projectlist.h"
 #include "gis/gistool.h"
+#include "places.h"
 #include "session/session.h"
 #include "session/startup.h"
 #include "windows/driver.h"

@@ -3,6 +3,7 @@
 #include "windows/driver.h"
 
 #include "boring/boringboxes.h"
+#include "places.h"
 #include "platform/qt/windows.h"
 #include "session/files.h"
 #include "session/platform.h"

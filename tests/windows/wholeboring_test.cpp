@@ -6,6 +6,7 @@
 #include "boring/boringboxes.h"
 #include "canvas/pagelisting.h"
 #include "canvas/screenview.h"
+#include "places.h"
 #include "platform/qt/pdfrun.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
