@@ -30,6 +30,7 @@ std::vector<CheckEntry> CheckGisTable()
         CheckEntry entry;
         entry.Words = "The columns of the table are not those of the Layer List, by which it is saved.  Bring the list "
                       "to the columns, or the columns to the list by Update Layers.";
+        entry.Kind = "gis-columns";
         entry.GridName = "SSGISLayers";
         entries.push_back(entry);
     }
@@ -46,6 +47,7 @@ std::vector<CheckEntry> CheckGisTable()
                 " ends at " + bottom + ", but " + name(k - 1) +
                 " above it tells no depth, so it is drawn from the ground on.  Write its top before it: top-" + bottom +
                 ".";
+            entry.Kind = "gis-no-top";
             entry.GridName = "SSGISInfo";
             entry.Row = row;
             entry.Column = GisColumns + k;
