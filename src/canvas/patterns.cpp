@@ -4,6 +4,7 @@
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "session/files.h"
+#include "session/machine.h"
 #include "session/platform.h"
 
 #include <algorithm>
@@ -193,13 +194,13 @@ static uint32_t RgbOf(const Text& color)
 static void Watch(const Text& name)
 {
     const std::string path = NativePath(name);
-    pictureFiles.try_emplace(path, PictureFile{name, StateOf(path)});
+    pictureFiles.try_emplace(path, PictureFile{name, Machine::StateOf(path)});
 }
 
 static void NoteOwn(const Text& screenName)
 {
     const std::string path = NativePath(screenName);
-    ownScreenForms[path] = StateOf(path);
+    ownScreenForms[path] = Machine::StateOf(path);
     pictureFiles.erase(path);
     Watch(screenName);
 }
@@ -214,7 +215,7 @@ static void DropScreenForm(const PictureFile& print)
     const auto own = ownScreenForms.find(screen);
     if (own == ownScreenForms.end())
         return;
-    if (StateOf(screen) == own->second)
+    if (Machine::StateOf(screen) == own->second)
         std::remove(screen.c_str());
     ownScreenForms.erase(own);
 }
@@ -224,7 +225,7 @@ void ForgetChangedPictures()
     Platform.DropChangedPictures();
     bool changed = false;
     for (const auto& [path, file] : pictureFiles) {
-        if (StateOf(path) == file.State)
+        if (Machine::StateOf(path) == file.State)
             continue;
         changed = true;
         DropScreenForm(file);

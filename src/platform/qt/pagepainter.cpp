@@ -9,6 +9,7 @@
 #include "canvas/patterns.h"
 #include "session/failure.h"
 #include "session/files.h"
+#include "session/machine.h"
 
 #include <QGlyphRun>
 #include <QImage>
@@ -199,7 +200,7 @@ static std::map<std::string, LoadedPicture>& AllPictures() // by path
 static LoadedPicture Loaded(const std::string& path)
 {
     LoadedPicture picture;
-    picture.state = StateOf(path);
+    picture.state = Machine::StateOf(path);
     QImageReader::setAllocationLimit(1024); // megabytes: site maps are large
     QImageReader reader(QString::fromStdString(path));
     reader.setDecideFormatFromContent(true);
@@ -237,7 +238,7 @@ bool PictureLoads(const Text& name)
 
 void DropChangedPictures()
 {
-    std::erase_if(AllPictures(), [](const auto& entry) { return entry.second.state != StateOf(entry.first); });
+    std::erase_if(AllPictures(), [](const auto& entry) { return entry.second.state != Machine::StateOf(entry.first); });
 }
 
 // ---- The page
