@@ -8,6 +8,7 @@
 // without ink has no hatch. An ellipse or arc without a height or width is a LINE, since no round entity may be flat.
 #include "canvas/dxf.h"
 
+#include "canvas/colors.h"
 #include "canvas/dxfdrawing.h"
 #include "canvas/hatchlines.h"
 #include "canvas/metaugl.h"

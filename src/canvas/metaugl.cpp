@@ -2,6 +2,7 @@
 // that a page comes out the same wherever it is drawn.
 #include "canvas/metaugl.h"
 
+#include "canvas/colors.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "session/deviceconfig.h"
@@ -11,8 +12,6 @@
 
 #include <algorithm>
 #include <cmath>
-
-CanvasRecord PageCanvas;
 
 static int32_t Nearest(float units)
 {
@@ -469,20 +468,6 @@ void rectfillflag(float dx, float dy, float f)
 {
     if (Rectangle(dx, dy))
         polyfillflag(f);
-}
-
-int32_t ParseColor(const Text& color)
-{
-    const size_t first = color.find(' ');
-    const size_t second = first == Text::npos ? Text::npos : color.find(' ', first + 1);
-    if (second == Text::npos)
-        return White;
-    const auto part = [](std::string_view text) {
-        return static_cast<int>(std::clamp(std::nearbyint(TextNumber(text)), 0.0, 255.0));
-    };
-    const std::string_view text = color;
-    return ColorOf(part(text.substr(0, first)), part(text.substr(first + 1, second - first - 1)),
-                   part(text.substr(second + 1)));
 }
 
 // ---- Styles and text

@@ -1,6 +1,7 @@
 // patterns.cpp -- fill patterns: codes, names, screen forms and tints.
 #include "canvas/patterns.h"
 
+#include "canvas/colors.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "session/files.h"

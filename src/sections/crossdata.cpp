@@ -18,13 +18,6 @@
 
 using namespace VCROSS;
 
-CrossRunRecord VCROSS::CrossRun;
-
-void VCROSS::ResetCrossRun()
-{
-    CrossRun = CrossRunRecord();
-}
-
 static bool SaysBottom(const Text& cell)
 {
     return UpperCase(cell) == "B";

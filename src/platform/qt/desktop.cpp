@@ -29,16 +29,8 @@
 #include <QDate>
 #include <QLocale>
 #include <QMainWindow>
-#include <QScreen>
 #include <QStatusBar>
 #include <QWidget>
-
-void CentreOnScreen(QWidget& window)
-{
-    const QRect room = window.screen()->availableGeometry();
-    const QSize size = window.isVisible() || window.testAttribute(Qt::WA_Resized) ? window.size() : window.sizeHint();
-    window.move(room.center() - QPoint(size.width() / 2, size.height() / 2));
-}
 
 static Text ExecutableFolder()
 {

@@ -5,6 +5,7 @@
 // gets a tenth of the style changes that way, and one tiling pattern where there were a hundred.
 #include "platform/qt/pagepainter.h"
 
+#include "canvas/colors.h"
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
 #include "session/failure.h"

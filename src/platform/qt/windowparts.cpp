@@ -8,10 +8,18 @@
 #include <QAction>
 #include <QLabel>
 #include <QMenu>
+#include <QScreen>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
 #include <utility>
+
+void CentreOnScreen(QWidget& window)
+{
+    const QRect room = window.screen()->availableGeometry();
+    const QSize size = window.isVisible() || window.testAttribute(Qt::WA_Resized) ? window.size() : window.sizeHint();
+    window.move(room.center() - QPoint(size.width() / 2, size.height() / 2));
+}
 
 QSplitter* Split(Qt::Orientation orientation, std::initializer_list<QWidget*> boxes, std::initializer_list<int> shares)
 {

@@ -18,6 +18,9 @@ class QWidget;
 // Boxes beside or above one another, with movable borders between them; shares of the room.
 QSplitter* Split(Qt::Orientation orientation, std::initializer_list<QWidget*> boxes, std::initializer_list<int> shares);
 
+// Puts the window into the middle of its screen.
+void CentreOnScreen(QWidget& window);
+
 // The two labels of a status bar: the project folder on the left, what is on hand on the right.
 void AddStatusWords(QStatusBar* bar, QLabel*& project, QLabel*& state);
 

@@ -36,7 +36,5 @@ void Breathe();     // a turn for the window system
 bool RunUnderWay(); // a page is being made: the progress window is asked for
 void RunPaused();   // a box was up meanwhile: what the user took to read it does not count as a slow page
 
-void CentreOnScreen(QWidget& window);
-
 // Fills in Platform for the desktop program.
 void UseDesktopPlatform();
