@@ -8,11 +8,16 @@
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cmath>
 
 CanvasRecord PageCanvas;
+
+static const SharedRecord shared[] = {
+    {"PageCanvas", Kind::Run, PageCanvas},
+};
 
 static int32_t Nearest(float units)
 {

@@ -5,6 +5,7 @@
 #include "canvas/pageobjects.h"
 #include "session/files.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cmath>
@@ -108,6 +109,16 @@ static std::map<std::string, PictureFile> pictureFiles;
 static std::map<std::string, FileState> ownScreenForms;
 
 int PatternPicturesEmptied = 0;
+
+static const SharedRecord shared[] = {
+    {"TintsInMemory", Kind::Session, TintsInMemory},
+    {"fillsFolder", Kind::Machine, fillsFolder},
+    {"tints", Kind::Machine, tints},
+    {"pictures", Kind::Machine, pictures},
+    {"pictureFiles", Kind::Machine, pictureFiles},
+    {"ownScreenForms", Kind::Machine, ownScreenForms},
+    {"PatternPicturesEmptied", Kind::Machine, PatternPicturesEmptied},
+};
 
 static void EmptyPictures()
 {

@@ -12,6 +12,7 @@
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,6 +20,10 @@
 using namespace VCROSS;
 
 CrossRunRecord VCROSS::CrossRun;
+
+static const SharedRecord shared[] = {
+    {"VCROSS::CrossRun", Kind::Run, VCROSS::CrossRun},
+};
 
 void VCROSS::ResetCrossRun()
 {

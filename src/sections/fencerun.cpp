@@ -6,8 +6,13 @@
 #include "sections/sheetrun.h"
 #include "session/failure.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 VCROSS::FenceRunRecord VCROSS::FenceRun;
+
+static const SharedRecord shared[] = {
+    {"VCROSS::FenceRun", Kind::Run, VCROSS::FenceRun},
+};
 
 void VCROSS::ResetFenceRun()
 {

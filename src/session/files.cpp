@@ -3,9 +3,9 @@
 
 #include "session/failure.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cerrno>
 #include <cstdlib>
 #include <ctime>
@@ -274,9 +274,14 @@ static std::string BehindLinks(const std::string& path)
     return target;
 }
 
+static unsigned serial = 0; // of the last file written beside its place
+
+static const SharedRecord shared[] = {
+    {"serial", Kind::Machine, serial},
+};
+
 std::string TemporaryFor(const std::string& path)
 {
-    static std::atomic<unsigned> serial = 0;
     constexpr size_t room = 200;             // of the 255 bytes of a name
     const size_t base = path.rfind('/') + 1; // 0 where there is no folder
     return path.substr(0, base + std::min(path.size() - base, room)) + "." + std::to_string(::getpid()) + "-" +

@@ -5,6 +5,7 @@
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <chrono>
@@ -50,6 +51,12 @@ struct LeftCopy {
 } // namespace
 
 static RunRecord run;
+
+static const SharedRecord shared[] = {
+    {"RecoveryTools", Kind::Session, RecoveryTools},
+    {"RecoveryInterval", Kind::Session, RecoveryInterval},
+    {"run", Kind::Machine, run},
+};
 
 static void RemoveFile(const Text& name)
 {
