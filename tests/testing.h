@@ -14,5 +14,8 @@ void WritePicture(const Text& name); // a small grey picture, as a Windows bitma
 std::string ReadScratch(const Text& name);
 int FailureOf(void (*procedure)()); // the number of the failure that it raises, 0 for none
 
+// Set by tests with windows: takes down those of the test before. May be null.
+extern void (*CloseWindows)();
+
 // Lines joined with CR LF, closed by one: a file.
 std::string Lines(std::initializer_list<std::string_view> lines);

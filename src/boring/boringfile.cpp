@@ -14,10 +14,15 @@
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
-void (*OlderForms[3])() = {};
+std::array<void (*)(), 3> OlderForms = {};
+
+static const SharedRecord shared[] = {
+    {"OlderForms", Kind::Session, OlderForms},
+};
 
 // ---------------------------------------------------------------------------------------------------- reading
 

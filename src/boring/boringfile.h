@@ -3,6 +3,8 @@
 
 #include "session/files.h"
 
+#include <array>
+
 void OpenBoringFile2(); // BoringFileName into BoringData, which has just been cleared
 void SaveBoringFile();  // the boxes into BoringData, and that into BoringFileName, atomically
 void TakeBoringBoxes(); // the boxes into BoringData as for a save, unchecked; failures by number
@@ -14,4 +16,4 @@ void WriteConvertedBoring(const Text& name); // BoringData as it is, no boxes an
 void WriteBoring(const Text& name, const Text& style, const Text& draft, Durability durability = Durability::Saved);
 
 // Readers of the forms before 5.0, by procedure: they are built above this folder. 0 OpenSV3, 1 OpenSV4, 2 OpenSV46.
-extern void (*OlderForms[3])();
+extern std::array<void (*)(), 3> OlderForms;

@@ -10,6 +10,7 @@
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cmath>
@@ -28,6 +29,24 @@ Slots<void (*)(), MaxJobs> JobTable;
 void (*IntroPages)() = nullptr;
 frmDrawPrint::Record frmDrawPrint::Dialog;
 void (*frmDrawPrint::CloseWindow)() = nullptr;
+
+static const SharedRecord shared[] = {
+    {"jobCode", Kind::Run, jobCode},
+    {"runFiles", Kind::Run, runFiles},
+    {"runFileCount", Kind::Run, runFileCount},
+    {"singleFile", Kind::Run, singleFile},
+    {"singleFileName", Kind::Run, singleFileName},
+    {"introType", Kind::Run, introType},
+    {"dialogBusy", Kind::Window, dialogBusy},
+    {"stopRequested", Kind::Run, stopRequested},
+    {"lastDir", Kind::Window, lastDir},
+    {"progressValue", Kind::Run, progressValue},
+    {"progressTotal", Kind::Run, progressTotal},
+    {"JobTable", Kind::Session, JobTable},
+    {"IntroPages", Kind::Session, IntroPages},
+    {"frmDrawPrint::Dialog", Kind::Window, frmDrawPrint::Dialog},
+    {"frmDrawPrint::CloseWindow", Kind::Window, frmDrawPrint::CloseWindow},
+};
 
 namespace
 {

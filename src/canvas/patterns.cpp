@@ -7,6 +7,7 @@
 #include "session/files.h"
 #include "session/machine.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cmath>
@@ -110,6 +111,16 @@ static std::map<std::string, PictureFile> pictureFiles;
 static std::map<std::string, FileState> ownScreenForms;
 
 int PatternPicturesEmptied = 0;
+
+static const SharedRecord shared[] = {
+    {"TintsInMemory", Kind::Session, TintsInMemory},
+    {"fillsFolder", Kind::Machine, fillsFolder},
+    {"tints", Kind::Machine, tints},
+    {"pictures", Kind::Machine, pictures},
+    {"pictureFiles", Kind::Machine, pictureFiles},
+    {"ownScreenForms", Kind::Machine, ownScreenForms},
+    {"PatternPicturesEmptied", Kind::Machine, PatternPicturesEmptied},
+};
 
 static void EmptyPictures()
 {

@@ -6,11 +6,16 @@
 #include "canvas/patterns.h"
 #include "session/files.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cmath>
 
 RunPagesRecord RunPages;
+
+static const SharedRecord shared[] = {
+    {"RunPages", Kind::Run, RunPages},
+};
 
 // ---- Pages
 

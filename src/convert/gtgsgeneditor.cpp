@@ -9,6 +9,7 @@
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
@@ -17,6 +18,12 @@ static const char* const caption = "GTGS General Conversion Editor";
 frmGTGSGenEditor::Record frmGTGSGenEditor::Dialog;
 Grid frmGTGSGenEditor::SS1(MaxMapRows, 2);
 Grid frmGTGSGenEditor::SS2(MaxMapRows, 2);
+
+static const SharedRecord shared[] = {
+    {"frmGTGSGenEditor::Dialog", Kind::Window, frmGTGSGenEditor::Dialog},
+    {"frmGTGSGenEditor::SS1", Kind::Window, frmGTGSGenEditor::SS1},
+    {"frmGTGSGenEditor::SS2", Kind::Window, frmGTGSGenEditor::SS2},
+};
 
 // By FieldKind.
 static const std::vector<Text>& KindNames()

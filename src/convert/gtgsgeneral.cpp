@@ -17,10 +17,16 @@
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
 GtgsMappingRecord GtgsMapping;
+
+static const SharedRecord shared[] = {
+    {"GtgsMapping", Kind::Document, GtgsMapping},
+};
+
 const Text NameFromHeaders = "bname";
 
 // ---------------------------------------------------------------------------------------------------- the .GCV file

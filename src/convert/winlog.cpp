@@ -18,11 +18,16 @@
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cmath>
 
 Text WinLogTemplate;
+
+static const SharedRecord shared[] = {
+    {"WinLogTemplate", Kind::Run, WinLogTemplate},
+};
 
 static const Text MarkAlone(1, ParagraphMark);
 

@@ -21,8 +21,13 @@
 #include "session/recovery.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 frmBorinput::CommandTable frmBorinput::Commands;
+
+static const SharedRecord shared[] = {
+    {"frmBorinput::Commands", Kind::Session, frmBorinput::Commands},
+};
 
 static const char* const ToolTitle = "VeskLog - Boring Log Diagram";
 

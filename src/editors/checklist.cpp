@@ -13,6 +13,7 @@
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
@@ -22,6 +23,10 @@ static constexpr int scaleBox = 2, partsBox = 3, paramBox = 6, sampleBox = 7, li
                      outerBox = 11, innerBox = 12, cuttingBox = 14, formationBox = 15;
 
 static std::vector<CheckEntry>* list;
+
+static const SharedRecord shared[] = {
+    {"list", Kind::Run, list},
+};
 
 static void Flag(const Text& words, int box, int row, int column = 1)
 {

@@ -15,11 +15,16 @@
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <filesystem>
 
 static LivePage* drawn; // where the run leaves its page
+
+static const SharedRecord shared[] = {
+    {"drawn", Kind::Run, drawn},
+};
 
 // The page is complete: taken, and the run ended.
 static void TakePage()

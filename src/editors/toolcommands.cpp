@@ -12,10 +12,23 @@
 #include "session/recovery.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
 Tool NextTool = Tool::Log;
+
+static ToolRecord* recovered; // a tool with a recovery copy in its boxes, whose window is to come
+// The save under way, and whether it has written the file.
+static ToolRecord* saving;
+static bool written;
+
+static const SharedRecord shared[] = {
+    {"NextTool", Kind::Session, NextTool},
+    {"recovered", Kind::Session, recovered},
+    {"saving", Kind::Document, saving},
+    {"written", Kind::Document, written},
+};
 
 bool Saved(void (*save)())
 {
@@ -83,8 +96,6 @@ static void StartAnew(ToolRecord& tool)
     FileChanged = 0;
     ForgetSteps(tool);
 }
-
-static ToolRecord* recovered; // a tool with a recovery copy in its boxes, whose window is to come
 
 void LoadTool(ToolRecord& tool)
 {
@@ -212,8 +223,6 @@ void ToolOpenNamed(ToolRecord& tool, const Text& name)
 // The tool's save, with its recovery copy.
 static bool Write(ToolRecord& tool)
 {
-    static ToolRecord* saving;
-    static bool written;
     saving = &tool;
     SaveDocument([] { written = saving->SaveFile(); });
     return written;

@@ -10,6 +10,7 @@
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -24,6 +25,18 @@ Grid SSGISLayers(MaxGisLayers, 2), SSGISInfo(MaxGisBorings, GisColumns), SSBorin
 Text Title, FileName;
 FileList File1;
 } // namespace frmGIS
+
+static const SharedRecord shared[] = {
+    {"GisData", Kind::Document, GisData},
+    {"boringSummary", Kind::Run, boringSummary},
+    {"boringLithology", Kind::Run, boringLithology},
+    {"frmGIS::SSGISLayers", Kind::Document, frmGIS::SSGISLayers},
+    {"frmGIS::SSGISInfo", Kind::Document, frmGIS::SSGISInfo},
+    {"frmGIS::SSBoringData", Kind::Document, frmGIS::SSBoringData},
+    {"frmGIS::Title", Kind::Document, frmGIS::Title},
+    {"frmGIS::FileName", Kind::Document, frmGIS::FileName},
+    {"frmGIS::File1", Kind::Document, frmGIS::File1},
+};
 
 using namespace frmGIS;
 

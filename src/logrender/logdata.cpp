@@ -12,12 +12,19 @@
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
 LogPageRecord LogPage;
 LogBoringRecord LogBoring;
 LogGeometryRecord LogGeometry;
+
+static const SharedRecord shared[] = {
+    {"LogPage", Kind::Run, LogPage},
+    {"LogBoring", Kind::Run, LogBoring},
+    {"LogGeometry", Kind::Run, LogGeometry},
+};
 
 double DrawingLength()
 {

@@ -7,6 +7,7 @@
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 Slots<Text, MaxHeadings> HeadingTable;
 Slots<Text, MaxHeadings> HeadingWords;
@@ -14,6 +15,17 @@ int16_t LegendInUse = 0;
 Slots<int16_t, 4> LegendBoxFill;
 LogoRecord LogoData;
 Grid frmHeading::SSLog(39, 2), frmHeading::SSSections(10, 2), frmHeading::SSGraphics(13, 2);
+
+static const SharedRecord shared[] = {
+    {"HeadingTable", Kind::Window, HeadingTable},
+    {"HeadingWords", Kind::Run, HeadingWords},
+    {"LegendInUse", Kind::Run, LegendInUse},
+    {"LegendBoxFill", Kind::Run, LegendBoxFill},
+    {"LogoData", Kind::Run, LogoData},
+    {"frmHeading::SSLog", Kind::Window, frmHeading::SSLog},
+    {"frmHeading::SSSections", Kind::Window, frmHeading::SSSections},
+    {"frmHeading::SSGraphics", Kind::Window, frmHeading::SSGraphics},
+};
 
 // Which slots each grid shows.
 namespace

@@ -3,8 +3,13 @@
 
 #include "session/files.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 LayoutRecord LayoutData;
+
+static const SharedRecord shared[] = {
+    {"LayoutData", Kind::Window, LayoutData},
+};
 
 void ReadLayoutFile(const Text& name)
 {

@@ -4,6 +4,7 @@
 #include "sections/sectionlines.h"
 #include "session/gridedit.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
@@ -15,6 +16,12 @@ Text FileName;
 Grid SS1(CrossRecord::FormBorings, 5), SS2(CrossRecord::Scales, 1), SS3(CrossRecord::FormReports, 1),
     SS4(CrossRecord::FormLegendRows, 2);
 } // namespace frmCross
+
+static const SharedRecord shared[] = {
+    {"CrossData", Kind::Document, CrossData},         {"frmCross::FileName", Kind::Document, frmCross::FileName},
+    {"frmCross::SS1", Kind::Document, frmCross::SS1}, {"frmCross::SS2", Kind::Document, frmCross::SS2},
+    {"frmCross::SS3", Kind::Document, frmCross::SS3}, {"frmCross::SS4", Kind::Document, frmCross::SS4},
+};
 
 // ---------------------------------------------------------------------------------------------------- reading
 

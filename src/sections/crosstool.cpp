@@ -5,6 +5,7 @@
 #include "editors/hush.h"
 #include "gis/gisfile.h"
 #include "sections/crossrun.h"
+#include "session/shared.h"
 
 // Cells of a boring that no column shows: label offset, second label, azimuth, inclination.
 static constexpr int firstHidden = 6, lastHidden = 9, hiddenCells = lastHidden - firstHidden + 1;
@@ -75,4 +76,8 @@ ToolRecord CrossForm = {
     .Label = frmCross::LabelBoxes,
     .Undisturbed = Undisturbed,
     .State = State,
+};
+
+static const SharedRecord shared[] = {
+    {"CrossForm", Kind::Window, CrossForm},
 };

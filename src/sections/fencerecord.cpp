@@ -1,7 +1,13 @@
 // fencerecord.cpp -- the record of the fence diagram in drawing.
 #include "sections/fencerecord.h"
 
+#include "session/shared.h"
+
 VCROSS::FenceRunRecord VCROSS::FenceRun;
+
+static const SharedRecord shared[] = {
+    {"VCROSS::FenceRun", Kind::Run, VCROSS::FenceRun},
+};
 
 void VCROSS::ResetFenceRun()
 {

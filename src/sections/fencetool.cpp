@@ -5,6 +5,7 @@
 #include "editors/hush.h"
 #include "gis/gisfile.h"
 #include "sections/fencerun.h"
+#include "session/shared.h"
 
 void frmFence::LabelBoxes()
 {
@@ -52,4 +53,8 @@ ToolRecord FenceForm = {
     .Label = frmFence::LabelBoxes,
     .Undisturbed = Undisturbed,
     .State = State,
+};
+
+static const SharedRecord shared[] = {
+    {"FenceForm", Kind::Window, FenceForm},
 };

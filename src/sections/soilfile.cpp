@@ -8,12 +8,19 @@
 #include "session/gridedit.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
 SoilRecord SoilData;
 Grid frmSoil::SS1(MaxSoilCells, 1);
 Text frmSoil::FileName;
+
+static const SharedRecord shared[] = {
+    {"SoilData", Kind::Document, SoilData},
+    {"frmSoil::SS1", Kind::Document, frmSoil::SS1},
+    {"frmSoil::FileName", Kind::Document, frmSoil::FileName},
+};
 
 static const char* const toolTitle = "VeskSoil - Soil Analysis Table";
 

@@ -19,11 +19,16 @@
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cmath>
 
 VCROSS::SoilRunRecord VCROSS::SoilRun;
+
+static const SharedRecord shared[] = {
+    {"VCROSS::SoilRun", Kind::Run, VCROSS::SoilRun},
+};
 
 using namespace VCROSS;
 

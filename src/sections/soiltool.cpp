@@ -2,6 +2,7 @@
 #include "sections/soiltool.h"
 
 #include "editors/hush.h"
+#include "session/shared.h"
 
 static void Undisturbed(const std::function<void()>& work)
 {
@@ -37,4 +38,8 @@ ToolRecord SoilForm = {
         },
     .Undisturbed = Undisturbed,
     .State = State,
+};
+
+static const SharedRecord shared[] = {
+    {"SoilForm", Kind::Window, SoilForm},
 };

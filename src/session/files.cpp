@@ -4,9 +4,9 @@
 #include "session/failure.h"
 #include "session/machine.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
-#include <atomic>
 
 static bool Separator(char letter)
 {
@@ -156,9 +156,14 @@ std::string ReadWholeFile(const Text& name)
     return bytes;
 }
 
+static unsigned serial = 0; // of the last file written beside its place
+
+static const SharedRecord shared[] = {
+    {"serial", Kind::Machine, serial},
+};
+
 std::string TemporaryFor(const std::string& path)
 {
-    static std::atomic<unsigned> serial = 0;
     constexpr size_t room = 200;             // of the 255 bytes of a name
     const size_t base = path.rfind('/') + 1; // 0 where there is no folder
     return path.substr(0, base + std::min(path.size() - base, room)) + "." + std::to_string(Machine::ProcessNumber()) +

@@ -6,6 +6,7 @@
 #include "session/machine.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <chrono>
@@ -46,6 +47,12 @@ struct LeftCopy {
 } // namespace
 
 static RunRecord run;
+
+static const SharedRecord shared[] = {
+    {"RecoveryTools", Kind::Session, RecoveryTools},
+    {"RecoveryInterval", Kind::Session, RecoveryInterval},
+    {"run", Kind::Machine, run},
+};
 
 static void RemoveFile(const Text& name)
 {

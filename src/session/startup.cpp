@@ -5,11 +5,16 @@
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 #include "session/stockfiles.h"
 
 #include <filesystem>
 
 Text HelpFile;
+
+static const SharedRecord shared[] = {
+    {"HelpFile", Kind::Session, HelpFile},
+};
 
 void LoadTitleBox()
 {
