@@ -8,6 +8,7 @@ LayoutRecord LayoutData;
 
 void ReadLayoutFile(const Text& name)
 {
+    LayoutData = LayoutRecord();
     LineReader in(name);
     LayoutData.Orientation = RoundInt16(TextNumber(in.Line()));
     for (int i = 1; i <= 12; ++i)
