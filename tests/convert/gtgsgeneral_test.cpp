@@ -67,6 +67,24 @@ TEST_CASE("fields go where the map says, trimmed, and the well information grows
     CHECK(BoringData.WellInfo[1][1] == "");
 }
 
+TEST_CASE("the well information grows to the highest row that a map names, in whatever order it names them")
+{
+    for (const auto& [first, second] : {std::pair<int, int>(7, 3), {3, 7}, {7, 7}}) {
+        OwnMap();
+        GtgsMapping.fixedFields = 0;
+        GtgsMapping.fieldSpec = 1;
+        GtgsMapping.fieldMap[1] = {WellConstInfo, int16_t(first)};
+        GtgsMapping.fieldMap[2] = {WellConstInfo, int16_t(second)};
+        WriteScratch("headers.txt", "one,two");
+        ConvertGTGSGeneral(Scratch("x.bor"));
+        Open("x.bor");
+        CHECK(BoringData.WellInfoCount == 7);
+        CHECK(BoringData.WellInfo[second][2] == "two");
+        std::filesystem::remove_all(ScratchFolder());
+        std::filesystem::create_directories(ScratchFolder());
+    }
+}
+
 TEST_CASE("fill codes are translated by the first row that fits, and others stay; blank lines are skipped")
 {
     UseMap("comma.GCV");
