@@ -388,6 +388,33 @@ TEST_CASE("a map that ends early is error 62, and shows what was read of it")
     CHECK(SS1.Cell(1, 1) == "Boring Name");
 }
 
+TEST_CASE("a map saved unchanged behind another one is as in a fresh program, also one that breaks off or is not there")
+{
+    CopyData("general");
+    const std::string second = ReadScratch("fixed.GCV");
+    const auto saved = [](const std::string& bytes) {
+        if (bytes.empty())
+            std::filesystem::remove(Scratch("b.GCV"));
+        else
+            WriteScratch("b.GCV", bytes);
+        Choose(Scratch("b.GCV"));
+        frmGTGSGenEditor::mnuOpenGTGSConvFile();
+        CHECK(frmGTGSGenEditor::mnuSaveGTGSConvFile());
+        return ReadScratch("b.GCV");
+    };
+    for (size_t end = 0; end != Text::npos && end <= second.size();) {
+        const std::string bytes = second.substr(0, end);
+        CAPTURE(bytes);
+        frmGTGSGenEditor::Load();
+        const std::string fresh = saved(bytes);
+        frmGTGSGenEditor::Load();
+        Choose(Scratch("comma.GCV"));
+        frmGTGSGenEditor::mnuOpenGTGSConvFile();
+        CHECK(saved(bytes) == fresh);
+        end = end == second.size() ? Text::npos : second.find("\r\n", end) + 2;
+    }
+}
+
 TEST_CASE("the new file is named by its box, with the ending, in the folder of the tables; GTGS1.BOR when it is blank")
 {
     CopyData("general");
