@@ -56,7 +56,7 @@ static void OpenOlderForm(int form)
     if (OlderForms[form])
         OlderForms[form]();
     else
-        MsgBox("This boring file has an invalid format.");
+        MsgBox("This boring file has an invalid format.", OkOnly, Exclamation);
 }
 
 void OpenBoringFile2()
@@ -72,7 +72,7 @@ try {
     }
     if (!version.starts_with("5.")) {
         // Kept: the name stays, so a later Save writes over the file that was refused.
-        MsgBox("This boring file has an invalid format.");
+        MsgBox("This boring file has an invalid format.", OkOnly, Exclamation);
         return;
     }
     BoringData.Name = in.Line();

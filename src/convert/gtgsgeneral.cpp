@@ -33,9 +33,9 @@ const Text NameFromHeaders = "bname";
 
 void OpenGTGSConversionFile(const Text& name)
 try {
+    GtgsMapping = GtgsMappingRecord(); // also for a file that is not there, whose name the next save would use
     LineReader in(name);
     const auto integer = [&in] { return RoundInt16(TextNumber(in.Line())); };
-    GtgsMapping = GtgsMappingRecord();
     GtgsMapping.templateFile = in.Line();
     GtgsMapping.textPath = in.Line();
     GtgsMapping.fixedFields = integer();

@@ -13,6 +13,7 @@ static const SharedRecord shared[] = {
 
 void ReadLayoutFile(const Text& name)
 {
+    LayoutData = LayoutRecord();
     LineReader in(name);
     LayoutData.Orientation = RoundInt16(TextNumber(in.Line()));
     for (int i = 1; i <= 12; ++i)

@@ -105,9 +105,14 @@ void frmLayout::mnuOpen()
     Platform.ShowChooser();
     if (!FileExists(DialogResult))
         return;
-    ReadLayoutFile(DialogResult);
     Title = "Layout Editor: " + DialogResult;
     PutAllBeside();
+    try {
+        ReadLayoutFile(DialogResult);
+    } catch (...) {
+        PlaceTiles(); // the picture is what a save would write
+        throw;
+    }
     PlaceTiles();
 }
 

@@ -69,7 +69,7 @@ static void ReadBorings(LineReader& in)
 
 void OpenCrossFile()
 try {
-    CrossData.rowCount = 0; // a file that fails before its borings shows none
+    ClearCrossArrays();
     LineReader in(frmCross::FileName);
     ReadBorings(in);
     in.Skip(1);
@@ -170,13 +170,7 @@ try {
 
 void ClearCrossArrays()
 try {
-    for (int row = 1; row <= CrossRecord::FormBorings; ++row)
-        CrossData.boringCells[row] = {};
-    CrossData.scaleCells = {};
-    for (int row = 1; row <= CrossRecord::FormReports; ++row)
-        CrossData.reportCells[row] = "";
-    for (int row = 1; row <= CrossRecord::FormLegendRows; ++row)
-        CrossData.legendCells[row] = {};
+    CrossData = {};
 } catch (...) {
     ReportFailure(__func__);
 }

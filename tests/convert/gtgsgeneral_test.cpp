@@ -67,6 +67,24 @@ TEST_CASE("fields go where the map says, trimmed, and the well information grows
     CHECK(BoringData.WellInfo[1][1] == "");
 }
 
+TEST_CASE("the well information grows to the highest row that a map names, in whatever order it names them")
+{
+    for (const auto& [first, second] : {std::pair<int, int>(7, 3), {3, 7}, {7, 7}}) {
+        OwnMap();
+        GtgsMapping.fixedFields = 0;
+        GtgsMapping.fieldSpec = 1;
+        GtgsMapping.fieldMap[1] = {WellConstInfo, int16_t(first)};
+        GtgsMapping.fieldMap[2] = {WellConstInfo, int16_t(second)};
+        WriteScratch("headers.txt", "one,two");
+        ConvertGTGSGeneral(Scratch("x.bor"));
+        Open("x.bor");
+        CHECK(BoringData.WellInfoCount == 7);
+        CHECK(BoringData.WellInfo[second][2] == "two");
+        std::filesystem::remove_all(ScratchFolder());
+        std::filesystem::create_directories(ScratchFolder());
+    }
+}
+
 TEST_CASE("fill codes are translated by the first row that fits, and others stay; blank lines are skipped")
 {
     UseMap("comma.GCV");
@@ -368,6 +386,33 @@ TEST_CASE("a map that ends early is error 62, and shows what was read of it")
     CHECK(Told() == std::vector<Text>{"Error 62 in OpenGTGSConversionFile.  Please contact Norvane"});
     CHECK(Dialog.Text2 == "/p");
     CHECK(SS1.Cell(1, 1) == "Boring Name");
+}
+
+TEST_CASE("a map saved unchanged behind another one is as in a fresh program, also one that breaks off or is not there")
+{
+    CopyData("general");
+    const std::string second = ReadScratch("fixed.GCV");
+    const auto saved = [](const std::string& bytes) {
+        if (bytes.empty())
+            std::filesystem::remove(Scratch("b.GCV"));
+        else
+            WriteScratch("b.GCV", bytes);
+        Choose(Scratch("b.GCV"));
+        frmGTGSGenEditor::mnuOpenGTGSConvFile();
+        CHECK(frmGTGSGenEditor::mnuSaveGTGSConvFile());
+        return ReadScratch("b.GCV");
+    };
+    for (size_t end = 0; end != Text::npos && end <= second.size();) {
+        const std::string bytes = second.substr(0, end);
+        CAPTURE(bytes);
+        frmGTGSGenEditor::Load();
+        const std::string fresh = saved(bytes);
+        frmGTGSGenEditor::Load();
+        Choose(Scratch("comma.GCV"));
+        frmGTGSGenEditor::mnuOpenGTGSConvFile();
+        CHECK(saved(bytes) == fresh);
+        end = end == second.size() ? Text::npos : second.find("\r\n", end) + 2;
+    }
 }
 
 TEST_CASE("the new file is named by its box, with the ending, in the folder of the tables; GTGS1.BOR when it is blank")
