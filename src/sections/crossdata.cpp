@@ -145,6 +145,11 @@ static void SetPage(bool wide)
 
 static void SetParameter(const Text& line)
 {
+void VCROSS::startsheet()
+{
+    SetPage(false);
+}
+
     static constexpr struct {
         std::string_view front;
         int16_t kind;

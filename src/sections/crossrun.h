@@ -46,8 +46,8 @@ struct CrossRunRecord {
     Text vUnit;
     Text mainTitle, title1, title2, leftCornerLabel, rightCornerLabel;
     int16_t drawLayers = 0, individualColumns = 0;
-    float pageWidth = 0, pageHeight = 0; // inches
-    Text pageMode = "L";                 // or "T"
+    float pageWidth = 11, pageHeight = 8.5; // inches
+    Text pageMode = "L";                    // or "T"
     int16_t useGIS = 0;
     Text gisPath;
     int16_t paramKind = 0, paramNumber = 0; // 1 general values, 2 their graph, 3 sample values, 4 their graph
@@ -64,6 +64,7 @@ void ResetCrossRun(); // as at the start of the program
 // crossrun.cpp
 void vcrossstart(); // draws every file of log.mas
 // crossdata.cpp
+void startsheet();   // a letter sheet, which a file that breaks off before its page is drawn on
 bool getcrossdata(); // the current file of the run into CrossRun; false: it is not there, and a box has told so
 void dataorigin();   // origin of the data area; the scales stay
 // crossdraw.cpp
