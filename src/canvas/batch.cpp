@@ -7,6 +7,7 @@
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
+#include "session/kept.h"
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
@@ -24,6 +25,8 @@ int16_t dialogBusy = 0;
 int16_t stopRequested = 0;
 Text lastDir;
 int16_t progressValue = 0, progressTotal = 0;
+static const RunRecord jobOfRun(jobCode), introOfRun(introType), filesOfRun(runFiles), countOfRun(runFileCount),
+    stopOfRun(stopRequested), valueOfRun(progressValue), totalOfRun(progressTotal);
 Slots<void (*)(), MaxJobs> JobTable;
 void (*IntroPages)() = nullptr;
 frmDrawPrint::Record frmDrawPrint::Dialog;

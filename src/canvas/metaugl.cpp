@@ -7,12 +7,14 @@
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
+#include "session/kept.h"
 #include "session/platform.h"
 
 #include <algorithm>
 #include <cmath>
 
 CanvasRecord PageCanvas;
+static const RunRecord canvasOfRun(PageCanvas);
 
 static int32_t Nearest(float units)
 {

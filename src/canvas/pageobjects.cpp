@@ -2,10 +2,12 @@
 #include "canvas/pageobjects.h"
 
 #include "session/failure.h"
+#include "session/kept.h"
 
 #include <algorithm>
 
 PageListRecord PageList;
+static const RunRecord listOfRun(PageList);
 
 void ClearPage(int32_t width, int32_t height)
 {

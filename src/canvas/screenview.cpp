@@ -5,12 +5,14 @@
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "session/files.h"
+#include "session/kept.h"
 #include "session/platform.h"
 
 #include <algorithm>
 #include <cmath>
 
 RunPagesRecord RunPages;
+static const RunRecord pagesOfRun(RunPages);
 
 // ---- Pages
 

@@ -68,6 +68,7 @@ private:
     const Hushed quiet;
     const Kept<Text> runFolder{RunFolder};
     const Kept<PageListRecord> list{PageList};
+    const RunKept records;
     const Kept<CanvasRecord> canvas{PageCanvas};
     const Kept<RunPagesRecord> pages{RunPages};
     const Kept<LogGeometryRecord> geometry{LogGeometry};
@@ -118,12 +119,6 @@ bool DrawLiveTool(ToolRecord& tool, const Text& folder, LivePage& page)
     LivePage fresh;
     QuietRun run(folder, TakePage, fresh);
     const Kept name(tool.FileName);
-    // A section reads the words and the client of the log's records, and the next log may find them so.
-    const Kept words(HeadingWords);
-    const Kept legend(LegendInUse);
-    const Kept boxFill(LegendBoxFill);
-    const Kept logo(LogoData);
-    const Kept boring(LogBoring);
     tool.FileName = FreshFile(folder, tool.ending);
     tool.Undisturbed([&] {
         if (tool.SaveFile())

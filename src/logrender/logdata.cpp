@@ -11,6 +11,7 @@
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
+#include "session/kept.h"
 #include "session/platform.h"
 
 #include <algorithm>
@@ -18,6 +19,7 @@
 LogPageRecord LogPage;
 LogBoringRecord LogBoring;
 LogGeometryRecord LogGeometry;
+static const RunRecord pageOfRun(LogPage), boringOfRun(LogBoring), geometryOfRun(LogGeometry);
 
 double DrawingLength()
 {

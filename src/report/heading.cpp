@@ -4,6 +4,7 @@
 #include "canvas/patterns.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
+#include "session/kept.h"
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
@@ -13,6 +14,8 @@ Slots<Text, MaxHeadings> HeadingWords;
 int16_t LegendInUse = 0;
 Slots<int16_t, 4> LegendBoxFill;
 LogoRecord LogoData;
+static const RunRecord wordsOfRun(HeadingWords), legendOfRun(LegendInUse), boxFillOfRun(LegendBoxFill),
+    logoOfRun(LogoData);
 Grid frmHeading::SSLog(39, 2), frmHeading::SSSections(10, 2), frmHeading::SSGraphics(13, 2);
 
 // Which slots each grid shows.

@@ -10,6 +10,7 @@
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
+#include "session/kept.h"
 #include "session/platform.h"
 #include "session/session.h"
 
@@ -19,6 +20,7 @@
 using namespace VCROSS;
 
 CrossRunRecord VCROSS::CrossRun;
+static const RunRecord sectionOfRun(CrossRun);
 
 void VCROSS::ResetCrossRun()
 {
@@ -143,13 +145,13 @@ static void SetPage(bool wide)
     CrossRun.pageHeight = wide ? 11 : 8.5;
 }
 
-static void SetParameter(const Text& line)
-{
 void VCROSS::startsheet()
 {
     SetPage(false);
 }
 
+static void SetParameter(const Text& line)
+{
     static constexpr struct {
         std::string_view front;
         int16_t kind;

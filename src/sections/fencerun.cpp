@@ -5,9 +5,11 @@
 #include "gis/gisfile.h"
 #include "sections/sheetrun.h"
 #include "session/failure.h"
+#include "session/kept.h"
 #include "session/platform.h"
 
 VCROSS::FenceRunRecord VCROSS::FenceRun;
+static const RunRecord fenceOfRun(VCROSS::FenceRun);
 
 void VCROSS::ResetFenceRun()
 {

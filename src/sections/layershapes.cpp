@@ -4,9 +4,11 @@
 #include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
+#include "session/kept.h"
 #include "session/platform.h"
 
 VCROSS::LayerFillRecord VCROSS::LayerFill;
+static const RunRecord layersOfRun(VCROSS::LayerFill);
 
 float VCROSS::contacttop(float ground, int boring, int layer)
 {

@@ -17,6 +17,7 @@
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
+#include "session/kept.h"
 #include "session/platform.h"
 #include "session/session.h"
 
@@ -24,6 +25,7 @@
 #include <cmath>
 
 VCROSS::SoilRunRecord VCROSS::SoilRun;
+static const RunRecord tableOfRun(VCROSS::SoilRun);
 
 using namespace VCROSS;
 
