@@ -16,6 +16,11 @@ static const RunRecord pagesOfRun(RunPages);
 
 // ---- Pages
 
+Text PrintedName(const Text& file)
+{
+    return RunPages.printedName.value_or(file);
+}
+
 void ShowOrPrint()
 {
     Platform.PageDrawn();
