@@ -39,13 +39,13 @@ static const SharedRecord shared[] = {
     {"introType", Kind::Run, introType},
     {"dialogBusy", Kind::Window, dialogBusy},
     {"stopRequested", Kind::Run, stopRequested},
-    {"lastDir", Kind::Window, lastDir},
+    {"lastDir", Kind::Run, lastDir},
     {"progressValue", Kind::Run, progressValue},
     {"progressTotal", Kind::Run, progressTotal},
     {"JobTable", Kind::Session, JobTable},
     {"IntroPages", Kind::Session, IntroPages},
-    {"frmDrawPrint::Dialog", Kind::Window, frmDrawPrint::Dialog},
-    {"frmDrawPrint::CloseWindow", Kind::Window, frmDrawPrint::CloseWindow},
+    {"frmDrawPrint::Dialog", Kind::Run, frmDrawPrint::Dialog},
+    {"frmDrawPrint::CloseWindow", Kind::Run, frmDrawPrint::CloseWindow},
 };
 
 namespace
@@ -166,40 +166,46 @@ try {
     ReportFailure(__func__);
 }
 
-// Appends the pages of one boring, all of them or the one that the dialog asks for. The boring itself is only read as
-// far as its end depth and its page break, lines 64 and 66.
-static void AddPages(const Text& file, PageTable& pages, int& count, Text& firstWord, Text& secondWord)
+BoringPages::BoringPages(const Text& file)
 {
     LineReader in(file);
     in.Skip(63);
     const float endDepth = static_cast<float>(TextNumber(in.Line()));
     in.Skip(1);
-    float pageBreak = static_cast<float>(TextNumber(in.Line()));
-    int16_t pageCount = 1;
+    pageBreak = static_cast<float>(TextNumber(in.Line()));
     if (pageBreak > 0)
-        pageCount = RoundInt16(endDepth / pageBreak);
+        Count = RoundInt16(endDepth / pageBreak);
     else
         pageBreak = endDepth;
+}
 
+// Kept: a page starts at the end of the one before rounded to a whole number, with the gap or overlap that results.
+bool BoringPages::Next()
+{
+    if (Number > 0)
+        Start = RoundInt16(End);
+    ++Number;
+    End = static_cast<float>(Start) + pageBreak;
+    return Number <= Count;
+}
+
+// Appends the pages of one boring, all of them or the one that the dialog asks for.
+static void AddPages(const Text& file, PageTable& pages, int& count, Text& firstWord, Text& secondWord)
+{
+    BoringPages page(file);
     int only = 0;
-    if (!frmDrawPrint::Dialog.AllPages && pageCount > 0)
+    if (!frmDrawPrint::Dialog.AllPages && page.Count > 0)
         only = static_cast<int>(
-            std::clamp(std::nearbyint(TextNumber(frmDrawPrint::Dialog.Text1)), 1.0, double(pageCount)));
-    // Kept: the next page starts at the end of this one rounded to a whole number, with the gap or overlap that
-    // results.
-    int16_t start = 0;
-    for (int page = 1; page <= pageCount; ++page) {
-        const float end = static_cast<float>(start) + pageBreak;
-        if (only == 0 || only == page) {
+            std::clamp(std::nearbyint(TextNumber(frmDrawPrint::Dialog.Text1)), 1.0, double(page.Count)));
+    while (page.Next())
+        if (only == 0 || only == page.Number) {
             getpage(firstWord, secondWord);
             PageEntry& entry = pages[++count];
-            entry = {file, "", start, end};
+            entry = {file, "", page.Start, page.End};
             if (!firstWord.empty())
-                entry.Caption = "(" + firstWord + " " + PlainNumber(page) + " " + secondWord + " " +
-                                PlainNumber(int(pageCount)) + ")";
+                entry.Caption = "(" + firstWord + " " + PlainNumber(page.Number) + " " + secondWord + " " +
+                                PlainNumber(int(page.Count)) + ")";
         }
-        start = RoundInt16(end);
-    }
 }
 
 static void WritePageForm()

@@ -52,13 +52,8 @@ void canvasstart(const Text& mode)
     PageCanvas.lineSpacing = -83.3;
     PageCanvas.fontName = "Arial";
     PageCanvas.textAngle = 0;
-    // Kept: pen style, pen colour and bold stay as the page before left them.
-    PageList.Default.HAlign = 0;
-    PageList.Default.VAlign = 1;
-    PageList.Default.FontHeight = -83.3;
-    PageList.Default.FontName = "Arial";
-    PageList.Default.TextAngle = 0;
-    PageList.Default.PenWidth = 4;
+    // All of it, or what a failed column leaves would dash the pages behind it.
+    PageList.Default = ObjectStyle();
     Text& fills = PageCanvas.fillsDir;
     fills = DeviceConfig.SystemFiles[FillFolder];
     if (!EndsInSeparator(fills))

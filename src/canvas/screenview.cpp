@@ -19,6 +19,11 @@ static const SharedRecord shared[] = {
 
 // ---- Pages
 
+Text PrintedName(const Text& file)
+{
+    return RunPages.printedName.value_or(file);
+}
+
 void ShowOrPrint()
 {
     Platform.PageDrawn();

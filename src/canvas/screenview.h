@@ -3,14 +3,19 @@
 
 #include "session/text.h"
 
+#include <optional>
+
 struct RunPagesRecord {
     int16_t pageCount = 0; // pages of the run
     int16_t pageIndex = 0; // the page now on screen; a log run counts from 0, every other run from 1
     int16_t zeroBased = 0; // Kept: set to 1 by the first log run and never cleared; only Previous reads it
     Text pageFile;         // path of the file that the current page comes from
     int16_t printing = 0;  // 1: a print run
+    // What pages print as the name of their file: of one that is drawn from a copy that nobody knows. Else its own.
+    std::optional<Text> printedName;
 };
 extern RunPagesRecord RunPages;
+Text PrintedName(const Text& file); // what the pages of that file print as its name
 
 // Ends a page, which the platform is told of: prints it and steps to the next one on a print run, else shows it,
 // blocking.

@@ -136,6 +136,11 @@ static void SetPage(bool wide)
     CrossRun.pageHeight = wide ? 11 : 8.5;
 }
 
+void VCROSS::startsheet()
+{
+    SetPage(false);
+}
+
 static void SetParameter(const Text& line)
 {
     static constexpr struct {

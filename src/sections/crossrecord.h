@@ -46,8 +46,8 @@ struct CrossRunRecord {
     Text vUnit;
     Text mainTitle, title1, title2, leftCornerLabel, rightCornerLabel;
     int16_t drawLayers = 0, individualColumns = 0;
-    float pageWidth = 0, pageHeight = 0; // inches
-    Text pageMode = "L";                 // or "T"
+    float pageWidth = 11, pageHeight = 8.5; // inches
+    Text pageMode = "L";                    // or "T"
     int16_t useGIS = 0;
     Text gisPath;
     int16_t paramKind = 0, paramNumber = 0; // 1 general values, 2 their graph, 3 sample values, 4 their graph

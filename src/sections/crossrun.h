@@ -8,6 +8,7 @@ namespace VCROSS
 // crossrun.cpp
 void vcrossstart(); // draws every file of log.mas
 // crossdata.cpp
+void startsheet();   // a letter sheet, which a file that breaks off before its page is drawn on
 bool getcrossdata(); // the current file of the run into CrossRun; false: it is not there, and a box has told so
 void dataorigin();   // origin of the data area; the scales stay
 // crossdraw.cpp

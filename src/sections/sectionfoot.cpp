@@ -191,7 +191,7 @@ try {
     setorigin(x, y);
     setfontsize(6);
     textleft();
-    printtextraw(Platform.ShortDate() + "    " + RunPages.pageFile);
+    printtextraw(Platform.ShortDate() + "    " + PrintedName(RunPages.pageFile));
 } catch (...) {
     ReportFailure(__func__);
 }

@@ -415,7 +415,7 @@ try {
     setorigin(footX, footY);
     setfontsize(6);
     textleft();
-    printtextraw(Platform.ShortDate() + "   " + RunPages.pageFile);
+    printtextraw(Platform.ShortDate() + "   " + PrintedName(RunPages.pageFile));
 } catch (...) {
     ReportFailure(__func__);
 }

@@ -10,8 +10,8 @@ static std::vector<const SharedRecord*>& List()
     return *list;
 }
 
-SharedRecord::SharedRecord(const char* name, Kind kind, void* record, Copier copy, Putter put, Dropper drop)
-    : name(name), kind(kind), record(record), copy(copy), put(put), drop(drop)
+SharedRecord::SharedRecord(const char* name, Kind kind, void* record, Copier copy, Putter put, Giver give, Dropper drop)
+    : name(name), kind(kind), record(record), copy(copy), put(put), give(give), drop(drop)
 {
     List().push_back(this);
 }
@@ -38,4 +38,10 @@ void KeptRecords::PutBack() const
 {
     for (const KeptRecord& kept : records)
         kept.record->Put(kept.copy);
+}
+
+void KeptRecords::GiveBack() const
+{
+    for (const KeptRecord& kept : records)
+        kept.record->GiveBack(kept.copy);
 }

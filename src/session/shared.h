@@ -11,6 +11,7 @@
 #include <initializer_list>
 #include <memory>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 enum class Kind {
@@ -26,7 +27,7 @@ class SharedRecord
 public:
     template <class T>
     SharedRecord(const char* name, Kind kind, T& record)
-        : SharedRecord(name, kind, &record, CopyAs<T>, PutAs<T>, DropAs<T>)
+        : SharedRecord(name, kind, &record, CopyAs<T>, PutAs<T>, GiveAs<T>, DropAs<T>)
     {
         static_assert(!std::is_const_v<T>, "what never changes needs no list");
     }
@@ -42,6 +43,11 @@ public:
     {
         put(record, kept);
     }
+    // Puts the copy into the record for the last time: it is moved, and still to be dropped.
+    void GiveBack(void* kept) const
+    {
+        give(record, kept);
+    }
     void Drop(void* kept) const
     {
         drop(kept);
@@ -53,8 +59,9 @@ public:
 private:
     using Copier = void* (*)(const void* record);
     using Putter = void (*)(void* record, const void* kept);
+    using Giver = void (*)(void* record, void* kept);
     using Dropper = void (*)(void* kept);
-    SharedRecord(const char* name, Kind kind, void* record, Copier copy, Putter put, Dropper drop);
+    SharedRecord(const char* name, Kind kind, void* record, Copier copy, Putter put, Giver give, Dropper drop);
 
     template <class T>
     static void* CopyAs(const void* record)
@@ -73,6 +80,14 @@ private:
         }
     }
     template <class T>
+    static void GiveAs(void* record, void* kept)
+    {
+        if constexpr (std::is_move_assignable_v<T>)
+            *static_cast<T*>(record) = std::move(*static_cast<T*>(kept));
+        else
+            PutAs<T>(record, kept);
+    }
+    template <class T>
     static void DropAs(void* kept)
     {
         delete static_cast<T*>(kept);
@@ -81,6 +96,7 @@ private:
     void* const record;
     const Copier copy;
     const Putter put;
+    const Giver give;
     const Dropper drop;
 };
 
@@ -95,7 +111,8 @@ public:
     ~KeptRecords();
     KeptRecords(const KeptRecords&) = delete;
     KeptRecords& operator=(const KeptRecords&) = delete;
-    void PutBack() const; // any number of times
+    void PutBack() const;  // any number of times
+    void GiveBack() const; // once, and the quicker way
 
 private:
     struct KeptRecord {
@@ -103,4 +120,23 @@ private:
         void* copy;
     };
     std::vector<KeptRecord> records;
+};
+
+// All records of a kind are put back at the end of the scope: for a run in the midst of another one, and for one that
+// nobody is to notice. What is written on the disk meanwhile is the caller's to put back.
+class KeepAll
+{
+public:
+    explicit KeepAll(Kind kind) : records({kind})
+    {
+    }
+    ~KeepAll()
+    {
+        records.GiveBack();
+    }
+    KeepAll(const KeepAll&) = delete;
+    KeepAll& operator=(const KeepAll&) = delete;
+
+private:
+    const KeptRecords records;
 };
