@@ -2,6 +2,7 @@
 // know nothing else of who called them.
 #include "canvas/batch.h"
 
+#include "canvas/metaugl.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
 #include "session/deviceconfig.h"
@@ -311,6 +312,7 @@ static void StartJob()
         RunPages.printing = jobCode % 2 == 0 ? 1 : 0;
     if (DrawsBorings() && !intro)
         RunPages.zeroBased = 1;
+    PageCanvas.polyCount = 0; // a polygon that failed half-way is of its own run
     ForgetChangedPictures();
     if (jobCode < guideJob && RunPages.printing == 1)
         PrintRun(run);

@@ -3,6 +3,7 @@
 
 #include "testing.h"
 
+#include "canvas/metaugl.h"
 #include "canvas/screenview.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
@@ -564,4 +565,20 @@ TEST_CASE("a conversion prints nothing and ends no print run")
     frmDrawPrint::Command1();
     CHECK(RunPages.printing == 0);
     CHECK(PlainRunsEnded == 0);
+}
+
+TEST_CASE("a polygon that an earlier run has left half-way is no part of the next one")
+{
+    static int corners;
+    for (const int job : {1, 9}) {
+        PageCanvas.polyCount = 4;
+        corners = -1;
+        JobTable[job] = [] { corners = PageCanvas.polyCount; };
+        WriteBoring("A.BOR", "50", "20");
+        jobCode = static_cast<int16_t>(job);
+        singleFile = 1;
+        singleFileName = "A.BOR";
+        DrawPrintOk();
+        CHECK(corners == 0);
+    }
 }

@@ -7,6 +7,7 @@
 #include "canvas/screenview.h"
 #include "canvas/viewcommands.h"
 #include "sections/crossrun.h"
+#include "sections/sheetrun.h"
 #include "session/platform.h"
 
 using namespace VCROSS;
@@ -344,4 +345,20 @@ TEST_CASE("a section exported in the midst of a preview changes no later section
     REQUIRE(Listings.size() == 3);
     for (size_t i = 0; i < 3; ++i)
         CHECK(Listings[i] == pages[i]);
+}
+
+TEST_CASE("a polygon that failed half-way is no part of the next page of a run")
+{
+    static std::vector<int> vertices;
+    vertices.clear();
+    WriteBorings();
+    WriteSection("A.CRO", TwoBorings("A"));
+    WriteRunList({"A.CRO", "A.CRO"});
+    RunSheets(2, getcrossdata, [] {
+        vertices.push_back(PageCanvas.polyCount / 2);
+        canvasstart("L");
+        setscalex(1);
+        polyright(1);
+    });
+    CHECK(vertices == std::vector<int>{0, 0});
 }

@@ -152,6 +152,7 @@ TEST_CASE("the live page of a tool shows what stands in its boxes, and leaves se
         LivePage page;
         REQUIRE(DrawLiveTool(one.tool, Scratch("live"), page));
         CHECK(Shows(page, "A title being typed"));
+        CHECK_FALSE(Shows(page, Scratch("live"))); // the name of the document, which has none yet
         CHECK(page.Pages == 1);
         CHECK(page.List.ExtentWidth > page.List.ExtentHeight);
         CHECK(Messages.empty());
@@ -165,6 +166,9 @@ TEST_CASE("the live page of a tool shows what stands in its boxes, and leaves se
         CHECK(CrossData.boringCells[1][7] == "joined at a save");
         CHECK(RunFolder == ScratchFolder());
         CHECK_FALSE(FileExists(Scratch("log.mas")));
+        one.tool.FileName = Scratch("SITE" + Text(one.tool.ending));
+        REQUIRE(DrawLiveTool(one.tool, Scratch("live"), page));
+        CHECK(Shows(page, "   " + one.tool.FileName));
         FileChanged = 0;
     }
 }
