@@ -104,7 +104,7 @@ static void TakeTable(const Grid& grid, int rows, Slots<Slots<Text, Columns>, Ro
 {
     for (int row = 1; row <= rows; ++row)
         for (int column = 1; column <= grid.columns; ++column)
-            cells[row][column] = row <= grid.rows ? grid.Cell(row, column) : Text();
+            cells[row][column] = grid.Cell(row, column);
 }
 
 // One box for all rows. Kept: it is the number behind the first comma, so without a comma every positive distance is

@@ -97,6 +97,20 @@ TEST_CASE("fill codes are translated by the first row that fits, and others stay
     CHECK(BoringData.Lith[2][1] == "9.0");
 }
 
+TEST_CASE("a row of the fills without a code fits no contact, not even one that has none either")
+{
+    OwnMap();
+    GtgsMapping.fillMap[1] = {"  ", "XX"};
+    GtgsMapping.fillMap[2] = {"7", "YY"};
+    WriteScratch("lith.txt", "5\r\n9 7\r\n");
+    ConvertGTGSGeneral(Scratch("x.bor"));
+    Open("x.bor");
+    REQUIRE(BoringData.LithCount == 2);
+    CHECK(BoringData.Lith[1][1] == "5");
+    CHECK(BoringData.Lith[1][2] == "");
+    CHECK(BoringData.Lith[2][2] == "YY");
+}
+
 TEST_CASE("well lines begin with cap, case, seal or fseal, and the value takes the rest")
 {
     UseMap("comma.GCV");

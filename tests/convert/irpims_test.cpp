@@ -62,6 +62,17 @@ TEST_CASE("a date without a comma is both dates")
     CHECK(Fields("timbore.txt", 1)[12] == "6/1/99");
 }
 
+TEST_CASE("the depth of a boring is that of its last contact, without the blanks before it")
+{
+    CopyData("irpims");
+    lastDir = ScratchFolder();
+    BoringText boring;
+    boring.Lith = {{"1", "SM"}, {"  12.5", "CL"}};
+    WriteBoring("B-9.BOR", boring);
+    Run(Export2IRPIMS, {"B-9.BOR"});
+    CHECK(Fields("timbore.txt", 1)[9] == "12.5");
+}
+
 TEST_CASE("a boring without contacts has an empty depth and no lines of lithology")
 {
     Export({"B-3.BOR"});

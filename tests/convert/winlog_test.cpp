@@ -147,6 +147,13 @@ TEST_CASE("a fourth line that is no elevation is itself tested for the page dept
     CHECK(BoringData.Scale[1] == "");
 }
 
+TEST_CASE("a fourth line is an elevation by its whole key alone")
+{
+    ConvertChanged("ordinary.LOG", {{"Elev=101.5", "Elevation=101.5"}});
+    CHECK(BoringData.Scale[5] == "");
+    CHECK(BoringData.Scale[1] == "50");
+}
+
 TEST_CASE("headers are name, client and information, and the next section goes on behind them")
 {
     ConvertChanged("ordinary.LOG", {});

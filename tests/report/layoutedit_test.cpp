@@ -336,6 +336,18 @@ TEST_CASE("a layout saved unchanged behind another one is as in a fresh program,
     }
 }
 
+TEST_CASE("the orientation that a layout has already changes nothing when it is chosen")
+{
+    frmLayout::mnuNew();
+    frmLayout::DropTile(1, 5400, 1080);
+    frmLayout::DropTile(2, 5400, 1080); // over the first one
+    FileChanged = 0;
+    const auto tiles = Tile.slot;
+    frmLayout::ChooseOrientation(0);
+    CHECK(FileChanged == 0);
+    CHECK(Tile.slot == tiles);
+}
+
 TEST_CASE("the layouts are listed anew when the layout editor is left")
 {
     frmLayout::mnuNew();

@@ -372,6 +372,30 @@ TEST_CASE("units and scale numbers are written trimmed, titles as they stand, le
     CHECK(Line(saved, 25) == " SM ; Silty sand");
 }
 
+TEST_CASE("each scale and unit of a section is written trimmed")
+{
+    TypeBoring("0,500,100", "100");
+    SS2.Cell(1, 1) = " 0 , 500 , 100 ";
+    SS2.Cell(2, 1) = " Feet ";
+    SS2.Cell(3, 1) = " 60 , 20 , -10 ";
+    SS2.Cell(4, 1) = "  MSL  ";
+    const std::string saved = Saved();
+    const char* const lines[] = {"0", "500", "100", "Feet", "60", "20", "-10", "MSL", ""};
+    for (int i = 0; i < 9; ++i)
+        CHECK(Line(saved, 1 + 7 + 2 + i) == lines[i]);
+}
+
+TEST_CASE("after Open no step of the section before can be taken back in any of the four grids")
+{
+    WriteScratch("A.CRO", WholeFile());
+    Open("A.CRO");
+    for (Grid* grid : {&SS1, &SS2, &SS3, &SS4})
+        grid->done.push_back(GridStep{{{1, 1, "x", "y"}}, grid->Shape(), grid->Shape(), {}, {}});
+    Open("A.CRO");
+    for (Grid* grid : {&SS1, &SS2, &SS3, &SS4})
+        CHECK(grid->done.empty());
+}
+
 TEST_CASE("a file that cannot be written is told, and the save says so")
 {
     TypeBoring("0,500,100", "100");

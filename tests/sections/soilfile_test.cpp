@@ -113,6 +113,38 @@ TEST_CASE("every soil table among the samples is saved as it was opened")
     CHECK(tables > 0);
 }
 
+TEST_CASE("notes that were cut for one width of their box are cut anew for each other one, back again too")
+{
+    Open(cells + Lines({"", "", "", "", "", "", "", "", "", ""}));
+    const int designed = MemoSoil.widthTwips;
+    MemoSoil.text = "several words that go into one line of the box as it is designed\r\n";
+    MemoSoil.widthTwips = 2000;
+    const std::string narrow = Saved();
+    CHECK(SoilData.notes[2] != "");
+    CHECK(Saved() == narrow);
+    MemoSoil.widthTwips = designed;
+    CHECK(Saved() != narrow);
+    CHECK(SoilData.notes[2] == "");
+}
+
+TEST_CASE("a note without a mark that is wider than its box is cut by the next save, as what is typed is")
+{
+    const Text word(100, 'w');
+    Open(cells + Lines({word, "", "", "", "", "", "", "", "", ""}));
+    Saved();
+    CHECK(SoilData.notes[1].size() < 100);
+    CHECK(SoilData.notes[1] + SoilData.notes[2] == word);
+}
+
+TEST_CASE("notes are written without the blanks at which they were cut")
+{
+    Open(cells + Lines({"", "", "", "", "", "", "", "", "", ""}));
+    MemoSoil.widthTwips = 2000;
+    MemoSoil.text = "several words that do not fit in one line of so narrow a box";
+    CHECK(Saved().find(" \r\n") == Text::npos);
+    CHECK(SoilData.notes[1].ends_with(' '));
+}
+
 TEST_CASE("a word of the notes that is wider than their box is cut without a blank, and joined without one")
 {
     const std::string none = Lines({"", "", "", "", "", "", "", "", "", ""});
