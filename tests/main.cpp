@@ -81,9 +81,7 @@ static const KeptRecords& StartValues()
     return values;
 }
 
-// Nothing of the test before is left: not in the records, which have the values of the program's start again, not in
-// the windows, and not on the disk.
-static void StartAfresh()
+void StartAfresh()
 {
     if (CloseWindows)
         CloseWindows();
