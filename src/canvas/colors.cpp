@@ -72,3 +72,8 @@ int32_t ParseColor(const Text& color)
     return ColorOf(part(text.substr(0, first)), part(text.substr(first + 1, second - first - 1)),
                    part(text.substr(second + 1)));
 }
+
+bool IsColorName(const Text& text)
+{
+    return getcolor(text, true) != white || SameText(Trim(text), "WHITE");
+}

@@ -9,3 +9,6 @@ Text getcolor(const Text& text, bool quiet);
 
 // Returns the colour of "r g b", cut at its blanks; white with fewer than two blanks.
 int32_t ParseColor(const Text& color);
+
+// A name that getcolor knows; white for what is none would look like one.
+bool IsColorName(const Text& text);

@@ -4,6 +4,7 @@
 #include "boring/opensave.h"
 #include "editors/hush.h"
 #include "gis/gisfile.h"
+#include "sections/crosscheck.h"
 #include "sections/crossrun.h"
 #include "session/shared.h"
 
@@ -76,6 +77,7 @@ ToolRecord CrossForm = {
     .Label = frmCross::LabelBoxes,
     .Undisturbed = Undisturbed,
     .State = State,
+    .Check = CheckSection,
 };
 
 static const SharedRecord shared[] = {

@@ -4,6 +4,7 @@
 #include "boring/opensave.h"
 #include "editors/hush.h"
 #include "gis/gisfile.h"
+#include "sections/fencecheck.h"
 #include "sections/fencerun.h"
 #include "session/shared.h"
 
@@ -53,6 +54,7 @@ ToolRecord FenceForm = {
     .Label = frmFence::LabelBoxes,
     .Undisturbed = Undisturbed,
     .State = State,
+    .Check = CheckFence,
 };
 
 static const SharedRecord shared[] = {

@@ -3,6 +3,7 @@
 
 #include "editors/hush.h"
 #include "session/shared.h"
+#include "sections/soilcheck.h"
 
 static void Undisturbed(const std::function<void()>& work)
 {
@@ -38,6 +39,7 @@ ToolRecord SoilForm = {
         },
     .Undisturbed = Undisturbed,
     .State = State,
+    .Check = CheckSoilTable,
 };
 
 static const SharedRecord shared[] = {
