@@ -2,8 +2,8 @@
 #include "sections/soiltool.h"
 
 #include "editors/hush.h"
-#include "session/shared.h"
 #include "sections/soilcheck.h"
+#include "session/shared.h"
 
 static void Undisturbed(const std::function<void()>& work)
 {
