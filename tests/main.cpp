@@ -17,6 +17,7 @@
 #include "convert/gtgsgeneral.h"
 #include "convert/winlog.h"
 #include "editors/borinput.h"
+#include "editors/nextfile.h"
 #include "gis/gisfile.h"
 #include "gis/gistool.h"
 #include "logrender/logdata.h"
@@ -125,7 +126,7 @@ static void EmptyBoxes()
     MemoRemarks = {"", 2223, 1750};
     MemoBottNotes = {"", 8010, 1750};
     frmSoil::MemoSoil = {"", 6800, 1550};
-    txtClient = Text1 = Text2 = cmbLayFile = lblWidthtot = Title = "";
+    txtClient = Text1 = Text2 = cmbLayFile = lblWidthtot = Title = RecentFile = "";
     List = {};
     LayFiles.clear();
     Commands = {};
@@ -153,6 +154,7 @@ static void EmptyTools()
         }
     }
     NextTool = Tool::Log;
+    NextFile = "";
 }
 
 namespace

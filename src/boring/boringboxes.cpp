@@ -21,6 +21,7 @@ int Option = 0;
 Text lblWidthtot;
 bool NarrowNotes = false;
 Text Title;
+Text RecentFile;
 Slots<std::vector<Text>, 4> List;
 std::vector<Text> LayFiles;
 
