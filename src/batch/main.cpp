@@ -225,6 +225,7 @@ static void FillPlatform()
     Platform.ShowPrinting = [] {};
     Platform.ShowProgress = [](bool) {};
     Platform.StepProgress = [](const Text&, float) {};
+    Platform.ShowRunMessages = [] {};
     Platform.ShowChooser = [] { DialogResult = ""; };
     Platform.ShowHelp = [] {};
     Platform.ClipboardText = [] { return Text(); };
