@@ -22,6 +22,7 @@ int Option = 0;
 Text lblWidthtot;
 bool NarrowNotes = false;
 Text Title;
+Text RecentFile;
 Slots<std::vector<Text>, 4> List;
 std::vector<Text> LayFiles;
 
@@ -37,6 +38,7 @@ Grid* BoxGrid(int activeBox)
 Memo frmSoil::MemoSoil{"", 6800, 1550};
 
 static const SharedRecord shared[] = {
+    {"frmBorinput::RecentFile", Kind::Document, frmBorinput::RecentFile},
     {"frmBorinput::SSInfo", Kind::Document, frmBorinput::SSInfo},
     {"frmBorinput::SSScale", Kind::Document, frmBorinput::SSScale},
     {"frmBorinput::SSRepParts", Kind::Document, frmBorinput::SSRepParts},

@@ -5,7 +5,8 @@
 
 #include <array>
 
-void OpenBoringFile2(); // BoringFileName into BoringData, which has just been cleared
+// BoringFileName into BoringData, which has just been cleared. False: it was refused or has failed, which was told.
+bool OpenBoringFile2();
 void SaveBoringFile();  // the boxes into BoringData, and that into BoringFileName, atomically
 void TakeBoringBoxes(); // the boxes into BoringData as for a save, unchecked; failures by number
 void boringcheck();     // warns about the scale; changes nothing and blocks nothing

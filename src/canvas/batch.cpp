@@ -4,6 +4,7 @@
 
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
+#include "canvas/runmessages.h"
 #include "canvas/screenview.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
@@ -15,6 +16,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 int16_t jobCode = 0;
 Slots<Text, MaxRunFiles> runFiles;
@@ -60,8 +62,14 @@ struct PageEntry {
     Text File, Caption;
     int16_t Start = 0;
     float End = 0;
+    int Page = 0; // of the boring
 };
-using PageTable = Slots<PageEntry, MaxPageRecords>;
+
+// As much of a run as the run files hold. Pages: where the page form is written; else the list of the files is.
+struct RunPart {
+    std::vector<Text> Files;
+    std::vector<PageEntry> Pages;
+};
 } // namespace
 
 static const Slots<Job, MaxJobs> jobs = {{{
@@ -133,15 +141,15 @@ static void WriteList()
     out.Close();
 }
 
-static void WritePages(const PageTable& pages, int count)
+static void WritePages(const std::vector<PageEntry>& pages)
 {
     LineWriter out(MasFile(), Durability::Scratch);
-    out.Line(PlainNumber(count));
-    for (int i = 1; i <= count; ++i) {
-        out.Line(pages[i].File);
-        out.Line(pages[i].Caption);
-        out.Line(PlainNumber(int(pages[i].Start)));
-        out.Line(PlainNumber(double(pages[i].End)));
+    out.Line(PlainNumber(int(pages.size())));
+    for (const PageEntry& page : pages) {
+        out.Line(page.File);
+        out.Line(page.Caption);
+        out.Line(PlainNumber(int(page.Start)));
+        out.Line(PlainNumber(double(page.End)));
     }
     out.Close();
     WriteBreak("0");
@@ -190,10 +198,12 @@ bool BoringPages::Next()
     return Number <= Count;
 }
 
-// Appends the pages of one boring, all of them or the one that the dialog asks for.
-static void AddPages(const Text& file, PageTable& pages, int& count, Text& firstWord, Text& secondWord)
+// The pages of one boring, all of them or the one that the dialog asks for; failure 9 for more than the run files
+// hold.
+static std::vector<PageEntry> PagesOfBoring(const Text& file, Text& firstWord, Text& secondWord)
 {
     BoringPages page(file);
+    std::vector<PageEntry> pages;
     int only = 0;
     if (!frmDrawPrint::Dialog.AllPages && page.Count > 0)
         only = static_cast<int>(
@@ -201,22 +211,42 @@ static void AddPages(const Text& file, PageTable& pages, int& count, Text& first
     while (page.Next())
         if (only == 0 || only == page.Number) {
             getpage(firstWord, secondWord);
-            PageEntry& entry = pages[++count];
-            entry = {file, "", page.Start, page.End};
+            if (pages.size() == MaxPageRecords)
+                throw RunTimeError{SubscriptOutOfRange};
+            PageEntry& entry = pages.emplace_back(PageEntry{file, "", page.Start, page.End, page.Number});
             if (!firstWord.empty())
                 entry.Caption = "(" + firstWord + " " + PlainNumber(page.Number) + " " + secondWord + " " +
                                 PlainNumber(int(page.Count)) + ")";
         }
+    return pages;
 }
 
-static void WritePageForm()
+// The run in as few parts as the run files allow, a boring whole in one of them.
+static std::vector<RunPart> PartsOf(const std::vector<Text>& files)
 {
-    PageTable pages;
-    int count = 0;
+    const bool pageForm = DrawsBorings() && frmDrawPrint::Dialog.ReportOption == 0;
+    std::vector<RunPart> parts(1);
     Text firstWord, secondWord;
-    for (int i = 1; i <= runFileCount; ++i)
-        AddPages(runFiles[i], pages, count, firstWord, secondWord);
-    WritePages(pages, count);
+    for (const Text& file : files) {
+        RunMessages.Place = [file] { return RunMessage{file, 0, ""}; };
+        const std::vector<PageEntry> pages =
+            pageForm ? PagesOfBoring(file, firstWord, secondWord) : std::vector<PageEntry>();
+        if (parts.back().Files.size() == MaxRunFiles || parts.back().Pages.size() + pages.size() > MaxPageRecords)
+            parts.emplace_back();
+        parts.back().Files.push_back(file);
+        parts.back().Pages.insert(parts.back().Pages.end(), pages.begin(), pages.end());
+    }
+    return parts;
+}
+
+static void WriteRunFiles(const RunPart& part)
+{
+    runFileCount = int16_t(part.Files.size());
+    std::copy(part.Files.begin(), part.Files.end(), runFiles.slot.begin() + 1);
+    if (DrawsBorings() && frmDrawPrint::Dialog.ReportOption == 0)
+        WritePages(part.Pages);
+    else
+        WriteList();
 }
 
 // ---- The dialog
@@ -285,24 +315,56 @@ bool frmDrawPrint::Command2()
     return true;
 }
 
-static void TakeSelection()
+static std::vector<Text> Selection()
 {
     using frmDrawPrint::Dialog;
-    runFileCount = 0;
-    if (singleFile == 1) {
-        runFiles[1] = singleFileName;
-        runFileCount = 1;
-        return;
-    }
+    if (singleFile == 1)
+        return {singleFileName};
+    std::vector<Text> files;
     for (int i = 1; i <= Dialog.FileCount; ++i)
-        if (Dialog.Selected[i]) {
-            runFiles[runFileCount + 1] = JoinPath(Dialog.Dir1, Dialog.File1[i]);
-            ++runFileCount;
-        }
+        if (Dialog.Selected[i])
+            files.push_back(JoinPath(Dialog.Dir1, Dialog.File1[i]));
+    return files;
+}
+
+// Conversions and exports take their files at once. False: there are too many, which is told.
+static bool FitsRun(size_t files)
+{
+    if (jobCode <= guideJob || files <= MaxRunFiles)
+        return true;
+    MsgBox(PlainNumber(int(files)) + " chosen, " + PlainNumber(MaxRunFiles) + " possible", OkOnly, Exclamation);
+    return false;
+}
+
+// The file and page that the run is at. Conversions have no pages; all runs but that of logs count from 1.
+static RunMessage PlaceIn(const RunPart& part)
+{
+    const bool pages = jobCode < guideJob, log = !part.Pages.empty();
+    const int at = !pages ? progressValue : log ? RunPages.pageIndex : RunPages.pageIndex - 1;
+    if (at < 0 || at >= int(log ? part.Pages.size() : part.Files.size()))
+        return {};
+    return log ? RunMessage{part.Pages[size_t(at)].File, part.Pages[size_t(at)].Page, ""}
+               : RunMessage{part.Files[size_t(at)], pages ? 1 : 0, ""};
+}
+
+// Starts the job for one part after another, the run files of the first one having been written. A run that the user
+// has ended, or that has broken off, ends with its part.
+static void RunParts(const std::vector<RunPart>& parts, void (*run)())
+{
+    for (const RunPart& part : parts) {
+        if (&part != &parts.front())
+            WriteRunFiles(part);
+        RunMessages.Place = [&part] { return PlaceIn(part); };
+        RunPages.exited = false;
+        run();
+        if (RunPages.exited || RunPages.pageIndex < RunPages.pageCount)
+            break;
+    }
+    RunMessages.Place = nullptr;
 }
 
 // What the job table gives for the job. The four drawing jobs come in pairs, to draw and to print.
-static void StartJob()
+static void StartJob(const std::vector<RunPart>& parts)
 {
     const bool intro = DrawsBorings() && introType != 0;
     void (*const run)() = intro ? IntroPages : JobTable[jobCode];
@@ -315,9 +377,9 @@ static void StartJob()
     PageCanvas.polyCount = 0; // a polygon that failed half-way is of its own run
     ForgetChangedPictures();
     if (jobCode < guideJob && RunPages.printing == 1)
-        PrintRun(run);
+        PrintRun([&] { RunParts(parts, run); });
     else
-        run();
+        RunParts(parts, run);
 }
 
 void DrawPrintOk()
@@ -326,18 +388,17 @@ try {
     if (!ProjectPath.empty() && jobCode < guideJob)
         lastDir = ProjectPath;
     SaveDevice();
-    TakeSelection();
-    if (runFileCount == 0)
+    const std::vector<Text> files = Selection();
+    if (files.empty() || !FitsRun(files.size()))
         return;
-    if (DrawsBorings() && Dialog.ReportOption == 0)
-        WritePageForm();
-    else
-        WriteList();
+    const MessagesOfRun messages(int(files.size()));
+    const std::vector<RunPart> parts = PartsOf(files);
+    WriteRunFiles(parts.front());
     introType = static_cast<int16_t>(Dialog.ReportOption);
     Dialog.Unloaded = true;
     if (frmDrawPrint::CloseWindow)
         frmDrawPrint::CloseWindow();
-    StartJob();
+    StartJob(parts);
 } catch (...) {
     ReportFailure(__func__);
 }

@@ -91,7 +91,7 @@ void printcanvas()
     Platform.PrintPage();
 }
 
-void PrintRun(void (*print)())
+void PrintRun(const std::function<void()>& print)
 {
     try {
         print();
@@ -149,6 +149,7 @@ bool GoToPage()
 bool ExitRun()
 {
     RunPages.pageIndex = RoundInt16(RunPages.pageCount + 1);
+    RunPages.exited = true;
     return true;
 }
 

@@ -10,6 +10,7 @@
 #include "logrender/logdata.h"
 #include "logrender/textcolumns.h"
 #include "report/layout.h"
+#include "report/projectfiles.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -197,9 +198,8 @@ static void CheckLines(const Memo& memo, const char* box, const Text& words, int
 // The layout where a run looks for it, into LayoutData. False: it is not there.
 static bool ReadLayout()
 {
-    Text name = JoinPath(DeviceConfig.SystemFiles[LayoutFolder], cmbLayFile);
-    if (!UpperCase(name).ends_with(".LAY"))
-        name += ".lay";
+    const bool ending = UpperCase(cmbLayFile).ends_with(".LAY");
+    const Text name = LayoutPath(ending ? cmbLayFile : cmbLayFile + ".lay", BoringFileName);
     if (!FileExists(name))
         return false;
     ReadLayoutFile(name);

@@ -6,6 +6,7 @@
 #include "editors/checklist.h"
 #include "editors/fillform.h"
 #include "editors/hush.h"
+#include "editors/nextfile.h"
 #include "editors/toolcommands.h"
 #include "platform/qt/application.h"
 #include "platform/qt/checkdock.h"
@@ -36,7 +37,6 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QRadioButton>
@@ -57,21 +57,20 @@
 
 namespace
 {
-class BorinputWindow : public QMainWindow
+class BorinputWindow : public QMainWindow, public TakesFiles
 {
 public:
     BorinputWindow();
     void Refresh();
     void Run(const std::function<void()>& command);
-    void OpenSoon(const Text& name); // by a turn of the event loop, as a command of the window
-    bool ending = false;             // the user has been asked; nothing holds the window any more
+    bool Takes(const Text& name) const override;
+    void OpenSoon(const Text& name) override;
+    bool ending = false; // the user has been asked; nothing holds the window any more
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* box, QEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
 
 private:
     QAction* Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
@@ -159,10 +158,11 @@ BorinputWindow::BorinputWindow()
 
     AddStatusWords(statusBar(), project, state);
     auto* copies = new QTimer(this);
-    connect(copies, &QTimer::timeout, this, [this] {
-        // With what is being typed in a cell; there is one such cell at most.
-        for (GridView* grid : grids)
-            if (grid->isAncestorOf(QApplication::focusWidget()))
+    connect(copies, &QTimer::timeout, this, [] {
+        // With what is being typed in a cell of the tool in front, whose window is no dialog; there is one such cell at
+        // most.
+        for (QWidget* at = QApplication::focusWidget(); at; at = at->parentWidget())
+            if (auto* grid = dynamic_cast<GridView*>(at); grid && qobject_cast<QMainWindow*>(grid->window()))
                 return grid->AsTyped(KeepCopy);
         KeepCopy();
     });
@@ -268,8 +268,11 @@ void BorinputWindow::Run(const std::function<void()>& command)
         ~Afterwards()
         {
             ShowProgressWindow(false);
-            if (!window.ending)
-                window.Refresh();
+            if (window.ending)
+                return;
+            window.Refresh();
+            if (!NextFile.empty()) // for which another window was left
+                window.OpenSoon(TakeNextFile());
         }
     } afterwards{*this};
     command();
@@ -286,24 +289,14 @@ void BorinputWindow::UndoOrRedo(bool undo)
         undo ? frmBorinput::mnuUndo() : frmBorinput::mnuRedo();
 }
 
-// Files on the window: the first one is opened.
-void BorinputWindow::dragEnterEvent(QDragEnterEvent* event)
+bool BorinputWindow::Takes(const Text& name) const
 {
-    const QList<QUrl> files = event->mimeData()->urls();
-    if (!files.isEmpty() && files[0].toLocalFile().endsWith(".bor", Qt::CaseInsensitive))
-        event->acceptProposedAction();
-}
-
-void BorinputWindow::dropEvent(QDropEvent* event)
-{
-    event->acceptProposedAction();
-    // The program that the file comes from waits for the end of the drop, and not for the user's answers.
-    OpenSoon(FromUi(event->mimeData()->urls().value(0).toLocalFile()));
+    return OpensFile(name);
 }
 
 void BorinputWindow::OpenSoon(const Text& name)
 {
-    QTimer::singleShot(0, this, [this, name] { Run([&name] { frmBorinput::OpenNamed(name); }); });
+    QTimer::singleShot(0, this, [this, name] { Run([&name] { frmBorinput::OpenFromOutside(name); }); });
 }
 
 // ---- Boxes
@@ -807,7 +800,7 @@ void BorinputWindow::OrderTabs()
 // The title's mark of unsaved changes is the platform's; the rest stands still while the user types.
 void BorinputWindow::ShowState()
 {
-    setWindowModified(FileChanged == 1);
+    setWindowModified(FileChanged == 1 || SaveOwed());
     live->Soon();
     checks->Soon();
     const int pages = PagesOfLog();
@@ -825,7 +818,7 @@ void BorinputWindow::Refresh()
             grid->Home();
         }
     }
-    recent->Show(BoringFileName);
+    recent->Show(frmBorinput::RecentFile);
     const auto dress = [this](const char* name, const Text& family) {
         auto* box = findChild<QWidget*>(name);
         if (family.empty() || box->font().family() == ToUi(family))

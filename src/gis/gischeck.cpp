@@ -7,6 +7,7 @@
 #include "session/files.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <optional>
@@ -14,6 +15,10 @@
 using namespace frmGIS;
 
 static std::vector<CheckEntry>* list;
+
+static const SharedRecord shared[] = {
+    {"list", Kind::Run, list},
+};
 
 static void Flag(const char* kind, const Grid& grid, int row, int column, const Text& words)
 {

@@ -2,6 +2,7 @@
 // and the saved boring.
 #include "canvas/batch.h"
 #include "canvas/metaugl.h"
+#include "canvas/runmessages.h"
 #include "canvas/screenview.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
@@ -155,6 +156,8 @@ try {
             Platform.Breathe();
             if (index == RunPages.pageIndex && (stopRequested != 0 || Platform.Unattended))
                 break;
+            if (index == RunPages.pageIndex && RunMessages.Collecting) // the list has it, and the run goes on
+                ++RunPages.pageIndex;
             continue;
         }
         DrawPage();

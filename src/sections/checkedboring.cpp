@@ -6,7 +6,9 @@
 #include "sections/sectionboring.h"
 #include "session/failure.h"
 #include "session/files.h"
+#include "session/machine.h"
 #include "session/savename.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <map>
@@ -98,20 +100,33 @@ static BoringLookedAt Look(const Text& path)
     return boring;
 }
 
-// As it was when it was read, by its path on this machine.
+namespace
+{
+// As it was when it was read.
 template <class What>
 struct AsRead {
     FileState State;
     What Is;
 };
-
 template <class What>
-static What Remembered(const Text& path, What (*look)(const Text& path))
+using FilesRead = std::map<std::string, AsRead<What>>; // by their paths on this machine
+} // namespace
+
+static FilesRead<BoringLookedAt> boringsRead;
+static FilesRead<TableLookedAt> tablesRead;
+
+static const SharedRecord shared[] = {
+    {"boringsRead", Kind::Machine, boringsRead},
+    {"tablesRead", Kind::Machine, tablesRead},
+};
+
+// What the file is, looked at again only when it has changed.
+template <class What>
+static What Remembered(FilesRead<What>& known, const Text& path, What (*look)(const Text& path))
 {
-    static std::map<std::string, AsRead<What>> known;
     constexpr size_t most = 300;
     const std::string native = NativePath(path);
-    const FileState state = StateOf(native);
+    const FileState state = Machine::StateOf(native);
     const auto found = known.find(native);
     if (found != known.end() && found->second.State == state && state != FileState())
         return found->second.Is;
@@ -124,7 +139,7 @@ static What Remembered(const Text& path, What (*look)(const Text& path))
 
 BoringLookedAt VCROSS::LookAtBoring(const Text& path)
 {
-    return Remembered<BoringLookedAt>(path, Look);
+    return Remembered(boringsRead, path, Look);
 }
 
 // ---- Layer tables
@@ -150,7 +165,7 @@ static TableLookedAt LookTable(const Text& path)
 
 TableLookedAt VCROSS::LookAtTable(const Text& path)
 {
-    return Remembered<TableLookedAt>(WithEnding(path, ".gis"), LookTable);
+    return Remembered(tablesRead, WithEnding(path, ".gis"), LookTable);
 }
 
 int VCROSS::RowInTable(const GisRecord& table, const Text& boringFile)

@@ -42,7 +42,8 @@ struct PlatformRecord {
     void (*ShowPrinting)();  // the notice "Printing...", blocking for a second and a half
     void (*ShowProgress)(bool shown);
     void (*StepProgress)(const Text& words, float percent);
-    void (*ShowChooser)(); // by DialogMode; answers in DialogResult
+    void (*ShowRunMessages)(); // what a run of several files has told, blocking
+    void (*ShowChooser)();     // by DialogMode; answers in DialogResult
     void (*ShowHelp)();
     void (*ShowProjEdit)();                   // the editor of the project list, blocking
     void (*ShowGraphicsSetup)();              // the set-up window, blocking

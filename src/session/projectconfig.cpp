@@ -3,8 +3,10 @@
 
 #include "session/failure.h"
 #include "session/files.h"
+#include "session/machine.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
@@ -79,20 +81,30 @@ static const LinePlace* FindKey(const std::string& bytes, const std::vector<Line
 
 // ---- Reading
 
+namespace
+{
+// A file as it was when it was read.
+struct FileRead {
+    Text File;
+    FileState State;
+    std::string Bytes;
+};
+} // namespace
+
+static FileRead lastRead;
+
+static const SharedRecord shared[] = {
+    {"lastRead", Kind::Machine, lastRead},
+};
+
 // The bytes of the file that was read last, as long as it is the same: settings are asked for at every page and at
 // every pause of the typing.
 static const std::string& BytesOf(const Text& file)
 {
-    static Text lastFile;
-    static FileState lastState;
-    static std::string bytes;
-    const FileState state = StateOf(NativePath(file));
-    if (file != lastFile || state != lastState) {
-        bytes = ReadWholeFile(file);
-        lastFile = file;
-        lastState = state;
-    }
-    return bytes;
+    const FileState state = Machine::StateOf(NativePath(file));
+    if (file != lastRead.File || state != lastRead.State)
+        lastRead = {file, state, ReadWholeFile(file)};
+    return lastRead.Bytes;
 }
 
 Text ProjectSetting(const Text& key, const Text& fallback)

@@ -203,6 +203,11 @@ void OweCopy()
     run.copy[run.tool].owed = true;
 }
 
+bool SaveOwed()
+{
+    return run.tool != 0 && run.copy[run.tool].owed;
+}
+
 void DropCopy()
 {
     if (run.tool != 0)
@@ -286,9 +291,12 @@ static bool Offer(const LeftCopy& left)
     const Text what = left.name.empty() ? "a new " + tool.Name + " file" : left.name;
     // The program may have ended at the end of a save, or another one may have saved it.
     const Text since = MarkOf(left.name) == left.mark ? "" : "  The file itself has been written since.";
-    const bool open = MsgBox("The program ended before " + what + " was saved.  A copy of " + left.time + " was kept." +
-                                 since + "  Would you like to open it?",
-                             YesNo, Question) == Yes;
+    const int answer = MsgBox("The program ended before " + what + " was saved.  A copy of " + left.time +
+                                  " was kept." + since + "  Would you like to open it?",
+                              YesNoCancel, Question);
+    if (answer == Cancel)
+        return false;
+    const bool open = answer == Yes;
     if (open) {
         tool.Open(JoinPath(run.folder, left.file), left.name);
         // It goes when this run has its own.

@@ -770,3 +770,25 @@ TEST_CASE("another map is opened once the one in the boxes has been asked about:
     CHECK(Dialog.File == Scratch("comma.GCV"));
     CHECK(Dialog.Text1 == "template");
 }
+
+TEST_CASE("a map from outside is opened after the same question, and one that is refused leaves no name to save under")
+{
+    CopyData("general");
+    OpenMap("comma.GCV");
+    Dialog.Text1 = "typed";
+    Answers = {Cancel};
+    frmGTGSGenEditor::OpenNamed(Scratch("fixed.GCV"));
+    CHECK(Told() == std::vector<Text>{opening});
+    CHECK(Dialog.Text1 == "typed");
+    Answers = {No};
+    frmGTGSGenEditor::OpenNamed(Scratch("fixed.GCV"));
+    CHECK(Dialog.File == Scratch("fixed.GCV"));
+    CHECK(Dialog.Title == "GTGS General Conversion Editor - " + Scratch("fixed.GCV"));
+    WriteScratch("cut.GCV", "one line\r\n");
+    frmGTGSGenEditor::OpenNamed(Scratch("cut.GCV"));
+    CHECK(Messages.back().words == "Error 62 in OpenGTGSConversionFile.  Please contact Norvane");
+    CHECK(Dialog.File == "");
+    CHECK(Dialog.Title == "GTGS General Conversion Editor");
+    CHECK(frmGTGSGenEditor::mnuExit()); // nothing has been typed
+    CHECK(ReadScratch("cut.GCV") == "one line\r\n");
+}

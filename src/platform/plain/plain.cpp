@@ -87,6 +87,7 @@ void UsePlainPlatform()
     Platform.ShowPrinting = [] {};
     Platform.ShowProgress = [](bool) {};
     Platform.StepProgress = [](const Text&, float) {};
+    Platform.ShowRunMessages = [] {};
     Platform.ShowChooser = [] {};
     Platform.ShowHelp = [] {};
     Platform.ShowProjEdit = [] {};

@@ -2,10 +2,12 @@
 #include "platform/qt/boxes.h"
 
 #include "canvas/batch.h"
+#include "canvas/runmessages.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -46,6 +48,8 @@ static QMessageBox::StandardButtons Offered(Buttons buttons)
 
 int ShowMessageBox(const Text& words, Buttons buttons, Icon icon)
 {
+    if (CollectMessage(words, buttons, icon))
+        return Ok;
     Box box(QApplication::activeWindow());
     box.setObjectName("MsgBox");
     box.setWindowTitle("Stratavue");
@@ -55,7 +59,11 @@ int ShowMessageBox(const Text& words, Buttons buttons, Icon icon)
                 : icon == Exclamation ? QMessageBox::Warning
                                       : QMessageBox::NoIcon);
     box.setStandardButtons(Offered(buttons));
+    auto* collect = OffersList(buttons, icon) ? new QCheckBox("Collect further messages in a list", &box) : nullptr;
+    box.setCheckBox(collect);
     const int chosen = box.exec();
+    if (collect && collect->isChecked())
+        RunMessages.Collecting = true;
     RunPaused();
     switch (chosen) {
     case QMessageBox::Ok:

@@ -135,6 +135,7 @@ void UseDesktopPlatform()
     Platform.ShowPrinting = ShowPrintingNotice;
     Platform.ShowProgress = ShowProgressWindow;
     Platform.StepProgress = StepProgressWindow;
+    Platform.ShowRunMessages = ShowRunMessagesWindow;
     Platform.ShowChooser = ShowOpenSave;
     Platform.ShowProjEdit = ShowProjEdit;
     Platform.ShowGraphicsSetup = ShowGraphicsSetup;

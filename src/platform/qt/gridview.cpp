@@ -3,6 +3,7 @@
 
 #include "platform/qt/uitext.h"
 #include "session/gridedit.h"
+#include "session/session.h"
 
 #include <QAbstractTableModel>
 #include <QComboBox>
@@ -433,9 +434,13 @@ void GridView::AsTyped(void (*work)())
         return work();
     const int row = currentIndex().row() + 1, column = currentIndex().column() + 1;
     const Text before = grid.Cell(row, column);
+    const int16_t flag = FileChanged;
     grid.Cell(row, column) = LineFromUi(box->text());
+    if (grid.Cell(row, column) != before)
+        FileChanged = 1;
     work();
     grid.Cell(row, column) = before;
+    FileChanged = flag;
 }
 
 // Enter, Tab and the arrows take what was typed and go on.

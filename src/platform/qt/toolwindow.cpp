@@ -3,6 +3,7 @@
 
 #include "editors/borinput.h"
 #include "editors/livepreview.h"
+#include "editors/nextfile.h"
 #include "platform/qt/checkdock.h"
 #include "platform/qt/gridview.h"
 #include "platform/qt/livepane.h"
@@ -10,6 +11,7 @@
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
 #include "session/gridedit.h"
+#include "session/recovery.h"
 #include "session/session.h"
 
 #include <QAction>
@@ -20,7 +22,6 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QStatusBar>
@@ -200,27 +201,24 @@ void ToolWindow::Run(const std::function<void()>& command)
         ~Afterwards()
         {
             ShowProgressWindow(false);
-            if (!window.leaving)
-                window.Refresh();
+            if (window.leaving)
+                return;
+            window.Refresh();
+            if (!NextFile.empty()) // for which another window was left
+                window.OpenSoon(TakeNextFile());
         }
     } afterwards{*this};
     command();
 }
 
-// Files on the window: the first one is opened.
-void ToolWindow::dragEnterEvent(QDragEnterEvent* event)
+bool ToolWindow::Takes(const Text& name) const
 {
-    const QList<QUrl> files = event->mimeData()->urls();
-    if (!files.isEmpty() && files[0].toLocalFile().endsWith(tool.ending, Qt::CaseInsensitive))
-        event->acceptProposedAction();
+    return OpensFile(name);
 }
 
-void ToolWindow::dropEvent(QDropEvent* event)
+void ToolWindow::OpenSoon(const Text& name)
 {
-    const Text name = FromUi(event->mimeData()->urls().value(0).toLocalFile());
-    event->acceptProposedAction();
-    // The program that the file comes from waits for the end of the drop, and not for the user's answers.
-    QTimer::singleShot(0, this, [this, name] { Run([&] { ToolOpenNamed(tool, name); }); });
+    QTimer::singleShot(0, this, [this, name] { Run([&] { ToolOpenFromOutside(tool, name); }); });
 }
 
 // ---- Boxes
@@ -340,7 +338,7 @@ void ToolWindow::AddStatusBar()
 
 void ToolWindow::ShowState()
 {
-    setWindowModified(FileChanged == 1);
+    setWindowModified(FileChanged == 1 || SaveOwed());
     if (live)
         live->Soon();
     if (checks)
@@ -371,7 +369,7 @@ void ToolWindow::Refresh()
         shownFile = tool.FileName;
     }
     fittedRows = rows;
-    recent->Show(tool.FileName);
+    recent->Show(tool.RecentFile);
     project->setText("Project folder: " + ToUi(ProjectPath));
 }
 
@@ -396,6 +394,8 @@ void ToolWindow::Blocking(QWidget* content)
     if (!order.empty())
         order.front()->setFocus();
     tool.active = nullptr; // no grid has been entered by the user yet
+    if (!NextFile.empty())
+        OpenSoon(TakeNextFile());
     loop.exec();
 }
 

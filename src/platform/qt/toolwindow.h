@@ -17,7 +17,7 @@ class LivePane;
 class QLabel;
 class QPlainTextEdit;
 
-class ToolWindow : public QMainWindow
+class ToolWindow : public QMainWindow, public TakesFiles
 {
 public:
     explicit ToolWindow(ToolRecord& shown);
@@ -33,13 +33,13 @@ public:
     QMenu* Menu(const char* name) const;
     void Run(const std::function<void()>& command); // and what it has done is shown
     void Blocking(QWidget* content);                // shown until it is left
+    bool Takes(const Text& name) const override;
+    void OpenSoon(const Text& name) override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* box, QEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
 
 private:
     void FillMenus();

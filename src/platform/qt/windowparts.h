@@ -21,6 +21,15 @@ QSplitter* Split(Qt::Orientation orientation, std::initializer_list<QWidget*> bo
 // Puts the window into the middle of its screen.
 void CentreOnScreen(QWidget& window);
 
+// A window that opens files from outside, by the command line or dropped on it.
+struct TakesFiles {
+    virtual ~TakesFiles() = default;
+    virtual bool Takes(const Text& name) const = 0; // whether it opens this one
+    // By a turn of the event loop, as a command of the window: the program that the file comes from waits for the end
+    // of a drop, and not for the user's answers.
+    virtual void OpenSoon(const Text& name) = 0;
+};
+
 // The two labels of a status bar: the project folder on the left, what is on hand on the right.
 void AddStatusWords(QStatusBar* bar, QLabel*& project, QLabel*& state);
 

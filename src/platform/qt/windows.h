@@ -30,6 +30,7 @@ void ShowGTGSGenEditor();               // frmGTGSGenEditor
 void ShowDrawArea();                    // frmDrawArea
 void ShowDrawPrintDialog();             // frmDrawPrint
 void ShowPrintingNotice();              // frmPrinting
+void ShowRunMessagesWindow();           // frmRunMessages
 void ShowProgressWindow(bool shown);    // frmProgress
 void StepProgressWindow(const Text& words, float percent);
 void Breathe();     // a turn for the window system
