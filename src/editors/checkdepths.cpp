@@ -277,12 +277,13 @@ static Text Below(double depth, const Bottom& bottom, const char*& kind)
     return " lies below the last contact.";
 }
 
-static void CheckDepth(int box, int row, int column, const Bottom& bottom)
+static bool CheckDepth(int box, int row, int column, const Bottom& bottom)
 {
     const char* kind = nullptr;
     const Text words = Below(Number(box, row, column), bottom, kind);
     if (kind)
         Flag(kind, WhereIs(box, row) + ": " + PlainNumber(Number(box, row, column)) + words, box, row, column);
+    return kind != nullptr;
 }
 
 // Lines that place the text behind them: "-" and a depth, and in descriptions with dot commands ".L" and its like.
@@ -317,7 +318,8 @@ void BoringChecks::CheckDepths()
     for (const auto& [box, columns] : lists)
         for (int row = 1; row <= Rows(box); ++row)
             for (int column = 1; column <= columns && !PipeMarker(box, row); ++column)
-                CheckDepth(box, row, column, bottom);
+                if (CheckDepth(box, row, column, bottom))
+                    break; // with its top the whole row
     for (const int row : {7, 8, 9})
         CheckDepth(WellBox, row, 1, bottom);
     // The first contact that no page reaches, where the scale's own warning does not tell of it.

@@ -113,6 +113,15 @@ static std::vector<Soil> MainSoils(const Text& text)
     return soils;
 }
 
+// The soil that the text names first, in whatever letters.
+static Soil FirstSoil(const Text& text)
+{
+    for (const Word& word : Words(text))
+        if (SoilOf(word.Upper) != None)
+            return SoilOf(word.Upper);
+    return None;
+}
+
 // ---- What a code says
 
 static int PatternOf(const Text& half)
@@ -221,9 +230,11 @@ static void CheckLayer(int row, const Text& text, int place)
 {
     Text cell = UpperCase(Cell(LithBox, row, 2));
     const Text upper = UpperCase(text);
-    const std::vector<Soil> soils = MainSoils(text);
+    std::vector<Soil> soils = MainSoils(text);
     if (cell.empty() || soils.empty() || NamesCode(upper, cell))
         return;
+    const Soil told = soils.front();
+    soils.push_back(FirstSoil(text)); // "silty sand, below 5 feet GRAVEL" may be either
     const char separator = Holds(cell, '/') ? '/' : '-';
     std::vector<Text> halves = {Text(Before(Before(cell, separator), ','))};
     if (Holds(cell, separator))
@@ -233,8 +244,8 @@ static void CheckLayer(int row, const Text& text, int place)
             if (!Contradicts(PatternOf(half), soil, upper))
                 return;
     FlagText("marker-code",
-             "The text of contact " + PlainNumber(row) + " tells of " + soilWords[soils.front()] +
-                 ", and its code is " + cell + ".",
+             "The text of contact " + PlainNumber(row) + " tells of " + soilWords[told] + ", and its code is " + cell +
+                 ".",
              "MemoDes", place);
 }
 

@@ -46,6 +46,7 @@ TEST_CASE("a code that the text leaves room for is not flagged")
     CHECK(Fits("SP", "Interbedded CLAY and SAND"));
     CHECK(Fits("SP", "CLAY with layers of sand"));
     CHECK(Fits("SM", "Silty SAND (SM), gray. A lens of CLAY at 3 feet."));
+    CHECK(Fits("SM", "Silty sand, well graded GRAVEL (GW) below"));
     CHECK(Fits("", "Lean CLAY"));
     CHECK(Fits("F0", "Lean CLAY"));
 }
