@@ -28,6 +28,7 @@
 #include "report/layout.h"
 #include "report/layoutedit.h"
 #include "report/logo.h"
+#include "report/projectfiles.h"
 #include "report/prompts.h"
 #include "sections/crossfile.h"
 #include "sections/crossrun.h"
@@ -209,6 +210,7 @@ struct Fresh : doctest::IReporter {
         LegendBoxFill = {};
         LogoData = LogoRecord();
         LayoutData = LayoutRecord();
+        SourceFolder = "";
         frmDescLegend::Dialog = frmDescLegend::Record();
         frmBorinput::List = {};
         frmDesItems::Box = {};

@@ -297,15 +297,9 @@ static void FillDialog(const std::vector<Text>& files)
         lastDir = Asked.Out;
 }
 
-// Where the set-up names no folders of its own: a project that brings its layouts along is drawn with them, and a home
-// without fill patterns is drawn with those of the installation.
+// Where the set-up names no folder of its own, a home without fill patterns is drawn with those of the installation.
 static void FindStockFiles()
 {
-    Text& layouts = DeviceConfig.SystemFiles[LayoutFolder];
-    if (layouts == WorkingFolder)
-        for (const Text& name : FilesIn(ProjectPath, ".lay"))
-            if (!FileExists(JoinPath(WorkingFolder, name)))
-                layouts = ProjectPath;
     Text& fills = DeviceConfig.SystemFiles[FillFolder];
     if (fills == JoinPath(WorkingFolder, "fills/") && FilesIn(fills, ".bmp").empty())
         fills = JoinPath(StockFolder(), "fills/");

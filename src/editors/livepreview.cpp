@@ -12,6 +12,7 @@
 #include "editors/toolcommands.h"
 #include "logrender/logdata.h"
 #include "report/heading.h"
+#include "report/projectfiles.h"
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
@@ -95,6 +96,8 @@ bool DrawLivePage(int number, const Text& folder, LivePage& page)
     QuietRun run(folder, TakeLogPage, fresh);
     const Kept name(BoringFileName);
     const Kept record(BoringData);
+    const Kept source(SourceFolder);
+    SourceFolder = FolderName(BoringFileName);
     BoringFileName = FreshFile(folder, ".BOR");
     SaveBoringFile();
     if (!FileExists(BoringFileName)) // more lines than a boring holds

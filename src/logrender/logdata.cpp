@@ -8,6 +8,7 @@
 #include "canvas/batch.h"
 #include "canvas/screenview.h"
 #include "logrender/vlog.h"
+#include "report/projectfiles.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -295,7 +296,7 @@ static void ReadBoring(LineReader& in)
 static void ReadLayout()
 {
     LogGeometryRecord& g = LogGeometry;
-    const Text path = JoinPath(DeviceConfig.SystemFiles[LayoutFolder], LogBoring.LayoutFile);
+    const Text path = LayoutPath(LogBoring.LayoutFile, LogPage.BoringFileName);
     if (!FileExists(path)) {
         // Kept: the title blocks and the bottom row of the page before stay in force.
         MsgBox("Layout File Not Found: " + path, OkOnly, Exclamation);
