@@ -118,7 +118,7 @@ void BoringChecks::CheckCodes()
         const Text typed = UpperCase(Cell(LithBox, row, 4));
         const Text color(Trim(Holds(typed, ',') ? Behind(typed, ',') : typed));
         if (graphic && !color.empty() && BadColor(color))
-            Flag("color", "Contact " + PlainNumber(row) + ": " + Quoted(color) + " is no colour, and is drawn white.",
+            Flag("color", "Contact " + PlainNumber(row) + ": " + Quoted(color) + " is no color, and is drawn white.",
                  LithBox, row, 4);
     }
 }
@@ -152,7 +152,7 @@ static void CheckWellColor(const Text& cell, int box, int row)
 {
     const Text color(Trim(Behind(cell, ',')));
     if (!color.empty() && BadColor(color))
-        Flag("color", WhereIs(box, row) + ": " + Quoted(color) + " is no colour, and is drawn white.", box, row, 5);
+        Flag("color", WhereIs(box, row) + ": " + Quoted(color) + " is no color, and is drawn white.", box, row, 5);
 }
 
 static void CheckOuterLayer(int row)

@@ -28,7 +28,7 @@ const std::vector<CheckKind>& CheckKinds()
         {"letters", CheckWeight::Error, "Letters outside the code page"},
         {"fill", CheckWeight::Error, "Codes that draw blank"},
         {"fill-letters", CheckWeight::Remark, "Codes that draw blank where patterns are drawn"},
-        {"color", CheckWeight::Error, "Colours that are drawn white"},
+        {"color", CheckWeight::Error, "Colors that are drawn white"},
         {"well-fill", CheckWeight::Warning, "Layers of the well that draw blank"},
         {"legend-fill", CheckWeight::Warning, "Codes of the intro page's legend that draw blank"},
         {"part", CheckWeight::Error, "Report parts that are not drawn"},

@@ -2,13 +2,12 @@
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
-#include "canvas/screenview.h"
 #include "editors/checkparts.h"
 #include "editors/hush.h"
-#include "logrender/generalvalues.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
 #include "report/heading.h"
+#include "report/projectfiles.h"
 #include "report/reportparts.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
@@ -118,17 +117,15 @@ void BoringChecks::CheckPages()
 
 // ---- The layout
 
-Text BoringChecks::LayoutPath()
+Text BoringChecks::LayoutFilePath()
 {
-    Text name = cmbLayFile;
-    if (!UpperCase(name).ends_with(".LAY"))
-        name += ".lay";
-    return JoinPath(DeviceConfig.SystemFiles[LayoutFolder], name);
+    const bool ending = UpperCase(cmbLayFile).ends_with(".LAY");
+    return LayoutPath(ending ? cmbLayFile : cmbLayFile + ".lay", BoringFileName);
 }
 
 bool BoringChecks::ReadLayout(LayoutRecord& layout)
 try {
-    const Text path = LayoutPath();
+    const Text path = LayoutFilePath();
     if (!FileExists(path))
         return false;
     const Kept live(LayoutData);
@@ -310,7 +307,7 @@ static bool HasBlock(const LayoutRecord& layout, int code)
 static void CheckMap(const LayoutRecord& layout)
 {
     const Text name(Trim(Text2));
-    const Text path = JoinPath(ProjectPath, name);
+    const Text path = MapPath(name, BoringFileName);
     const bool shown = HasBlock(layout, 8);
     if (!name.empty() && !FileExists(path))
         BoringChecks::FlagText(shown ? "file" : "file-unused", "The map file is not found: " + path, "Text2");
@@ -346,10 +343,10 @@ void BoringChecks::CheckFiles()
     if (!ReadLayout(layout)) {
         if (IsBlank(cmbLayFile))
             FlagText("layout-none", "No layout file is named: the page has no title blocks.", "cmbLayFile");
-        else if (FileExists(LayoutPath()))
-            FlagText("file", "The layout file breaks off: " + LayoutPath(), "cmbLayFile");
+        else if (FileExists(LayoutFilePath()))
+            FlagText("file", "The layout file breaks off: " + LayoutFilePath(), "cmbLayFile");
         else
-            FlagText("file", "The layout file is not found: " + LayoutPath(), "cmbLayFile");
+            FlagText("file", "The layout file is not found: " + LayoutFilePath(), "cmbLayFile");
     }
     CheckMap(layout);
     CheckHeading();

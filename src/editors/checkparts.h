@@ -68,7 +68,7 @@ std::vector<DrawnPart> DrawnParts(); // the report parts up to the first empty o
 bool Draws(const char* front);       // one of them begins so
 bool DrawsGraphic();                 // patterns of the soil codes
 bool DrawsWell();
-Text LayoutPath();                     // where a run looks for the layout
+Text LayoutFilePath();                 // where a run looks for the layout
 bool ReadLayout(LayoutRecord& layout); // false: it is not there
 double PageLength();                   // the inches that a page has for its depths, by the layout
 

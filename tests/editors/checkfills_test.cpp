@@ -100,7 +100,7 @@ TEST_CASE("layers of the well that draw blank are flagged where the well is draw
                       {"9", "10", "", "", ""}});
     CHECK(Clean());
     SSOuterLay.Cell(1, 5) = "F21,PINK";
-    CHECK(Only() == "color: Outer Layers, row 1: \"PINK\" is no colour, and is drawn white.");
+    CHECK(Only() == "color: Outer Layers, row 1: \"PINK\" is no color, and is drawn white.");
 }
 
 TEST_CASE("fills of pipes and casings that draw blank are flagged, an empty pipe is not")

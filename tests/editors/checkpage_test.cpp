@@ -152,6 +152,12 @@ TEST_CASE("a layout that is not found, is not named or breaks off is flagged")
     CHECK(Only() == "layout-none: No layout file is named: the page has no title blocks.");
     cmbLayFile = "PLAIN";
     CHECK(Clean());
+    std::filesystem::create_directory(Scratch("project"));
+    WriteLayout("project/OWN.LAY", 0);
+    cmbLayFile = "own";
+    CHECK_FALSE(Clean());
+    BoringFileName = Scratch("project/B-1.BOR");
+    CHECK(Clean());
 }
 
 TEST_CASE("a map that is not found is an error where the layout shows it, and a remark elsewhere")
@@ -166,6 +172,10 @@ TEST_CASE("a map that is not found is an error where the layout shows it, and a 
     WritePicture("project/SITE.BMP");
     CHECK_FALSE(Clean());
     ProjectPath = Scratch("project");
+    CHECK(Clean());
+    ProjectPath = ScratchFolder();
+    CHECK_FALSE(Clean());
+    BoringFileName = Scratch("project/B-1.BOR"); // a run looks beside the boring too
     CHECK(Clean());
 }
 
