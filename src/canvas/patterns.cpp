@@ -314,14 +314,17 @@ static bool Keep(const Text& name)
 
 // ---- The current pattern
 
+Text PatternName(int number)
+{
+    return (number >= 1 && number <= 9 ? "F0" : "F") + PlainNumber(number) + ".BMP";
+}
+
 void setfillfile(int number)
 {
-    number = std::clamp(number, 0, mostFile);
-    const Text stem = PageCanvas.fillsDir + (number >= 1 && number <= 9 ? "F0" : "F") + PlainNumber(number);
-    PageCanvas.fillFile = stem + ".BMP";
+    PageCanvas.fillFile = PageCanvas.fillsDir + PatternName(std::clamp(number, 0, mostFile));
     if (!InFolder(PageCanvas.fillFile))
         return;
-    const Text screen = stem + "_sc.BMP";
+    const Text screen = PageCanvas.fillFile.substr(0, PageCanvas.fillFile.size() - 4) + "_sc.BMP";
     if (!InFolder(screen) && Keep(screen))
         NoteOwn(screen);
     PageCanvas.fillFile = screen;

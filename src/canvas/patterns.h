@@ -27,6 +27,7 @@ void setfillfile(int number);
 // Tinted copy k of the current pattern: "T" k "_sc.bmp" and "T" k ".bmp" in the fills folder.
 void createcoloredFP(const Text& color, int k);
 
+Text PatternName(int number);           // of a pattern's print form: "F05.BMP"
 Text PrintForm(const Text& screenName); // of a screen form's name: without its last 7 characters, plus ".bmp"
 // What setfillfile has left is in the fills folder: a print form, or a screen form or the print form it is made from.
 bool PatternThere(const Text& fillFile);

@@ -183,7 +183,7 @@ static void ReadContacts(LineReader& in)
 // "Graph St.,End,Inc" as an axis. A blank line counts as "0,1,1", for sample parameters one that begins "LOG" too;
 // an increment of 0 resets the axis, unless its start is -999, the mark of a logarithmic sample axis. A fourth piece
 // "N" stands whatever becomes of the others.
-static void ReadAxis(LogParamSetup& setup, bool sample)
+void VLOG::readaxis(LogParamSetup& setup, bool sample)
 {
     Text axis = setup.Axis;
     if (IsBlank(axis) || (sample && UpperCase(axis).starts_with("LOG")))
@@ -211,7 +211,7 @@ static void ReadSetups(LineReader& in)
         for (int k = 1; k <= 3; ++k)
             setup.Split[k] = in.Line();
         in.Skip(3); // two standards and the units: the log draws none
-        ReadAxis(setup, true);
+        VLOG::readaxis(setup, true);
     }
     for (int n = 1; n <= GenParams; ++n) {
         LogParamSetup& setup = LogBoring.GenSetup[n];
@@ -222,7 +222,7 @@ static void ReadSetups(LineReader& in)
             setup.Split[k] = in.Line();
         setup.File = in.Line();
         setup.Field = in.Line();
-        ReadAxis(setup, false);
+        VLOG::readaxis(setup, false);
     }
 }
 
