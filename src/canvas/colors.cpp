@@ -54,3 +54,8 @@ Text getcolor(const Text& text, bool quiet)
     MsgBox("Color values must be in the range of 0 to 255: " + typed, OkOnly, Exclamation);
     return white;
 }
+
+bool IsColorName(const Text& text)
+{
+    return getcolor(text, true) != white || SameText(Trim(text), "WHITE");
+}

@@ -48,7 +48,7 @@ int16_t getpch(const Text& cell)
     return 0;
 }
 
-void setpatt(const Text& code)
+int getpatt(const Text& code)
 {
     if (code.size() < 2)
         throw RunTimeError{InvalidCall};
@@ -66,7 +66,12 @@ void setpatt(const Text& code)
         if (file > 300)
             file = 0;
     }
-    setfillfile(static_cast<int>(std::clamp(file, 0.0, double(mostFile))));
+    return static_cast<int>(std::clamp(file, 0.0, double(mostFile)));
+}
+
+void setpatt(const Text& code)
+{
+    setfillfile(getpatt(code));
 }
 
 // ---- The fills folder

@@ -5,6 +5,8 @@
 
 #include <vector>
 
+struct Grid;
+
 // An error makes a wrong or incomplete page or loses data; a warning is most likely a slip; a remark is worth a look.
 enum class CheckWeight { Error, Warning, Remark };
 
@@ -21,8 +23,8 @@ struct CheckEntry {
     int Row = 1, Column = 1;  // of a grid
     const char* TextBox = ""; // the name of a text box, with the place in its text, line ends as one character
     int Place = 0;
-    const char* GridName = ""; // of a tool beside the log tool: the grid's name, in place of its number
-    const char* Kind = "";     // the key of its kind, which tells its weight
+    const Grid* InGrid = nullptr; // of a tool beside the log tool: the grid itself, in place of its number
+    const char* Kind = "";        // the key of its kind, which tells its weight
 };
 
 // Every kind, in the order of the menu.

@@ -8,9 +8,46 @@ const std::vector<CheckKind>& CheckKinds()
     static const std::vector<CheckKind> kinds = {
         // Borings
         {"save", CheckWeight::Warning, "What a save warns of"},
-        // Sections, fences, soil tables, the workbench
+        // Sections, fences, soil tables
+        {"named-boring", CheckWeight::Error, "Borings that are not found or cannot be read"},
+        {"named-file", CheckWeight::Error, "Heading files, layer tables and data files that are not found"},
+        {"sheet-number", CheckWeight::Error, "Cells of sections and fences that are no number"},
+        {"sheet-scale", CheckWeight::Error, "Scales that are upside down or have no increment"},
+        {"sheet-code", CheckWeight::Error, "Codes too short for a pattern, at which the drawing stops"},
+        {"table-row", CheckWeight::Error, "Borings that the layer table does not have"},
+        {"sheet-order", CheckWeight::Warning, "Borings out of order along a section"},
+        {"sheet-frame", CheckWeight::Warning, "Borings beyond the frame or the base plane"},
+        {"sheet-ticks", CheckWeight::Warning, "Scales with too few or too many ticks, and elevations that are rounded"},
+        {"sheet-blank", CheckWeight::Warning, "Codes that draw blank in sections, fences and soil tables"},
+        {"sheet-legend", CheckWeight::Warning, "Fills that the legend lacks"},
+        {"sheet-column", CheckWeight::Warning, "Columns of a section that have no length"},
+        {"sheet-label", CheckWeight::Warning, "Borings without the name that is to label them"},
+        {"sheet-water", CheckWeight::Warning, "Water deeper than the boring, in sections and fences"},
+        {"sheet-title", CheckWeight::Warning, "Titles that are wider than their box"},
+        {"sheet-choice", CheckWeight::Warning, "Letters that a cell does not know"},
+        {"sheet-parameter", CheckWeight::Warning, "Parameters of a section that show nothing"},
+        // Fences
+        {"fence-panel", CheckWeight::Error, "Panels that are not drawn"},
+        {"fence-place", CheckWeight::Error, "Borings of a fence without coordinates"},
+        {"fence-row", CheckWeight::Warning, "Rows of a fence without a boring"},
+        // Soil tables
+        {"soil-parameter", CheckWeight::Error, "Numbers of a soil table that are no parameter"},
+        {"soil-columns", CheckWeight::Error, "More columns of a soil table than the page has room for"},
+        {"soil-scale", CheckWeight::Error, "Bars of a soil table without a full scale"},
+        {"soil-notes", CheckWeight::Error, "More notes of a soil table than there are lines"},
+        {"soil-values", CheckWeight::Warning, "Columns of a soil table without values, without captions or twice"},
+        {"soil-depth", CheckWeight::Warning, "Samples and layers below the depth scale of a soil table"},
+        {"soil-rows", CheckWeight::Remark, "Rows of a soil table that are printed on one another"},
+        // The workbench
+        {"gis-number", CheckWeight::Error, "Cells of a layer table that are neither depth nor X"},
         {"gis-columns", CheckWeight::Warning, "Columns of the table that are not those of its layer list"},
-        {"gis-no-top", CheckWeight::Warning, "Layers that are drawn from the ground on"},
+        {"gis-no-top", CheckWeight::Warning, "Layers of a table that cover those above them"},
+        {"gis-order", CheckWeight::Warning, "Depths of a layer table that are out of order"},
+        {"gis-place", CheckWeight::Warning, "Borings of a layer table without coordinates or elevation"},
+        {"gis-same-place", CheckWeight::Warning, "Borings of a layer table at one place"},
+        {"gis-twice", CheckWeight::Warning, "Borings that a layer table has twice"},
+        {"gis-boring", CheckWeight::Warning, "Borings of a layer table that are not found"},
+        {"gis-color", CheckWeight::Warning, "Colors of a layer table that are none"},
     };
     return kinds;
 }

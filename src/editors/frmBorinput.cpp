@@ -757,6 +757,8 @@ void BorinputWindow::GoTo(const CheckEntry& entry)
     for (const auto& [known, number] : numbers)
         if (!box && number == entry.Box)
             box = qobject_cast<QWidget*>(known);
+    if (!box)
+        return;
     for (int tab = 0; tab < tabs->count(); ++tab)
         if (tabs->widget(tab)->isAncestorOf(box))
             tabs->setCurrentIndex(tab);
@@ -778,13 +780,13 @@ void BorinputWindow::GoTo(const CheckEntry& entry)
 void BorinputWindow::OrderTabs()
 {
     const char* const order[] = {
-        "Text1",        "Text2",         "cmbLayFile", "Check1",  "SSTab1",     "txtClient",     "Option1",
-        "Option2",      "Option3",       "Option4",    "SSInfo",  "SSScale",    "SSRepParts",    "SSLith",
-        "MemoDes",      "cmdAdj1",       "cmdAdj2",    "List1",   "List2",      "List3",         "List4",
-        "SSFormations", "SSSamp",        "SSP1Setup",  "SSPar",   "SSP2Setup",  "SSGenWellInfo", "SSOuterLay",
-        "SSInnerLay",   "SSW",           "MemoWcon",   "cmdAdj3", "cmdAdj4",    "MemoRemarks",   "cmdAdj5",
-        "cmdAdj6",      "MemoBottNotes", "cmdAdj7",    "cmdAdj8", "SSCuttings", "SSLegend",      "cmdLivePrevious",
-        "cmdLiveNext",  "lstCheck"};
+        "Text1",        "Text2",         "cmbLayFile",   "Check1",  "SSTab1",     "txtClient",     "Option1",
+        "Option2",      "Option3",       "Option4",      "SSInfo",  "SSScale",    "SSRepParts",    "SSLith",
+        "MemoDes",      "cmdAdj1",       "cmdAdj2",      "List1",   "List2",      "List3",         "List4",
+        "SSFormations", "SSSamp",        "SSP1Setup",    "SSPar",   "SSP2Setup",  "SSGenWellInfo", "SSOuterLay",
+        "SSInnerLay",   "SSW",           "MemoWcon",     "cmdAdj3", "cmdAdj4",    "MemoRemarks",   "cmdAdj5",
+        "cmdAdj6",      "MemoBottNotes", "cmdAdj7",      "cmdAdj8", "SSCuttings", "SSLegend",      "cmdLivePrevious",
+        "cmdLiveNext",  "lstCheck",      "cmdCheckKinds"};
     QHash<QString, QWidget*> boxes; // one look through the window, not one for each box
     for (QWidget* box : findChildren<QWidget*>())
         if (!box->objectName().isEmpty())

@@ -4,6 +4,7 @@
 #include "boring/opensave.h"
 #include "editors/hush.h"
 #include "gis/gisfile.h"
+#include "sections/crosscheck.h"
 #include "sections/crossrun.h"
 
 // Cells of a boring that no column shows: label offset, second label, azimuth, inclination.
@@ -75,4 +76,5 @@ ToolRecord CrossForm = {
     .Label = frmCross::LabelBoxes,
     .Undisturbed = Undisturbed,
     .State = State,
+    .Check = CheckSection,
 };

@@ -4,6 +4,7 @@
 #include "boring/opensave.h"
 #include "editors/hush.h"
 #include "gis/gisfile.h"
+#include "sections/fencecheck.h"
 #include "sections/fencerun.h"
 
 void frmFence::LabelBoxes()
@@ -52,4 +53,5 @@ ToolRecord FenceForm = {
     .Label = frmFence::LabelBoxes,
     .Undisturbed = Undisturbed,
     .State = State,
+    .Check = CheckFence,
 };

@@ -104,12 +104,6 @@ static double RowPitch(char kind)
     return pitch;
 }
 
-static bool IsColorName(const Text& text)
-{
-    const Text white = "255 255 255"; // what is no name has this too
-    return getcolor(text, true) != white || SameText(Trim(text), "WHITE");
-}
-
 static void Swatch(const Text& code, double pitch)
 {
     if (CrossRun.drawLayers == 1 && CrossRun.useGIS == 1 && IsColorName(code))

@@ -2,6 +2,7 @@
 #include "sections/soiltool.h"
 
 #include "editors/hush.h"
+#include "sections/soilcheck.h"
 
 static void Undisturbed(const std::function<void()>& work)
 {
@@ -37,4 +38,5 @@ ToolRecord SoilForm = {
         },
     .Undisturbed = Undisturbed,
     .State = State,
+    .Check = CheckSoilTable,
 };

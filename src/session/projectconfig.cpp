@@ -120,15 +120,16 @@ static Text OneLine(Text value)
 
 static void PutLine(std::string& bytes, const Text& key, const Text& value)
 {
+    const Text told = value.empty() ? "" : " " + value;
     const std::vector<LinePlace> lines = LinesOf(bytes);
     if (const LinePlace* line = FindKey(bytes, lines, key)) {
         const size_t behind = bytes.find('=', line->begin) + 1;
-        bytes.replace(behind, line->end - behind, " " + value);
+        bytes.replace(behind, line->end - behind, told);
         return;
     }
     const size_t end = lines.empty() ? 0 : lines.back().next;
     const bool open = !lines.empty() && lines.back().end == lines.back().next; // the last line has no line end
-    bytes.insert(end, (open ? CrLf : "") + key + " = " + value + CrLf);
+    bytes.insert(end, (open ? CrLf : "") + key + " =" + told + CrLf);
 }
 
 bool SetProjectSetting(const Text& key, const Text& value)

@@ -60,6 +60,9 @@ TEST_CASE("a first setting makes the file in the project folder, its lines ended
     CHECK(SetProjectSetting("style", "clear"));
     CHECK(SetProjectSetting("paper", "A4"));
     CHECK(ReadScratch("site/project.cfg") == "style = clear\r\npaper = A4\r\n");
+    CHECK(SetProjectSetting("style", ""));
+    CHECK(ReadScratch("site/project.cfg") == "style =\r\npaper = A4\r\n");
+    CHECK(ProjectSetting("style", "plain") == "");
     CHECK_FALSE(std::filesystem::exists(Scratch("project.cfg")));
     CHECK(ProjectConfigFile() == Scratch("site/project.cfg"));
 }

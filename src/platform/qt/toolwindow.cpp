@@ -25,6 +25,7 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QTableView>
+#include <QTextCursor>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -305,16 +306,29 @@ void ToolWindow::AddCheckList()
     checks->Check = tool.Check;
     checks->GoTo = [this](const CheckEntry& entry) { GoTo(entry); };
     Own(checks->List());
+    Own(checks->Kinds());
 }
 
 void ToolWindow::GoTo(const CheckEntry& entry)
 {
-    auto* view = findChild<QTableView*>(entry.GridName);
-    const QModelIndex cell = view->model()->index(entry.Row - 1, entry.Column - 1);
-    view->setCurrentIndex(cell);
-    view->scrollTo(cell);
+    QWidget* box = entry.TextBox[0] ? findChild<QWidget*>(entry.TextBox) : nullptr;
+    for (const auto& [known, grid] : gridOf)
+        if (!box && grid == entry.InGrid)
+            box = qobject_cast<QWidget*>(known);
+    if (!box)
+        return;
+    if (auto* view = qobject_cast<QTableView*>(box)) {
+        const QModelIndex cell = view->model()->index(entry.Row - 1, entry.Column - 1);
+        view->setCurrentIndex(cell);
+        view->scrollTo(cell);
+    } else if (auto* text = qobject_cast<QPlainTextEdit*>(box)) {
+        QTextCursor caret = text->textCursor();
+        caret.setPosition(std::min(entry.Place, int(text->toPlainText().size())));
+        text->setTextCursor(caret);
+        text->ensureCursorVisible();
+    }
     activateWindow(); // the list may float in a window of its own
-    view->setFocus();
+    box->setFocus();
 }
 
 void ToolWindow::AddStatusBar()
