@@ -1,5 +1,6 @@
 // main.cpp -- stratavue-batch: the jobs of the program without its windows. The printer is replaced by files, and
 // the boxes by lines on standard error.
+#include "batch/checkjob.h"
 #include "batch/commandline.h"
 #include "batch/jobtable.h"
 #include "canvas/batch.h"
@@ -434,6 +435,16 @@ static void ExportGis()
         ExportGIS2EVS(Asked.Evs);
 }
 
+// The status counts errors of the lists alone, whatever was told on the way.
+static void Check()
+{
+    const bool good = RunChecks(Asked, [](const Text& project) {
+        SetFolders(project);
+        FindStockFiles();
+    });
+    MessageCount = good ? 0 : 1;
+}
+
 int main(int argc, char** argv)
 {
     Asked = ReadCommandLine({argv + 1, argv + argc});
@@ -463,6 +474,9 @@ int main(int argc, char** argv)
             break;
         case BatchWork::ExportsGis:
             ExportGis();
+            break;
+        case BatchWork::Checks:
+            Check();
             break;
         }
     } catch (...) {
