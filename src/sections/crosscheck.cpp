@@ -77,6 +77,8 @@ void SectionCheck::Words()
     OneOf(SS3, DrawLayersRow, 1, "YNI", false, "I");
     OneOf(SS3, PageRow, 1, "LT", false, "L");
     HeadingThere(SS3, 1);
+    const Text& options = CrossData.reportCells[10]; // "width,size"; no row shows it
+    TooFar(SS3, ParameterRow, 1, "Width of the columns", options, TextNumber(options));
     for (int row = 1; row <= 3; ++row)
         Title(SS3, row, row == 1 ? 10 : 9, 2.4);
     if (IsBlank(SS3.Cell(GisRow, 1)))
@@ -173,6 +175,10 @@ void SectionCheck::Order()
 void SectionCheck::Frame(const Placed& boring)
 {
     const Text words = RowInWords(boring.Row, boring.Name);
+    const double acrossInch = (Horizontal.End - Horizontal.Start) / Width();
+    if (HorizontalHolds && TooFar(SS1, boring.Row, DistanceColumn, words, SS1.Cell(boring.Row, DistanceColumn),
+                                  boring.Distance / acrossInch))
+        return;
     if (HorizontalHolds && (boring.Distance < 0 || boring.Distance > Horizontal.End - Horizontal.Start))
         Flag("sheet-frame", SS1, boring.Row, DistanceColumn,
              words + ", stands at " + PlainNumber(boring.Distance + Horizontal.Start) + ", beyond the scale from " +
@@ -202,7 +208,14 @@ void SectionCheck::BoringItself(const Placed& boring)
     if (boring.Is->BoreDepth <= 0 && !Individual)
         Flag("sheet-column", SS1, boring.Row, FileColumn,
              words + ", has no outer layer that tells how deep it is: its column has no length.");
+    const Text& offset = CrossData.boringCells[boring.Row][6]; // of the label, in inches; no column shows it
+    for (const double inches : {TextNumber(offset), TextNumber(Behind(offset, ','))})
+        if (TooFar(SS1, boring.Row, NameColumn, words + ", offset of the label", offset, inches))
+            return;
     const double water = TextNumber(SS1.Cell(boring.Row, WaterColumn));
+    if (VerticalHolds && TooFar(SS1, boring.Row, WaterColumn, words, SS1.Cell(boring.Row, WaterColumn),
+                                water * Height() / (Vertical.Start - Vertical.End)))
+        return;
     if (water > boring.Is->StickUp + boring.Is->Depth() && boring.Is->Depth() > 0)
         Flag("sheet-water", SS1, boring.Row, WaterColumn,
              words + ": water at " + PlainNumber(water) + " is deeper than the boring, which ends at " +

@@ -234,6 +234,10 @@ void FenceCheck::Places()
         const double back = double(Foreshortening) * stake.Y / plane.PerInch;
         const double along = stake.X / plane.PerInch; // from the diagonal edge
         const Text words = RowInWords(row, stake.Name);
+        const double water = TextNumber(SS1.Cell(row, WaterColumn)) * 2 / (Elevation.Start - Elevation.End);
+        if (TooFar(SS1, row, XColumn, words, SS1.Cell(row, XColumn), along + back) ||
+            (ElevationHolds && TooFar(SS1, row, WaterColumn, words, SS1.Cell(row, WaterColumn), water)))
+            continue;
         const double left = (Wide ? 0.95 : 0.85) + along + back;
         const double foot = 2.7 + back;
         double ground = foot;

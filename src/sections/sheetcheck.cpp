@@ -115,6 +115,16 @@ void SheetCheck::Number(const Grid& grid, int row, int column, const Text& name)
                  ".");
 }
 
+bool SheetCheck::TooFar(const Grid& grid, int row, int column, const Text& name, const Text& cell, double inches)
+{
+    constexpr double most = 3e6; // 32 bits of device units
+    if (!(std::fabs(inches) > most))
+        return false;
+    Flag("sheet-number", grid, row, column,
+         name + ": \"" + Text(Trim(cell)) + "\" is so far beyond the sheet that the drawing stops.");
+    return true;
+}
+
 BoringLookedAt SheetCheck::Boring(const Grid& grid, int row, int column, const Text& file, const Text& consequence)
 {
     const Text path = SectionBoringPath(BoringFileOf(file));

@@ -47,6 +47,9 @@ struct SheetCheck {
     void OneOf(const Grid& grid, int row, int column, const char* letters, bool trimmed, const Text& taken);
     // A cell that has to be blank or a number.
     void Number(const Grid& grid, int row, int column, const Text& name);
+    // A number that puts something so many inches away: too many for a page to hold, where the drawing stops. True: it
+    // was told.
+    bool TooFar(const Grid& grid, int row, int column, const Text& name, const Text& cell, double inches);
     // The boring that a row names: told where it is not there, not current or broken, with what follows from that.
     // Null then.
     BoringLookedAt Boring(const Grid& grid, int row, int column, const Text& file, const Text& consequence);

@@ -344,6 +344,21 @@ TEST_CASE("cells of a section that are no number, or letters that are none of th
     CHECK(AllWords(Check(section)) == "");
 }
 
+TEST_CASE("a number so large that the drawing stops at it is an error")
+{
+    SectionText section = GoodSection();
+    section.Borings[0][2] = "2E9";
+    section.Borings[1][0] = "3E9";
+    section.Borings[1].push_back("0,-1E8");
+    section.Tail[3] = "1E9,10";
+    CHECK(AllWords(Check(section)) ==
+          "sheet-number: Width of the columns: \"1E9,10\" is so far beyond the sheet that the drawing stops.\n"
+          "sheet-number: Row 1, A: \"2E9\" is so far beyond the sheet that the drawing stops.\n"
+          "sheet-number: Row 2, B.BOR: \"3E9\" is so far beyond the sheet that the drawing stops.\n"
+          "sheet-number: Row 2, B.BOR, offset of the label: \"0,-1E8\" is so far beyond the sheet that the drawing "
+          "stops.\n");
+}
+
 TEST_CASE("numbers are what a reader of the cell takes them for")
 {
     using VCROSS::ReadsAsNumber;
