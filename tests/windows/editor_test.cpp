@@ -67,10 +67,11 @@ TEST_CASE("typing starts an edit, Tab goes right, Enter goes down, and the title
     CHECK(frmBorinput::SSLith.Cell(1, 1) == "5.5");
     CHECK(frmBorinput::SSLith.Cell(1, 2) == "cl");
     CHECK(frmBorinput::SSLith.row == 2);
-    CHECK(frmBorinput::SSLith.column == 2);
+    CHECK(frmBorinput::SSLith.column == 1); // where the Tab was pressed
     CHECK(FileChanged == 1);
     CHECK(log->isWindowModified());
     Press(Qt::Key_Up);
+    Press(Qt::Key_Right);
     Press(Qt::Key_F2);
     TypeText("x");
     Press(Qt::Key_Escape);
@@ -702,4 +703,79 @@ TEST_CASE("pictures of the tabs")
         tabs->setCurrentIndex(i);
         LookAt(log, "tab" + std::to_string(i));
     }
+}
+
+// ---- Enter behind Tabs
+
+static void CheckAt(const Grid& grid, int row, int column)
+{
+    CHECK(grid.row == row);
+    CHECK(grid.column == column);
+}
+
+TEST_CASE("Enter behind a run of Tabs goes to the column where the run began, one row down, and Shift+Enter one row up")
+{
+    QMainWindow* log = LogWindow();
+    const Grid& lith = frmBorinput::SSLith;
+    ClickCell(log, "SSLith", 2, 2);
+    TypeText("cl\ts\tbrown\n");
+    CheckAt(lith, 3, 2);
+    CHECK(lith.Cell(2, 4) == "brown");
+    TypeText("sm\t\t\n"); // Tabs with nothing typed
+    CheckAt(lith, 4, 2);
+    Press(Qt::Key_Tab);
+    Press(Qt::Key_Tab);
+    Press(Qt::Key_Return, Qt::ShiftModifier);
+    CheckAt(lith, 3, 2);
+    TypeText("x\ty"); // and from the box of a cell
+    Press(Qt::Key_Return, Qt::ShiftModifier);
+    CheckAt(lith, 2, 2);
+    CHECK(lith.Cell(3, 2) == "x");
+    CHECK(lith.Cell(3, 3) == "y");
+    TypeText("\n");
+    CheckAt(lith, 3, 2);
+    TypeText("a\n"); // Enter alone stays in its column
+    CheckAt(lith, 4, 2);
+    ClickCell(log, "SSLith", 3, 3);
+    TypeText("\t\t5\t\n"); // over the end of the row
+    CheckAt(lith, 5, 3);
+    CHECK(lith.Cell(4, 1) == "5");
+}
+
+TEST_CASE("a click, an arrow and leaving the grid end a run of Tabs, and going back takes its beginning along")
+{
+    QMainWindow* log = LogWindow();
+    const Grid& lith = frmBorinput::SSLith;
+    ClickCell(log, "SSLith", 1, 1);
+    TypeText("\t\t");
+    Press(Qt::Key_Right);
+    TypeText("\n");
+    CheckAt(lith, 2, 4);
+    ClickCell(log, "SSLith", 1, 1);
+    TypeText("\t\t");
+    ClickCell(log, "SSLith", 1, 3); // where it is
+    TypeText("\n");
+    CheckAt(lith, 2, 3);
+    ClickCell(log, "SSLith", 1, 1);
+    TypeText("\t\tx");
+    Press(Qt::Key_Down); // ends the edit
+    TypeText("\n");
+    CheckAt(lith, 3, 3);
+    ClickCell(log, "SSLith", 1, 3);
+    TypeText("\t");
+    for (int i = 0; i < 2; ++i)
+        Press(Qt::Key_Backtab, Qt::ShiftModifier);
+    CheckAt(lith, 1, 2);
+    TypeText("\t\t\n");
+    CheckAt(lith, 2, 2);
+    ClickCell(log, "SSLith", 1, 2);
+    TypeText("\t");
+    Press(Qt::Key_F6);
+    Find<QWidget>(log, "SSLith")->setFocus(Qt::TabFocusReason);
+    TypeText("\n");
+    CheckAt(lith, 2, 3);
+    // Below the last row there is nowhere to go.
+    ClickCell(log, "SSLith", 100, 2);
+    TypeText("\t\n");
+    CheckAt(lith, 100, 3);
 }

@@ -861,3 +861,15 @@ TEST_CASE(
     }
     CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-103xxx");
 }
+
+TEST_CASE("Enter behind a run of Tabs goes back to where it began in a tool's grid too")
+{
+    QMainWindow* log = LogWindow();
+    Visit(log, cases[0], [](QWidget* tool) {
+        ClickCell(tool, "SS1", 1, 1);
+        TypeText(tool, "A.BOR\t0\n");
+        CHECK(frmCross::SS1.row == 2);
+        CHECK(frmCross::SS1.column == 1);
+        Leave(tool);
+    });
+}
