@@ -62,10 +62,7 @@ static void LabelBoxes()
     label(SSCuttings, "Cutting Information", {"Depth", "% Fine", "% Medium", "% Coarse"});
     label(SSFormations, "Formation Information", {"Depth", "Descripton, Abrev."});
     label(SSLegend, "Intro Page Legend", {"USCS", "Text"});
-    for (int n = 1; n <= SampleParams; ++n)
-        SSSamp.headings[n + 5] = "Param." + NumberText(n);
-    for (int n = 1; n <= GenParams; ++n)
-        SSPar.headings[n + 1] = "Param." + NumberText(n);
+    LabelParameters();
 }
 
 // What a change by the user brings about: each sets the flag, and some size boxes or show names elsewhere.
@@ -268,7 +265,7 @@ void frmBorinput::mnuConvertFeetMeters()
 
 void frmBorinput::mnuGraphicSetup()
 {
-    Platform.ShowGraphicsSetup();
+    SetUpGraphics(BoringEmpty());
 }
 
 void frmBorinput::mnuCreateLogo()

@@ -31,6 +31,7 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTextLayout>
+#include <QWindow>
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
@@ -386,9 +387,10 @@ TEST_CASE("a whole boring is typed, saved as the kept file, previewed, printed a
     TypeRows(log, "SSCuttings", {{"5", "40", "40", "20"}});
     TypeRows(log, "SSLegend", {{"CL", "lean clay"}, {"SM", "silty sand"}});
     CHECK(log->isWindowModified());
-    CHECK(Find<QLabel>(log, "lblState")->text() == "2 pages");
+    CHECK(Find<QLabel>(log, "lblState")->text() == "no page");
     CHECK(Find<QLabel>(log, "lblWidthtot")->text() == "Total Width: " + ToUi(frmBorinput::lblWidthtot));
     SaveAs(log, "TYPED");
+    CHECK(Find<QLabel>(log, "lblState")->text() == "2 pages");
     CHECK_FALSE(log->isWindowModified());
     CHECK(log->windowTitle().toStdString() == Scratch("samples/TYPED.BOR") + " - VeskLog - Boring Log Diagram[*]");
     if (std::getenv("STRATAVUE_ACCEPT"))
@@ -778,4 +780,102 @@ TEST_CASE("a click, an arrow and leaving the grid end a run of Tabs, and going b
     ClickCell(log, "SSLith", 100, 2);
     TypeText("\t\n");
     CheckAt(lith, 100, 3);
+}
+
+// ---- The entries of the Edit menu in texts
+
+TEST_CASE("Edit > Cut, Copy and Paste act on the text that is typed in, and on no grid's block")
+{
+    QMainWindow* log = LogWindow();
+    ClickCell(log, "SSInfo", 1, 1);
+    TypeText("keep\n");
+    ClickCell(log, "SSInfo", 1, 1);
+    auto* line = Find<QLineEdit>(log, "Text1");
+    auto* layout = Find<QComboBox>(log, "cmbLayFile");
+    line->setFocus();
+    TypeText("MW-1");
+    line->selectAll();
+    ClickMenu(log, "mnuEdit", "mnuCut");
+    CHECK(frmBorinput::Text1 == "");
+    CHECK(QApplication::clipboard()->text() == "MW-1");
+    CHECK(frmBorinput::SSInfo.Cell(1, 1) == "keep");
+    ClickMenu(log, "mnuEdit", "mnuPaste");
+    CHECK(frmBorinput::Text1 == "MW-1");
+    line->setSelection(0, 2);
+    ClickMenu(log, "mnuEdit", "mnuCopy");
+    CHECK(QApplication::clipboard()->text() == "MW");
+    layout->setFocus();
+    ClickMenu(log, "mnuEdit", "mnuPaste");
+    CHECK(frmBorinput::cmbLayFile == "MW");
+    ClickMenu(log, "mnuEdit", "mnuUndo");
+    CHECK(frmBorinput::cmbLayFile == "");
+    for (const char* name : {"MemoDes", "txtClient"}) {
+        auto* box = static_cast<QPlainTextEdit*>(Bring(log, name));
+        box->setFocus();
+        TypeText("word");
+        box->selectAll();
+        ClickMenu(log, "mnuEdit", "mnuCut"); // no message
+        CHECK(box->toPlainText() == "");
+        ClickMenu(log, "mnuEdit", "mnuPaste");
+        CHECK(box->toPlainText() == "word");
+    }
+    CHECK(frmBorinput::MemoDes.text == "word");
+    // In the box of a cell too: the cell's letters, not the cell.
+    log->activateWindow();
+    Settle();
+    ClickCell(log, "SSInfo", 1, 1);
+    Press(Qt::Key_F2);
+    auto* cell = qobject_cast<QLineEdit*>(Focus());
+    REQUIRE(cell);
+    cell->setSelection(0, 2);
+    ClickMenu(log, "mnuEdit", "mnuCut");
+    Press(Qt::Key_Return);
+    CHECK(frmBorinput::SSInfo.Cell(1, 1) == "ep");
+    FileChanged = 0;
+}
+
+// ---- Titles and lists
+
+TEST_CASE("a name with the sign of unsaved changes in it stands in the title as it is")
+{
+    QMainWindow* log = LogWindow();
+    for (const char* name : {"a[*]b", "c[*][*]"}) {
+        frmBorinput::Title = name;
+        FileChanged = 0;
+        ClickMenu(log, "mnuEdit", "mnuFillDown"); // any command shows the title
+        CHECK(log->windowHandle()->title() == name);
+        FileChanged = 1;
+        ClickMenu(log, "mnuEdit", "mnuFillDown");
+        CHECK(log->windowHandle()->title().toStdString() == std::string(name) + "*");
+    }
+    FileChanged = 0;
+}
+
+TEST_CASE("at the start and after New the Layout File list begins at its first layout")
+{
+    QMainWindow* log = LogWindow();
+    auto* box = Find<QComboBox>(log, "cmbLayFile");
+    REQUIRE(box->count() > 2);
+    CHECK(box->currentIndex() == -1);
+    CHECK(box->currentText() == "");
+    OpenSample("MW-109.BOR");
+    box->setCurrentIndex(2);
+    emit box->textActivated(box->itemText(2));
+    CHECK(FromUi(box->itemText(2)) == frmBorinput::cmbLayFile);
+    FileChanged = 0;
+    ClickMenu(log, "mnuFile", "mnuNew");
+    CHECK(box->currentIndex() == -1);
+    CHECK(box->currentText() == "");
+    CHECK(frmBorinput::cmbLayFile == "");
+    box->setFocus();
+    Press(Qt::Key_Down);
+    CHECK(box->currentIndex() == 0);
+    CHECK(frmBorinput::cmbLayFile == FromUi(box->itemText(0)));
+    // Typing in the middle of a name keeps the caret there.
+    box->lineEdit()->setCursorPosition(1);
+    TypeText("xy");
+    CHECK(box->lineEdit()->cursorPosition() == 3);
+    CHECK(frmBorinput::cmbLayFile == FromUi(box->currentText()));
+    CHECK(box->currentIndex() == -1);
+    FileChanged = 0;
 }

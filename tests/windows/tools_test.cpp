@@ -873,3 +873,26 @@ TEST_CASE("Enter behind a run of Tabs goes back to where it began in a tool's gr
         Leave(tool);
     });
 }
+
+TEST_CASE("a change of the font from a tool marks no empty document as changed")
+{
+    QMainWindow* log = LogWindow();
+    for (const ToolCase& one : cases)
+        Visit(log, one, [&](QWidget* tool) {
+            CAPTURE(one.window);
+            const auto otherFont = [](QWidget* window) {
+                auto* font = Find<QLineEdit>(window, "Text1");
+                font->selectAll();
+                QTest::keyClicks(font, DeviceConfig.FontName == "Arial" ? "DejaVu Sans" : "Arial");
+                ClickButton(window, "Command1");
+            };
+            const Text before = DeviceConfig.FontName;
+            Then("frmPrinterSetup", otherFont);
+            ClickMenu(tool, "mnuUtilities", "mnuGraphicSetup");
+            CheckAllDone();
+            CHECK(DeviceConfig.FontName != before);
+            CHECK(FileChanged == 0);
+            CHECK_FALSE(tool->isWindowModified());
+            Leave(tool);
+        });
+}
