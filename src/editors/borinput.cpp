@@ -10,6 +10,7 @@
 #include "boring/textlines.h"
 #include "canvas/batch.h"
 #include "editors/fillform.h"
+#include "editors/markers.h"
 #include "report/desitems.h"
 #include "report/fontprofile.h"
 #include "report/prompts.h"
@@ -73,6 +74,7 @@ static void WatchBoxes()
             grid->changed = [] { FileChanged = 1; };
     frmBorinput::SSRepParts.changed = frmBorinput::SSGenWellInfo.changed = BorTextChange;
     frmBorinput::SSP1Setup.changed = frmBorinput::SSP2Setup.changed = SetupGridChange;
+    frmBorinput::SSLith.names = &LayerMarkers;
 }
 
 void frmBorinput::Load()

@@ -81,6 +81,8 @@ try {
     MemoWcon.text = FlowingText(BoringData.WellNotes, BoringData.WellNoteCount);
     MemoRemarks.text = FlowingText(BoringData.Remarks, BoringData.RemarkCount);
     MemoBottNotes.text = FlowingText(BoringData.BottNotes, MaxBottNotes);
+    for (Memo* box : {&MemoDes, &MemoWcon, &MemoRemarks, &MemoBottNotes})
+        box->edited = false;
     ShowParameterNames();
     BorTextChange();
     txtClient.clear();
@@ -100,8 +102,10 @@ void ClearBoringForm()
         cmbLayFile.clear();
         LayoutFileChange();
     }
-    for (Memo* box : {&MemoDes, &MemoWcon, &MemoRemarks, &MemoBottNotes})
+    for (Memo* box : {&MemoDes, &MemoWcon, &MemoRemarks, &MemoBottNotes}) {
         box->text.clear();
+        box->edited = false; // of another boring
+    }
     txtClient.clear();
     Check1 = false;
     Option = 0;

@@ -27,6 +27,7 @@
 #include <QListWidget>
 #include <QMainWindow>
 #include <QMimeData>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QTest>
 #include <QTextBlock>
@@ -780,6 +781,50 @@ TEST_CASE("a click, an arrow and leaving the grid end a run of Tabs, and going b
     ClickCell(log, "SSLith", 100, 2);
     TypeText("\t\n");
     CheckAt(lith, 100, 3);
+}
+
+// ---- Markers
+
+static Text StatusWords(QMainWindow* log)
+{
+    return FromUi(log->statusBar()->currentMessage());
+}
+
+TEST_CASE("a row put in takes the markers along: the status line says so, the caret stays, and each box's Undo works")
+{
+    QMainWindow* log = LogWindow();
+    ClickCell(log, "SSLith", 1, 1);
+    TypeText("5\n10\n15\n");
+    auto* box = static_cast<QPlainTextEdit*>(Bring(log, "MemoDes"));
+    box->setFocus();
+    TypeText("@1\nsand\n@2\nclay\n@3\ntill");
+    for (int i = 0; i < 2; ++i)
+        Press(Qt::Key_Left); // inside the word
+    ClickCell(log, "SSLith", 2, 1);
+    ClickMenu(log, "mnuEdit", "mnuInsertRow");
+    CHECK(frmBorinput::MemoDes.text == "@1\r\nsand\r\n@2\r\n@3\r\nclay\r\n@4\r\ntill");
+    CHECK(box->toPlainText() == "@1\nsand\n@2\n@3\nclay\n@4\ntill");
+    CHECK(StatusWords(log) == "Markers @2 to @3 are now @3 to @4. @2 is new, and empty.");
+    CHECK(box->textCursor().position() == box->toPlainText().size() - 2);
+    LookAt(log, "markers-moved");
+    Settle();
+    Press(Qt::Key_Z, Qt::ControlModifier); // in the grid
+    CHECK(frmBorinput::SSLith.Cell(2, 1) == "10");
+    CHECK(box->toPlainText() == "@1\nsand\n@2\nclay\n@3\ntill");
+    CHECK(StatusWords(log) == "Taken back: Markers @2 to @3 are now @3 to @4. @2 is new, and empty.");
+    Press(Qt::Key_Y, Qt::ControlModifier);
+    CHECK(box->toPlainText() == "@1\nsand\n@2\n@3\nclay\n@4\ntill");
+    // In the box the move is a step as well, and what was typed before it is not lost.
+    box->setFocus();
+    box->undo();
+    CHECK(frmBorinput::MemoDes.text == "@1\r\nsand\r\n@2\r\nclay\r\n@3\r\ntill");
+    CHECK(frmBorinput::SSLith.Cell(3, 1) == "10");
+    CHECK(box->document()->isUndoAvailable());
+    FileChanged = 0;
+    // Another boring takes nothing back.
+    ClickMenu(log, "mnuFile", "mnuNew");
+    CHECK(box->toPlainText() == "");
+    CHECK_FALSE(box->document()->isUndoAvailable());
 }
 
 // ---- The entries of the Edit menu in texts

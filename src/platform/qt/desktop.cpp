@@ -31,6 +31,7 @@
 #include <QMainWindow>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTimer>
 #include <QWidget>
 
 void CentreOnScreen(QWidget& window)
@@ -60,12 +61,23 @@ static void SetClipboardText(const Text& text)
     QApplication::clipboard()->setText(ToUi(text));
 }
 
-// A beep, and the words in the status bar of the window in front.
+// The words in the status bar of the window in front, behind those of the same command.
+static void Tell(const Text& words)
+{
+    static bool told = false;
+    auto* window = qobject_cast<QMainWindow*>(QApplication::activeWindow());
+    if (!window)
+        return;
+    const QString before = told ? window->statusBar()->currentMessage() + "  " : QString();
+    window->statusBar()->showMessage(before + ToUi(words), 20000);
+    told = true;
+    QTimer::singleShot(0, [] { told = false; });
+}
+
 static void Notice(const Text& words)
 {
     QApplication::beep();
-    if (auto* window = qobject_cast<QMainWindow*>(QApplication::activeWindow()))
-        window->statusBar()->showMessage(ToUi(words), 10000);
+    Tell(words);
 }
 
 // The commands of the log tool that belong to other windows.
@@ -162,6 +174,7 @@ void UseDesktopPlatform()
     Platform.ClipboardText = ClipboardText;
     Platform.SetClipboardText = SetClipboardText;
     Platform.Notice = Notice;
+    Platform.Tell = Tell;
     Platform.Breathe = Breathe;
     Platform.ShortDate = Today;
     Platform.Unattended = false;

@@ -3,6 +3,7 @@
 
 #include "platform/qt/uitext.h"
 #include "session/linebreaks.h"
+#include "session/textedits.h"
 
 #include <QInputMethodEvent>
 #include <QMimeData>
@@ -172,13 +173,30 @@ void MemoView::Refresh()
     layout->width = wanted;
     if (now != memo.text) {
         showing = true;
-        setPlainText(ToDocument(memo.text));
+        if (memo.edited)
+            Follow(now);
+        else
+            setPlainText(ToDocument(memo.text));
         showing = false;
     }
+    memo.edited = false;
     if (sized) {
         layout->LayOutAll();
         viewport()->update();
     }
+}
+
+// What a command has changed is a step of this box's Undo too, and the caret stays at its words.
+void MemoView::Follow(const Text& shown)
+{
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    for (const TextEdit& edit : EditsBetween(shown, memo.text)) {
+        cursor.setPosition(edit.from);
+        cursor.setPosition(edit.from + edit.removed, QTextCursor::KeepAnchor);
+        cursor.insertText(ToDocument(edit.put));
+    }
+    cursor.endEditBlock();
 }
 
 void MemoView::Insert(const Text& text)

@@ -28,6 +28,7 @@ protected:
 
 private:
     int TextWidth() const; // of the widest line that fits, in pixels
+    void Follow(const Text& shown);
 
     Memo& memo;
     MemoLayout* layout;
