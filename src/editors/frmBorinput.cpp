@@ -13,6 +13,7 @@
 #include "platform/qt/itemlist.h"
 #include "platform/qt/livepane.h"
 #include "platform/qt/memoview.h"
+#include "platform/qt/typedtext.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windowparts.h"
 #include "platform/qt/windows.h"
@@ -429,13 +430,8 @@ QLineEdit* BorinputWindow::Line(const char* name, Text& text)
 {
     auto* line = new QLineEdit(this);
     line->setObjectName(name);
-    connect(line, &QLineEdit::textEdited, this, [this, line, &text](const QString& typed) {
-        text = LineFromUi(typed);
-        if (ToUi(text) != typed) {
-            const int at = line->cursorPosition();
-            line->setText(ToUi(text));
-            line->setCursorPosition(at);
-        }
+    connect(line, &QLineEdit::textEdited, this, [this, line, &text] {
+        text = TypedLine(*line);
         FileChanged = 1;
         ShowState();
     });
@@ -458,8 +454,8 @@ QComboBox* BorinputWindow::LayoutBox()
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr);
     box->installEventFilter(this);
-    connect(box->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& typed) {
-        cmbLayFile = LineFromUi(typed);
+    connect(box->lineEdit(), &QLineEdit::textEdited, this, [this, box] {
+        cmbLayFile = TypedLine(*box->lineEdit());
         LayoutFileChange();
         Typed();
     });
@@ -535,7 +531,7 @@ QWidget* BorinputWindow::ClientBox()
 {
     using frmBorinput::Option;
     using frmBorinput::txtClient;
-    auto* client = new QPlainTextEdit(this);
+    auto* client = new TypedTextEdit(this);
     client->setObjectName("txtClient");
     client->setTabChangesFocus(true);
     Activates(client, 9);

@@ -366,3 +366,60 @@ TEST_CASE("only the Lithology grid moves markers")
     CHECK(Description() == "@1|a|@2|b|@3|c");
     CHECK(Notices.empty());
 }
+
+// What stands under each marker, by the code of its layer.
+static Text TextsByLayer()
+{
+    Text texts;
+    bool placed = false;
+    for (size_t at = 0; at < MemoDes.text.size();) {
+        const size_t end = std::min(MemoDes.text.find("\r\n", at), MemoDes.text.size());
+        const Text line = MemoDes.text.substr(at, end - at);
+        at = end + 2;
+        if (line.starts_with('@')) {
+            const int row = int(TextNumber(line.substr(1)));
+            const Text layer = row >= 1 && row <= SSLith.rows ? SSLith.Cell(row, 1) + SSLith.Cell(row, 2) : "";
+            texts += layer.empty() ? "" : layer + ":";
+            placed = false;
+        } else if (line.starts_with('-')) {
+            placed = true;
+        } else if (!placed) {
+            texts += line + "/";
+        }
+    }
+    return texts;
+}
+
+TEST_CASE("in each sample a row put in anywhere leaves every text with its layer, and Undo leaves nothing behind")
+{
+    int moved = 0;
+    for (const auto& file : std::filesystem::directory_iterator(SOURCE_DIR "/samples")) {
+        if (file.path().extension() != ".BOR")
+            continue;
+        CAPTURE(file.path().filename().string());
+        Prepare(0, "");
+        BoringFileName = file.path().string();
+        DialogMode = 2;
+        OpenBoringFile2();
+        FillBoringForm();
+        ActiveBox = 8;
+        const Text before = MemoDes.text, texts = TextsByLayer();
+        const std::vector<Text> cells = SSLith.cells;
+        const int rows = SSLith.DataRowCount();
+        for (int row = 1; row <= rows; ++row) {
+            CAPTURE(row);
+            SSLith.row = row;
+            mnuInsertRow();
+            CHECK(TextsByLayer() == texts);
+            moved += MemoDes.text != before;
+            mnuUndo();
+            CHECK(MemoDes.text == before);
+            SSLith.row = row;
+            mnuDeleteRow();
+            mnuUndo();
+            CHECK(MemoDes.text == before);
+            CHECK(SSLith.cells == cells);
+        }
+    }
+    CHECK(moved > 50);
+}

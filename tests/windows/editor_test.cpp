@@ -268,17 +268,17 @@ TEST_CASE("Tab leaves a text box, and a click on a description item writes it at
     CHECK(frmBorinput::MemoDes.text == "very dense" + before);
 }
 
-TEST_CASE("a letter that the code page lacks is typed and pasted as a question mark")
+TEST_CASE("letters that the code page lacks are typed and pasted as their nearest, a line sign as a line end")
 {
     QMainWindow* log = LogWindow();
     auto* view = static_cast<QPlainTextEdit*>(Bring(log, "MemoRemarks"));
     Click(view->viewport());
     QApplication::clipboard()->setText(QString::fromUtf8("π≈3\u2028\U0001F600é\u00a0\tz"));
     Press(Qt::Key_V, Qt::ControlModifier);
-    CHECK(frmBorinput::MemoRemarks.text == "??3??\xE9\xA0\tz");
+    CHECK(frmBorinput::MemoRemarks.text == "pi~3\r\n?\xE9\xA0\tz");
     QKeyEvent pi(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString::fromUtf8("π"));
     QApplication::sendEvent(view, &pi);
-    CHECK(frmBorinput::MemoRemarks.text == "??3??\xE9\xA0\tz?");
+    CHECK(frmBorinput::MemoRemarks.text == "pi~3\r\n?\xE9\xA0\tzpi");
 }
 
 TEST_CASE("typing into a description of 1000 lines puts each letter at the caret, and the figures say what it costs")

@@ -2,8 +2,10 @@
 #include "platform/qt/boxes.h"
 
 #include "canvas/batch.h"
+#include "platform/qt/typedtext.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
+#include "session/gridedit.h"
 
 #include <QApplication>
 #include <QInputDialog>
@@ -76,5 +78,5 @@ Text ShowInputBox(const Text& prompt, const Text& title, const Text& answer)
     box.setWindowTitle(ToUi(title));
     box.setLabelText(ToUi(prompt));
     box.setTextValue(ToUi(answer));
-    return box.exec() == QDialog::Accepted ? LineFromUi(box.textValue()) : Text();
+    return box.exec() == QDialog::Accepted ? OneLine(Typed(box.textValue())) : Text();
 }

@@ -12,6 +12,7 @@
 #include "platform/qt/helpwindow.h"
 #include "platform/qt/pagepainter.h"
 #include "platform/qt/printers.h"
+#include "platform/qt/typedtext.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
 #include "report/desitems.h"
@@ -28,10 +29,7 @@
 #include <QClipboard>
 #include <QDate>
 #include <QLocale>
-#include <QMainWindow>
 #include <QScreen>
-#include <QStatusBar>
-#include <QTimer>
 #include <QWidget>
 
 void CentreOnScreen(QWidget& window)
@@ -53,7 +51,7 @@ static Text Today()
 
 static Text ClipboardText()
 {
-    return FromUi(QApplication::clipboard()->text());
+    return Typed(QApplication::clipboard()->text());
 }
 
 static void SetClipboardText(const Text& text)
@@ -61,19 +59,12 @@ static void SetClipboardText(const Text& text)
     QApplication::clipboard()->setText(ToUi(text));
 }
 
-// The words in the status bar of the window in front, behind those of the same command.
 static void Tell(const Text& words)
 {
-    static bool told = false;
-    auto* window = qobject_cast<QMainWindow*>(QApplication::activeWindow());
-    if (!window)
-        return;
-    const QString before = told ? window->statusBar()->currentMessage() + "  " : QString();
-    window->statusBar()->showMessage(before + ToUi(words), 20000);
-    told = true;
-    QTimer::singleShot(0, [] { told = false; });
+    TellWords(ToUi(words));
 }
 
+// A beep, and the words in the status bar of the window in front.
 static void Notice(const Text& words)
 {
     QApplication::beep();

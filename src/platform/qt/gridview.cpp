@@ -1,6 +1,7 @@
 // gridview.cpp -- a grid record on the screen.
 #include "platform/qt/gridview.h"
 
+#include "platform/qt/typedtext.h"
 #include "platform/qt/uitext.h"
 #include "session/gridedit.h"
 
@@ -54,7 +55,7 @@ public:
         typed = QModelIndex();
         if (at.row() >= grid.rows || at.column() >= grid.columns) // the cell has gone meanwhile
             return {};
-        TypeCell(grid, at.row() + 1, at.column() + 1, FromUi(typedText));
+        TypeCell(grid, at.row() + 1, at.column() + 1, Typed(typedText));
         return at;
     }
     int rowCount(const QModelIndex& parent) const override
@@ -165,8 +166,12 @@ public:
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         const size_t column = size_t(index.column()) + 1;
-        if (column >= grid.choices.size() || grid.choices[column].empty())
-            return QStyledItemDelegate::createEditor(parent, option, index);
+        if (column >= grid.choices.size() || grid.choices[column].empty()) {
+            QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+            if (auto* line = qobject_cast<QLineEdit*>(editor))
+                CleanAsTyped(line);
+            return editor;
+        }
         auto* list = new QComboBox(parent);
         for (const Text& choice : grid.choices[column])
             list->addItem(ToUi(choice));

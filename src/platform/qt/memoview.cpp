@@ -5,7 +5,7 @@
 #include "session/linebreaks.h"
 #include "session/textedits.h"
 
-#include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
 #include <QTextBlock>
@@ -33,19 +33,6 @@ static Text FromDocument(QString shown)
         if (letter.unicode() >= firstSign && letter.unicode() < firstSign + controlCharacters)
             letter = QChar(ushort(letter.unicode() - firstSign));
     return FromUi(shown);
-}
-
-// What comes from outside, in letters of the code page.
-static QString Clean(const QString& text)
-{
-    Text inside = FromUi(text);
-    Text lines; // every kind of line end is a paragraph's
-    for (size_t i = 0; i < inside.size(); ++i) {
-        if (inside[i] == '\r' && i + 1 < inside.size() && inside[i + 1] == '\n')
-            continue;
-        lines += inside[i] == '\r' || inside[i] == '\n' ? "\r\n" : Text(1, inside[i]);
-    }
-    return ToDocument(lines);
 }
 
 // ---- The lines
@@ -119,7 +106,7 @@ private:
 
 // ---- The box
 
-MemoView::MemoView(const char* name, Memo& shown, QWidget* parent) : QPlainTextEdit(parent), memo(shown)
+MemoView::MemoView(const char* name, Memo& shown, QWidget* parent) : TypedTextEdit(parent), memo(shown)
 {
     setObjectName(name);
     setTabChangesFocus(true);
@@ -215,7 +202,19 @@ QSize MemoView::sizeHint() const
     return QSize(TextWidth() + 40, 200);
 }
 
-// A letter that the code page lacks comes as "?" from the keyboard too.
+// Every kind of line end is a paragraph's.
+QString MemoView::Clean(const QString& typed) const
+{
+    const Text inside = Typed(typed);
+    Text lines;
+    for (size_t i = 0; i < inside.size(); ++i) {
+        if (inside[i] == '\r' && i + 1 < inside.size() && inside[i + 1] == '\n')
+            continue;
+        lines += inside[i] == '\r' || inside[i] == '\n' ? "\r\n" : Text(1, inside[i]);
+    }
+    return ToDocument(lines);
+}
+
 void MemoView::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Redo) ||
@@ -229,32 +228,13 @@ void MemoView::keyPressEvent(QKeyEvent* event)
         QPlainTextEdit::keyPressEvent(&plain);
         return;
     }
-    const QString text = event->text();
-    if (text.isEmpty() || !text[0].isPrint() || Clean(text) == text) {
-        QPlainTextEdit::keyPressEvent(event);
-        return;
-    }
-    QKeyEvent clean(event->type(), event->key(), event->modifiers(), Clean(text));
-    QPlainTextEdit::keyPressEvent(&clean);
-}
-
-void MemoView::inputMethodEvent(QInputMethodEvent* event)
-{
-    QInputMethodEvent clean(event->preeditString(), event->attributes());
-    clean.setCommitString(Clean(event->commitString()), event->replacementStart(), event->replacementLength());
-    QPlainTextEdit::inputMethodEvent(&clean);
+    TypedTextEdit::keyPressEvent(event);
 }
 
 // Files are for the window.
 bool MemoView::canInsertFromMimeData(const QMimeData* source) const
 {
     return !source->hasUrls() && source->hasText();
-}
-
-void MemoView::insertFromMimeData(const QMimeData* source)
-{
-    textCursor().insertText(Clean(source->text()));
-    ensureCursorVisible();
 }
 
 // Qt's own layout forgets all lines when the width of the window changes.
