@@ -152,10 +152,10 @@ TEST_CASE("in a cell what is typed and pasted has its nearest letters, and it is
     PasteText(lessOrEqual + "\t" + han + "\n" + enDash);
     CHECK(frmBorinput::SSInfo.Cell(2, 2) == "<=");
     CHECK(frmBorinput::SSInfo.Cell(3, 2) == "\x96");
+    LookAt(log, "nearest");
     const QString words = Words(log);
     CHECK(words.startsWith("Not in the code page: " + lessOrEqual + " became \"<=\", " + han));
     CHECK(words.contains("The clipboard holds more than fits here")); // neither hides the other
-    LookAt(log, "nearest");
     FileChanged = 0;
 }
 
