@@ -17,6 +17,7 @@ struct MarkedBlock {
     int number = 0; // of the row before; 0: the one that takes the place of a layer without a text
     int moved = 0;  // of the row now
     bool gone = false;
+    bool above = false; // its text has gone to the layer above
     Text marker;
     std::vector<Text> lines;
 
@@ -77,7 +78,7 @@ static Description Parsed(const Text& text)
         at = end + CrLf.size();
         size_t from = 0, length = 0;
         if (MarkerDigits(line, from, length))
-            parsed.blocks.push_back({int(TextNumber(line.substr(from, length))), 0, false, line, {}});
+            parsed.blocks.push_back({int(TextNumber(line.substr(from, length))), 0, false, false, line, {}});
         else if (parsed.blocks.empty())
             parsed.head.push_back(line);
         else
@@ -114,31 +115,36 @@ static bool InOrder(const std::vector<MarkedBlock>& blocks)
                           [](const MarkedBlock& a, const MarkedBlock& b) { return a.number < b.number; });
 }
 
-// The layer that has the depths of one that has gone: the next one below it, else the next above. 0: there is none.
-static int NextLayer(const RowMoves& moves, int row, int layers)
+static bool IsLayer(const LayerRows& layers, int row)
 {
-    const auto layer = [&](int other) {
-        const int now = MovedRow(moves, other);
-        return now <= layers ? now : 0;
-    };
-    for (int other = row + 1; other < int(moves.size()); ++other)
-        if (const int below = layer(other))
-            return below;
-    for (int other = row - 1; other > 0; --other)
-        if (const int above = layer(other))
-            return above;
-    return 0;
+    return row > 0 && row < int(layers.size()) && layers[size_t(row)];
 }
 
-static void Renumber(std::vector<MarkedBlock>& blocks, const RowMoves& moves, int layers)
+// A block whose layer has gone goes to the one that has its depths: the next one below it, else the next above. Where
+// there is none it stays.
+static void FindLayer(MarkedBlock& block, const RowMoves& moves, const LayerRows& layers)
+{
+    block.moved = block.number;
+    for (int other = block.number + 1; other < int(moves.size()); ++other)
+        if (const int now = MovedRow(moves, other); IsLayer(layers, now)) {
+            block.moved = now;
+            return;
+        }
+    for (int other = block.number - 1; other > 0; --other)
+        if (const int now = MovedRow(moves, other); IsLayer(layers, now)) {
+            block.moved = now;
+            block.above = true;
+            return;
+        }
+}
+
+static void Renumber(std::vector<MarkedBlock>& blocks, const RowMoves& moves, const LayerRows& layers)
 {
     for (MarkedBlock& block : blocks) {
         block.moved = MovedRow(moves, block.number);
         block.gone = block.moved == 0;
         if (block.gone)
-            block.moved = NextLayer(moves, block.number, layers);
-        if (block.moved == 0)
-            block.moved = block.number;
+            FindLayer(block, moves, layers);
         block.marker = Renumbered(block.marker, block.moved);
     }
 }
@@ -167,9 +173,10 @@ static void Merge(std::vector<MarkedBlock>& blocks)
     blocks = std::move(merged);
 }
 
-// The numbers below the last marker that have none and had one, or would be the only gap. blocks are in order.
+// The numbers below the last marker that have none and need one: they had one, or a layer has come into an order that
+// had no gap. blocks are in order.
 static std::set<int> PlacesToHold(const std::vector<MarkedBlock>& before, const std::vector<MarkedBlock>& now,
-                                  const RowMoves& moves)
+                                  const RowMoves& moves, const LayerRows& layers)
 {
     std::set<int> had, has, free;
     for (const MarkedBlock& block : before)
@@ -182,7 +189,8 @@ static std::set<int> PlacesToHold(const std::vector<MarkedBlock>& before, const 
             free.insert(MovedRow(moves, number));
     std::set<int> places;
     for (int number = 1; number < *has.rbegin(); ++number)
-        if (!has.contains(number) && !free.contains(number) && (whole || had.contains(number)))
+        if (!has.contains(number) && !free.contains(number) &&
+            (had.contains(number) || (whole && IsLayer(layers, number))))
             places.insert(number);
     return places;
 }
@@ -192,11 +200,26 @@ static void HoldPlaces(std::vector<MarkedBlock>& blocks, const std::set<int>& pl
     for (const int number : places) {
         const auto behind = std::find_if(blocks.begin(), blocks.end(),
                                          [number](const MarkedBlock& block) { return block.moved > number; });
-        blocks.insert(behind, {0, number, false, "@" + PlainNumber(number), {}});
+        blocks.insert(behind, {0, number, false, false, "@" + PlainNumber(number), {}});
     }
 }
 
 // ---- In words
+
+// "@2", "@2 to @4, @7".
+static Text Names(const std::set<int>& numbers)
+{
+    Text names;
+    for (auto from = numbers.begin(); from != numbers.end();) {
+        auto last = from;
+        for (auto next = std::next(last); next != numbers.end() && *next == *last + 1; ++next)
+            last = next;
+        names +=
+            (names.empty() ? "@" : ", @") + PlainNumber(*from) + (from == last ? Text() : " to @" + PlainNumber(*last));
+        from = std::next(last);
+    }
+    return names;
+}
 
 // "Markers @5 to @9 are now @6 to @10." for each run of them.
 static Text WordsOfMoves(const std::vector<MarkedBlock>& blocks)
@@ -222,16 +245,19 @@ static Text WordsOfMoves(const std::vector<MarkedBlock>& blocks)
 }
 
 // What becomes of the texts whose layers have gone.
-static Text WordsOfGone(const std::vector<MarkedBlock>& blocks, int layers)
+static Text WordsOfGone(const std::vector<MarkedBlock>& blocks, const LayerRows& layers)
 {
     Text words;
-    for (const MarkedBlock& block : blocks)
-        if (block.gone && HasText(block))
-            words +=
-                (words.empty() ? "" : " ") + ("The text of @" + PlainNumber(block.number)) +
-                ", whose layer has gone, stays" +
-                (block.moved > layers ? Text(" under its marker.")
-                                      : ": it is now with the next layer, under @" + PlainNumber(block.moved) + ".");
+    for (const MarkedBlock& block : blocks) {
+        if (!block.gone || !HasText(block))
+            continue;
+        const Text where = block.above ? "above" : "below";
+        words += (words.empty() ? "" : " ") + ("The text of @" + PlainNumber(block.number)) +
+                 ", whose layer has gone, stays" +
+                 (IsLayer(layers, block.moved)
+                      ? ": it is now with the layer " + where + ", under @" + PlainNumber(block.moved) + "."
+                      : Text(" under its marker."));
+    }
     return words;
 }
 
@@ -249,10 +275,7 @@ static Text WordsOfEmpty(const std::vector<MarkedBlock>& blocks)
 
 static Text WordsOfPlaces(const std::set<int>& places)
 {
-    Text words;
-    for (const int number : places)
-        words += (words.empty() ? "@" : ", @") + PlainNumber(number);
-    return words.empty() ? "" : words + (places.size() == 1 ? " is new, and empty." : " are new, and empty.");
+    return places.empty() ? "" : Names(places) + (places.size() == 1 ? " is" : " are") + " new, and empty.";
 }
 
 static Text InOneLine(std::initializer_list<Text> sentences)
@@ -271,7 +294,7 @@ static bool NamesLayers(const Text& description)
     return description.starts_with('@') || UpperCase(description).starts_with("MANUAL");
 }
 
-MovedMarkers MoveMarkers(const Text& description, const RowMoves& moves, int layers)
+MovedMarkers MoveMarkers(const Text& description, const RowMoves& moves, const LayerRows& layers)
 {
     Description parsed = NamesLayers(description) ? Parsed(description) : Description();
     std::vector<MarkedBlock>& blocks = parsed.blocks;
@@ -284,7 +307,7 @@ MovedMarkers MoveMarkers(const Text& description, const RowMoves& moves, int lay
         std::stable_sort(blocks.begin(), blocks.end(),
                          [](const MarkedBlock& a, const MarkedBlock& b) { return a.moved < b.moved; });
     Merge(blocks);
-    const std::set<int> places = inOrder ? PlacesToHold(before, blocks, moves) : std::set<int>();
+    const std::set<int> places = inOrder ? PlacesToHold(before, blocks, moves, layers) : std::set<int>();
     HoldPlaces(blocks, places);
     return {Joined(parsed), InOneLine({WordsOfMoves(before), WordsOfGone(before, layers), WordsOfEmpty(before),
                                        WordsOfPlaces(places)})};
@@ -307,7 +330,12 @@ static void PutDescription(const Text& text)
 
 static Text MoveInBox(const RowMoves& moves)
 {
-    const MovedMarkers moved = MoveMarkers(frmBorinput::MemoDes.text, moves, frmBorinput::SSLith.DataRowCount());
+    const Grid& grid = frmBorinput::SSLith;
+    LayerRows layers(size_t(grid.rows) + 1);
+    for (int row = 1; row <= grid.rows; ++row)
+        for (int column = 1; column <= grid.columns; ++column)
+            layers[size_t(row)] = layers[size_t(row)] || !IsBlank(grid.Cell(row, column));
+    const MovedMarkers moved = MoveMarkers(frmBorinput::MemoDes.text, moves, layers);
     PutDescription(moved.text);
     return moved.words;
 }
@@ -316,11 +344,15 @@ static Text CutFromBox(int top, int bottom)
 {
     if (!NamesLayers(frmBorinput::MemoDes.text))
         return "";
-    Text names;
+    std::set<int> numbers;
     for (const MarkedBlock& block : Parsed(frmBorinput::MemoDes.text).blocks)
         if (block.number >= top && block.number <= bottom)
-            names += (names.empty() ? "@" : ", @") + PlainNumber(block.number);
-    return names.empty() ? "" : "The text under " + names + " stays for now; it goes along when these rows are pasted.";
+            numbers.insert(block.number);
+    if (numbers.empty())
+        return "";
+    return numbers.size() == 1
+               ? "The text under " + Names(numbers) + " stays for now; it goes along when its row is pasted."
+               : "The texts under " + Names(numbers) + " stay for now; they go along when their rows are pasted.";
 }
 
 const RowNames LayerMarkers = {DescriptionText, PutDescription, MoveInBox, CutFromBox};

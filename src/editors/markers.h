@@ -10,11 +10,14 @@ struct MovedMarkers {
     Text words; // what has been done; "" for nothing
 };
 
-// The description when the rows have moved, and so many of them hold layers now. The text of a layer that has gone
+// Which rows hold a layer, from index 1; those behind the list hold none.
+using LayerRows = std::vector<bool>;
+
+// The description when the rows have moved, and these hold layers now. The text of a layer that has gone
 // stays, with the layer that has its depths now: the one below it, else the one above. Markers that were in order
 // without a gap are so again: an empty one holds the place of a layer that has come, and blocks of text change places
 // as their layers do.
-MovedMarkers MoveMarkers(const Text& description, const RowMoves& moves, int layers);
+MovedMarkers MoveMarkers(const Text& description, const RowMoves& moves, const LayerRows& layers);
 
 // The description box as the text that names the rows of the Lithology grid.
 extern const RowNames LayerMarkers;

@@ -77,7 +77,7 @@ static Text OnlyNotice()
 
 static Text Moved(const char* description, const RowMoves& moves, int layers)
 {
-    return Short(MoveMarkers(Lines(description), moves, layers).text);
+    return Short(MoveMarkers(Lines(description), moves, LayerRows(size_t(layers) + 1, true)).text);
 }
 
 TEST_CASE("a row put in takes the markers below it along, with an empty one for the new layer, and it is said")
@@ -116,7 +116,7 @@ TEST_CASE("the text of a deleted layer stays, in front of that of the layer belo
     CHECK(Codes() == "ACD");
     CHECK(Description() == "@1|a|@2|b|c|@3|d|");
     CHECK(OnlyNotice() == "Markers @3 to @4 are now @2 to @3. The text of @2, whose layer has gone, stays: it is now "
-                          "with the next layer, under @2.");
+                          "with the layer below, under @2.");
     mnuUndo();
     CHECK(Codes() == "ABCD");
     CHECK(Description() == "@1|a|@2|b|@3|c|@4|d|");
@@ -128,7 +128,7 @@ TEST_CASE("the text of a deleted last layer stays with the layer above it")
     SSLith.row = 3;
     mnuDeleteRow();
     CHECK(Description() == "@1|a|@2|b|c");
-    CHECK(OnlyNotice() == "The text of @3, whose layer has gone, stays: it is now with the next layer, under @2.");
+    CHECK(OnlyNotice() == "The text of @3, whose layer has gone, stays: it is now with the layer above, under @2.");
 }
 
 TEST_CASE("an empty marker goes with its deleted layer, and the only layer's text stays under its marker")
@@ -220,12 +220,12 @@ TEST_CASE("rows cut out and pasted elsewhere take their texts along, in one step
     mnuCut();
     CHECK(Codes() == "A__D");
     CHECK(Description() == "@1|a|@2|b|@3|c|@4|d");
-    CHECK(OnlyNotice() == "The text under @2, @3 stays for now; it goes along when these rows are pasted.");
+    CHECK(OnlyNotice() == "The texts under @2 to @3 stay for now; they go along when their rows are pasted.");
     SelectRows(5, 5);
     mnuPaste();
     CHECK(Codes() == "A__DBC");
     CHECK(Description() == "@1|a|@2|@3|@4|d|@5|b|@6|c");
-    CHECK(OnlyNotice() == "Markers @2 to @3 are now @5 to @6. @2, @3 are new, and empty.");
+    CHECK(OnlyNotice() == "Markers @2 to @3 are now @5 to @6. @2 to @3 are new, and empty.");
     mnuUndo();
     CHECK(Codes() == "A__D");
     CHECK(Description() == "@1|a|@2|b|@3|c|@4|d");
@@ -283,7 +283,7 @@ TEST_CASE("rows that were cut out go once: pasted again they are copies")
     SelectRows(5, 5);
     mnuPaste();
     CHECK(Codes() == "AB__C");
-    CHECK(Description() == "@1|a|@2|b|@3|@4|@5|c");
+    CHECK(Description() == "@1|a|@2|b|@3|@5|c"); // no layer has come to row 4
 }
 
 TEST_CASE("whole rows pasted over others keep the markers, and the table back from a spreadsheet moves them")
@@ -365,6 +365,24 @@ TEST_CASE("only the Lithology grid moves markers")
     }
     CHECK(Description() == "@1|a|@2|b|@3|c");
     CHECK(Notices.empty());
+}
+
+TEST_CASE("a row pasted far below leaves no markers for the blank rows between, and comes back without a trace")
+{
+    Prepare(3, "@1|a|@2|b|@3|c");
+    SelectRows(2, 2);
+    mnuCut();
+    CHECK(OnlyNotice() == "The text under @2 stays for now; it goes along when its row is pasted.");
+    SelectRows(90, 90);
+    mnuPaste();
+    CHECK(Description() == "@1|a|@2|@3|c|@90|b");
+    CHECK(OnlyNotice() == "Marker @2 is now @90. @2 is new, and empty.");
+    SelectRows(90, 90);
+    mnuCut();
+    SelectRows(2, 2);
+    mnuPaste();
+    CHECK(Codes() == "ABC");
+    CHECK(Description() == "@1|a|@2|b|@3|c");
 }
 
 // What stands under each marker, by the code of its layer.
