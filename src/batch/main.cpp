@@ -231,7 +231,7 @@ static void FillPlatform()
     Platform.ShowHelp = [] {};
     Platform.ClipboardText = [] { return Text(); };
     Platform.SetClipboardText = [](const Text&) {};
-    Platform.Notice = Say;
+    Platform.Notice = Platform.Tell = Say;
     Platform.Breathe = [] {};
     Platform.ExecutableFolder = ExecutableFolder;
     Platform.DataFolder = UserDataFolder;

@@ -11,6 +11,7 @@
 #include "boring/textlines.h"
 #include "canvas/batch.h"
 #include "editors/fillform.h"
+#include "editors/markers.h"
 #include "editors/nextfile.h"
 #include "report/desitems.h"
 #include "report/fontprofile.h"
@@ -69,10 +70,7 @@ static void LabelBoxes()
     label(SSCuttings, "Cutting Information", {"Depth", "% Fine", "% Medium", "% Coarse"});
     label(SSFormations, "Formation Information", {"Depth", "Descripton, Abrev."});
     label(SSLegend, "Intro Page Legend", {"USCS", "Text"});
-    for (int n = 1; n <= SampleParams; ++n)
-        SSSamp.headings[n + 5] = "Param." + NumberText(n);
-    for (int n = 1; n <= GenParams; ++n)
-        SSPar.headings[n + 1] = "Param." + NumberText(n);
+    LabelParameters();
 }
 
 // What a change by the user brings about: each sets the flag, and some size boxes or show names elsewhere.
@@ -83,6 +81,7 @@ static void WatchBoxes()
             grid->changed = [] { FileChanged = 1; };
     frmBorinput::SSRepParts.changed = frmBorinput::SSGenWellInfo.changed = BorTextChange;
     frmBorinput::SSP1Setup.changed = frmBorinput::SSP2Setup.changed = SetupGridChange;
+    frmBorinput::SSLith.names = &LayerMarkers;
 }
 
 void frmBorinput::Load()
@@ -303,7 +302,7 @@ void frmBorinput::mnuConvertFeetMeters()
 
 void frmBorinput::mnuGraphicSetup()
 {
-    Platform.ShowGraphicsSetup();
+    SetUpGraphics(BoringEmpty());
 }
 
 void frmBorinput::mnuCreateLogo()

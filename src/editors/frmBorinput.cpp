@@ -14,6 +14,7 @@
 #include "platform/qt/itemlist.h"
 #include "platform/qt/livepane.h"
 #include "platform/qt/memoview.h"
+#include "platform/qt/typedtext.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windowparts.h"
 #include "platform/qt/windows.h"
@@ -73,10 +74,12 @@ protected:
     bool eventFilter(QObject* box, QEvent* event) override;
 
 private:
+    QAction* Action(QMenu* menu, const char* name, const char* caption, QKeySequence keys);
     QAction* Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
                    std::function<void()> command);
+    QAction* TextEntry(QMenu* menu, const char* name, const char* caption, QKeySequence keys, TextCommand text,
+                       void (*command)());
     void FillMenus();
-    void UndoOrRedo(bool undo);
     void Typed(); // a box has changed: what stands elsewhere is shown anew
     void ShowState();
     void Activates(QWidget* box, int number);
@@ -201,21 +204,21 @@ void BorinputWindow::FillMenus()
 
     using frmBorinput::Commands;
     QMenu* edit = part(menuBar(), "mnuEdit", "&Edit");
-    Entry(edit, "mnuUndo", "&Undo", QKeySequence("Ctrl+Z"), [this] { UndoOrRedo(true); });
-    Entry(edit, "mnuRedo", "&Redo", {}, [this] {
-        UndoOrRedo(false);
-    })->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});
+    TextEntry(edit, "mnuUndo", "&Undo", QKeySequence("Ctrl+Z"), TextCommand::Undo, frmBorinput::mnuUndo);
+    TextEntry(edit, "mnuRedo", "&Redo", {}, TextCommand::Redo, frmBorinput::mnuRedo)
+        ->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});
     edit->addSeparator();
-    Entry(edit, "mnuCut", "Cu&t", QKeySequence("Ctrl+X"), frmBorinput::mnuCut);
-    Entry(edit, "mnuCopy", "&Copy", QKeySequence("Ctrl+C"), frmBorinput::mnuCopy);
-    Entry(edit, "mnuPaste", "&Paste", QKeySequence("Ctrl+V"), frmBorinput::mnuPaste);
+    TextEntry(edit, "mnuCut", "Cu&t", QKeySequence("Ctrl+X"), TextCommand::Cut, frmBorinput::mnuCut);
+    TextEntry(edit, "mnuCopy", "&Copy", QKeySequence("Ctrl+C"), TextCommand::Copy, frmBorinput::mnuCopy);
+    TextEntry(edit, "mnuPaste", "&Paste", QKeySequence("Ctrl+V"), TextCommand::Paste, frmBorinput::mnuPaste);
     Entry(edit, "mnuFillDown", "&Fill Down", QKeySequence("Ctrl+D"), frmBorinput::mnuFillDown);
     edit->addSeparator();
     Entry(edit, "mnuInsertRow", "&Insert Row", QKeySequence("Ctrl++"), frmBorinput::mnuInsertRow);
     Entry(edit, "mnuDeleteRow", "&Delete Row", QKeySequence("Ctrl+-"), frmBorinput::mnuDeleteRow);
     edit->addSeparator();
     Entry(edit, "mnuEditHeading", "Edit &Heading File...", {}, Commands.mnuEditHeading);
-    Entry(edit, "mnuEditLayout", "Edit &Layout File...", {}, Commands.mnuEditLayout);
+    Entry(edit, "mnuEditLayout", "Edit &Layout File...", {},
+          Commands.mnuEditLayout ? [] { EditLayouts(Commands.mnuEditLayout); } : std::function<void()>());
     Entry(edit, "mnuEditDesItems", "Edit De&scription Items...", {}, Commands.mnuEditDesItems);
     Entry(edit, "mnuEditPromptFile", "Edit Pr&ompt File...", {}, Commands.mnuEditPromptFile);
 
@@ -244,15 +247,33 @@ void BorinputWindow::FillMenus()
     Entry(help, "mnuHelp", "&Help", QKeySequence::HelpContents, frmBorinput::mnuHelp);
 }
 
-QAction* BorinputWindow::Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
-                               std::function<void()> command)
+QAction* BorinputWindow::Action(QMenu* menu, const char* name, const char* caption, QKeySequence keys)
 {
     auto* action = new QAction(caption, this);
     action->setObjectName(name);
     action->setShortcut(keys);
-    action->setEnabled(bool(command));
     menu->addAction(action);
+    return action;
+}
+
+QAction* BorinputWindow::Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
+                               std::function<void()> command)
+{
+    QAction* action = Action(menu, name, caption, keys);
+    action->setEnabled(bool(command));
     connect(action, &QAction::triggered, this, [this, command] { Run(command); });
+    return action;
+}
+
+// In the text that has the focus; else by the box last entered.
+QAction* BorinputWindow::TextEntry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
+                                   TextCommand text, void (*command)())
+{
+    QAction* action = Action(menu, name, caption, keys);
+    connect(action, &QAction::triggered, this, [this, text, command] {
+        if (!DoInText(focusWidget(), text))
+            Run(command);
+    });
     return action;
 }
 
@@ -276,17 +297,6 @@ void BorinputWindow::Run(const std::function<void()>& command)
         }
     } afterwards{*this};
     command();
-}
-
-// In the box that has the focus; else in the grid last entered.
-void BorinputWindow::UndoOrRedo(bool undo)
-{
-    if (auto* text = qobject_cast<QPlainTextEdit*>(focusWidget()))
-        undo ? text->undo() : text->redo();
-    else if (auto* line = qobject_cast<QLineEdit*>(focusWidget()))
-        undo ? line->undo() : line->redo();
-    else
-        undo ? frmBorinput::mnuUndo() : frmBorinput::mnuRedo();
 }
 
 bool BorinputWindow::Takes(const Text& name) const
@@ -413,13 +423,8 @@ QLineEdit* BorinputWindow::Line(const char* name, Text& text)
 {
     auto* line = new QLineEdit(this);
     line->setObjectName(name);
-    connect(line, &QLineEdit::textEdited, this, [this, line, &text](const QString& typed) {
-        text = LineFromUi(typed);
-        if (ToUi(text) != typed) {
-            const int at = line->cursorPosition();
-            line->setText(ToUi(text));
-            line->setCursorPosition(at);
-        }
+    connect(line, &QLineEdit::textEdited, this, [this, line, &text] {
+        text = TypedLine(*line);
         FileChanged = 1;
         ShowState();
     });
@@ -442,8 +447,8 @@ QComboBox* BorinputWindow::LayoutBox()
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr);
     box->installEventFilter(this);
-    connect(box->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& typed) {
-        cmbLayFile = LineFromUi(typed);
+    connect(box->lineEdit(), &QLineEdit::textEdited, this, [this, box] {
+        cmbLayFile = TypedLine(*box->lineEdit());
         LayoutFileChange();
         Typed();
     });
@@ -467,10 +472,14 @@ QComboBox* BorinputWindow::LayoutBox()
         // With the place in the list, or leaving the box would count as a choice from the list.
         const QString chosen = ToUi(cmbLayFile);
         const bool other = box->currentText() != chosen;
-        if (const int place = box->findText(chosen); place >= 0)
-            box->setCurrentIndex(place);
+        // A name that is not in it has none, and the arrows begin at its first one.
+        const int caret = box->lineEdit()->cursorPosition(), place = box->findText(chosen);
+        if (!other && place == box->currentIndex())
+            return;
+        box->setCurrentIndex(place);
         if (box->currentText() != chosen)
             box->setEditText(chosen);
+        box->lineEdit()->setCursorPosition(caret);
         if (other)
             box->lineEdit()->setCursorPosition(0);
     });
@@ -515,7 +524,7 @@ QWidget* BorinputWindow::ClientBox()
 {
     using frmBorinput::Option;
     using frmBorinput::txtClient;
-    auto* client = new QPlainTextEdit(this);
+    auto* client = new TypedTextEdit(this);
     client->setObjectName("txtClient");
     client->setTabChangesFocus(true);
     Activates(client, 9);
@@ -803,13 +812,12 @@ void BorinputWindow::ShowState()
     setWindowModified(FileChanged == 1 || SaveOwed());
     live->Soon();
     checks->Soon();
-    const int pages = PagesOfLog();
-    state->setText(QString::number(pages) + (pages == 1 ? " page" : " pages"));
+    state->setText(ToUi(PageWords()));
 }
 
 void BorinputWindow::Refresh()
 {
-    setWindowTitle(ToUi(frmBorinput::Title) + "[*]");
+    setWindowTitle(MarkedTitle(frmBorinput::Title));
     Typed();
     if (shownFile != BoringFileName) {
         shownFile = BoringFileName;

@@ -329,6 +329,8 @@ void frmGIS::AddBoring(const Text& path, const Text& name)
 
 void frmGIS::Command1()
 {
+    if (std::find(File1.selected.begin(), File1.selected.end(), true) == File1.selected.end())
+        return;
     FileChanged = 1;
     for (size_t i = 0; i < File1.names.size(); ++i)
         if (File1.selected[i])

@@ -3,6 +3,9 @@
 
 #include "session/unicode.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace
 {
 // The letters with marks, each by the letter of the code page that is left when marks are taken off, "." where there
@@ -458,4 +461,30 @@ Text ReplacementWords(const NearestText& nearest)
     if (nearest.lost > 0)
         return words + "the nearest stand for them, \"?\" for " + PlainNumber(nearest.lost) + ".";
     return words + "the nearest stand for them.";
+}
+
+std::string ReplacedCharacters(std::string_view utf8)
+{
+    const NearestText whole = NearestOf(utf8);
+    if (whole.replaced == 0)
+        return "";
+    constexpr size_t most = 6;
+    std::vector<char32_t> told;
+    std::string words;
+    for (size_t at = 0; at < utf8.size();) {
+        const char32_t letter = NextUtf8(utf8, at);
+        const Text near = NearestInCodePage(letter);
+        std::string itself;
+        AddUtf8(itself, letter);
+        if (near.empty() || ToUtf8(near) == itself || std::find(told.begin(), told.end(), letter) != told.end())
+            continue;
+        told.push_back(letter);
+        if (told.size() <= most)
+            words += (words.empty() ? "" : ", ") + itself + " became \"" + ToUtf8(near) + "\"";
+    }
+    if (told.empty()) // marks that were left out
+        return ToUtf8(ReplacementWords(whole));
+    if (told.size() > most)
+        words += " and " + ToUtf8(PlainNumber(int(told.size() - most))) + " more";
+    return "Not in the code page: " + words + (whole.lost > 0 ? ". Nothing is near to what became \"?\"." : ".");
 }

@@ -22,3 +22,7 @@ NearestText NearestOf(std::string_view utf8);
 
 // One sentence for the status line about what was replaced, empty if nothing was.
 Text ReplacementWords(const NearestText& nearest);
+
+// The same with the characters themselves, which no Text can hold, in UTF-8: each once, what became of it, and after
+// the first few how many there are more.
+std::string ReplacedCharacters(std::string_view utf8);

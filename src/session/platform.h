@@ -64,8 +64,9 @@ struct PlatformRecord {
     Text (*ClipboardText)();
     void (*SetClipboardText)(const Text& text);
     void (*Notice)(const Text& words);
-    void (*Breathe)();   // a turn for the window system, so that Escape is seen
-    Text (*ShortDate)(); // today, in the short form of the user's locale
+    void (*Tell)(const Text& words); // the same without the beep: what was asked for is done, and more with it
+    void (*Breathe)();               // a turn for the window system, so that Escape is seen
+    Text (*ShortDate)();             // today, in the short form of the user's locale
     // True where nobody sits in front: a question takes the answer that loses nothing, and a run that cannot go
     // on ends instead of waiting for a key.
     bool Unattended;

@@ -141,3 +141,14 @@ TEST_CASE("characters go out of UTF-8 and into it, broken ones as the replacemen
     CHECK(NextUtf8("\x89", at) == 0xFFFD);
     CHECK(at == 1);
 }
+
+TEST_CASE("the words that show the characters name each once, and what nothing is near to")
+{
+    CHECK(ReplacedCharacters("abc \u00B5 \u2013") == "");
+    CHECK(ReplacedCharacters("\u2264 5") == "Not in the code page: \u2264 became \"<=\".");
+    CHECK(ReplacedCharacters("\u2264 \u2264 \u4E2D") == "Not in the code page: \u2264 became \"<=\", \u4E2D became "
+                                                        "\"?\". Nothing is near to what became \"?\".");
+    CHECK(
+        ReplacedCharacters("\u0100\u0102\u0104\u0106\u0108\u010A\u010C\u010E").ends_with(" became \"C\" and 2 more."));
+    CHECK(ReplacedCharacters("n\u0301") == "1 character is not in the code page: \"\" stands for it.");
+}

@@ -972,3 +972,38 @@ TEST_CASE(
     }
     CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-103xxx");
 }
+
+TEST_CASE("Enter behind a run of Tabs goes back to where it began in a tool's grid too")
+{
+    QMainWindow* log = LogWindow();
+    Visit(log, cases[0], [](QWidget* tool) {
+        ClickCell(tool, "SS1", 1, 1);
+        TypeText(tool, "A.BOR\t0\n");
+        CHECK(frmCross::SS1.row == 2);
+        CHECK(frmCross::SS1.column == 1);
+        Leave(tool);
+    });
+}
+
+TEST_CASE("a change of the font from a tool marks no empty document as changed")
+{
+    QMainWindow* log = LogWindow();
+    for (const ToolCase& one : cases)
+        Visit(log, one, [&](QWidget* tool) {
+            CAPTURE(one.window);
+            const auto otherFont = [](QWidget* window) {
+                auto* font = Find<QLineEdit>(window, "Text1");
+                font->selectAll();
+                QTest::keyClicks(font, DeviceConfig.FontName == "Arial" ? "DejaVu Sans" : "Arial");
+                ClickButton(window, "Command1");
+            };
+            const Text before = DeviceConfig.FontName;
+            Then("frmPrinterSetup", otherFont);
+            ClickMenu(tool, "mnuUtilities", "mnuGraphicSetup");
+            CheckAllDone();
+            CHECK(DeviceConfig.FontName != before);
+            CHECK(FileChanged == 0);
+            CHECK_FALSE(tool->isWindowModified());
+            Leave(tool);
+        });
+}

@@ -3,8 +3,10 @@
 
 #include "canvas/batch.h"
 #include "canvas/runmessages.h"
+#include "platform/qt/typedtext.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
+#include "session/gridedit.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -84,5 +86,5 @@ Text ShowInputBox(const Text& prompt, const Text& title, const Text& answer)
     box.setWindowTitle(ToUi(title));
     box.setLabelText(ToUi(prompt));
     box.setTextValue(ToUi(answer));
-    return box.exec() == QDialog::Accepted ? LineFromUi(box.textValue()) : Text();
+    return box.exec() == QDialog::Accepted ? OneLine(Typed(box.textValue())) : Text();
 }

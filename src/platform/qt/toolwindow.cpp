@@ -2,6 +2,7 @@
 #include "platform/qt/toolwindow.h"
 
 #include "editors/borinput.h"
+#include "editors/fillform.h"
 #include "editors/livepreview.h"
 #include "editors/nextfile.h"
 #include "platform/qt/checkdock.h"
@@ -86,13 +87,19 @@ QMenu* ToolWindow::Menu(const char* name) const
     return findChild<QAction*>(name)->menu();
 }
 
-QAction* ToolWindow::Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
-                           std::function<void()> command)
+QAction* ToolWindow::Action(QMenu* menu, const char* name, const char* caption, QKeySequence keys)
 {
     auto* action = new QAction(caption, this);
     action->setObjectName(name);
     action->setShortcut(keys);
     menu->addAction(action);
+    return action;
+}
+
+QAction* ToolWindow::Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
+                           std::function<void()> command)
+{
+    QAction* action = Action(menu, name, caption, keys);
     connect(action, &QAction::triggered, this, [this, command] { Run(command); });
     return action;
 }
@@ -128,7 +135,8 @@ void ToolWindow::FillMenus()
     if (tool.drawJob != 0 || tool.Check)
         AddMenu(menuBar(), "mnuView", "&View");
     QMenu* utilities = AddMenu(menuBar(), "mnuUtilities", "&Utilities");
-    Entry(utilities, "mnuGraphicSetup", "Graphics/System &Set-Up...", {}, [] { Platform.ShowGraphicsSetup(); });
+    Entry(utilities, "mnuGraphicSetup", "Graphics/System &Set-Up...", {},
+          [this] { SetUpGraphics(tool.FileName.empty() && FileChanged == 0); });
     Entry(utilities, "mnuCreateLogo", "&Logo Set-Up...", {}, [] { Platform.ShowLogo(); });
     Entry(utilities, "mnuFillPatt", "Fill Pattern &Guide", {}, frmBorinput::mnuFillPatt);
     FillToolsMenu();
@@ -149,32 +157,31 @@ void ToolWindow::FillMenus()
     }
 }
 
-// In the text box, where it has the focus; else in the grid last entered.
-void ToolWindow::OnText(void (QPlainTextEdit::*text)(), void (*command)(Grid&))
-{
-    auto* box = qobject_cast<QPlainTextEdit*>(focusWidget());
-    if (box && text)
-        (box->*text)();
-    else if (!box)
-        command(ActiveGrid(tool));
-}
-
 void ToolWindow::FillEditMenu()
 {
     QMenu* edit = AddMenu(menuBar(), "mnuEdit", "&Edit");
-    const auto entry = [&](const char* name, const char* caption, QKeySequence keys, void (QPlainTextEdit::*text)(),
+    // In the text that has the focus; else in the grid last entered.
+    const auto entry = [&](const char* name, const char* caption, QKeySequence keys, TextCommand text,
                            void (*command)(Grid&)) {
-        return Entry(edit, name, caption, keys, [this, text, command] { OnText(text, command); });
+        QAction* action = Action(edit, name, caption, keys);
+        connect(action, &QAction::triggered, this, [this, text, command] {
+            if (!DoInText(focusWidget(), text))
+                Run([&] { command(ActiveGrid(tool)); });
+        });
+        return action;
     };
-    entry("mnuUndo", "&Undo", QKeySequence("Ctrl+Z"), &QPlainTextEdit::undo, [](Grid& grid) { UndoGrid(grid); });
-    entry("mnuRedo", "&Redo", {}, &QPlainTextEdit::redo, [](Grid& grid) {
+    entry("mnuUndo", "&Undo", QKeySequence("Ctrl+Z"), TextCommand::Undo, [](Grid& grid) { UndoGrid(grid); });
+    entry("mnuRedo", "&Redo", {}, TextCommand::Redo, [](Grid& grid) {
         RedoGrid(grid);
     })->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});
     edit->addSeparator();
-    entry("mnuCut", "Cu&t", QKeySequence("Ctrl+X"), &QPlainTextEdit::cut, CutSelected);
-    entry("mnuCopy", "&Copy", QKeySequence("Ctrl+C"), &QPlainTextEdit::copy, [](Grid& grid) { CopySelected(grid); });
-    entry("mnuPaste", "&Paste", QKeySequence("Ctrl+V"), &QPlainTextEdit::paste, PasteSelected);
-    entry("mnuFillDown", "&Fill Down", QKeySequence("Ctrl+D"), nullptr, FillDown);
+    entry("mnuCut", "Cu&t", QKeySequence("Ctrl+X"), TextCommand::Cut, CutSelected);
+    entry("mnuCopy", "&Copy", QKeySequence("Ctrl+C"), TextCommand::Copy, [](Grid& grid) { CopySelected(grid); });
+    entry("mnuPaste", "&Paste", QKeySequence("Ctrl+V"), TextCommand::Paste, PasteSelected);
+    Entry(edit, "mnuFillDown", "&Fill Down", QKeySequence("Ctrl+D"), [this] {
+        if (!qobject_cast<QPlainTextEdit*>(focusWidget()))
+            FillDown(ActiveGrid(tool));
+    });
     edit->addSeparator();
     Entry(edit, "mnuInsertRow", "&Insert Row", QKeySequence("Ctrl++"), [this] { ToolInsertRow(tool); });
     Entry(edit, "mnuDeleteRow", "&Delete Row", QKeySequence("Ctrl+-"), [this] { ToolDeleteRow(tool); });
@@ -355,7 +362,7 @@ void ToolWindow::Typed()
 
 void ToolWindow::Refresh()
 {
-    setWindowTitle(ToUi(tool.Title) + "[*]");
+    setWindowTitle(MarkedTitle(tool.Title));
     Typed();
     int rows = 0;
     for (const Grid* grid : tool.grids)

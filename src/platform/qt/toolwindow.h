@@ -30,6 +30,7 @@ public:
     void Own(QWidget* widget, std::function<void()> shows = nullptr);
     QAction* Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
                    std::function<void()> command);
+    QAction* Action(QMenu* menu, const char* name, const char* caption, QKeySequence keys);
     QMenu* Menu(const char* name) const;
     void Run(const std::function<void()>& command); // and what it has done is shown
     void Blocking(QWidget* content);                // shown until it is left
@@ -49,7 +50,6 @@ private:
     void AddCheckList();
     void GoTo(const CheckEntry& entry);
     void AddStatusBar();
-    void OnText(void (QPlainTextEdit::*text)(), void (*command)(Grid&));
     void ShowState();
     void Refresh();
     void Typed();

@@ -33,6 +33,14 @@ struct TakesFiles {
 // The two labels of a status bar: the project folder on the left, what is on hand on the right.
 void AddStatusWords(QStatusBar* bar, QLabel*& project, QLabel*& state);
 
+// An entry of the Edit menu in the text that has the focus: a text box, a field of one line, the box of a cell that is
+// being typed in. False: none has it.
+enum class TextCommand { Undo, Redo, Cut, Copy, Paste };
+bool DoInText(QWidget* focus, TextCommand command);
+
+// The title of a window, with the place of the mark of unsaved changes: a name may hold the same signs.
+QString MarkedTitle(const Text& title);
+
 // The files opened or saved lately, as entries of a menu.
 class RecentFiles
 {
