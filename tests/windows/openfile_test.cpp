@@ -89,6 +89,7 @@ TEST_CASE("a file dropped on the log window opens in the tool of its ending, aft
             CHECK(one.tool.FileName == name);
             CHECK(window->windowTitle().contains(ToUi(name)));
             CHECK(one.tool.grids[0]->DataRowCount() > 0);
+            LookAt(window, Text("dropped-") + one.file);
             CHECK(Find<QAction>(window, "mnuRecent1")->text() == "&1 " + ToUi(name));
             CHECK(FileChanged == 0);
             Leave(window);

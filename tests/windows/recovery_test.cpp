@@ -180,13 +180,17 @@ TEST_CASE("Escape and the closing of the box at the question about a copy keep i
     EndRecovery();
     std::filesystem::remove_all(folder);
     std::filesystem::copy(Scratch("left"), folder);
-    const std::function<void(QWidget*)> ways[] = {
-        [](QWidget* box) { Key(box, Qt::Key_Escape); }, [](QWidget* box) { box->close(); },
-        [](QWidget* box) {
-            for (QAbstractButton* button : box->findChildren<QAbstractButton*>())
-                if (button->text().remove('&') == "No")
-                    button->click();
-        }};
+    const std::function<void(QWidget*)> ways[] = {[](QWidget* box) {
+                                                      LookAt(box, "copy-question");
+                                                      Key(box, Qt::Key_Escape);
+                                                  },
+                                                  [](QWidget* box) { box->close(); },
+                                                  [](QWidget* box) {
+                                                      for (QAbstractButton* button :
+                                                           box->findChildren<QAbstractButton*>())
+                                                          if (button->text().remove('&') == "No")
+                                                              button->click();
+                                                  }};
     for (const auto& way : ways) {
         StartRecovery(folder);
         WatchTool(LogTool);
