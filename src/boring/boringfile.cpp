@@ -273,7 +273,7 @@ static void CheckMarkerBounds(int contacts, void (*tell)(const Text& words, int 
     }
 }
 
-void CheckMarkers(int contacts, void (*tell)(const Text& words, int line))
+void CheckMarkers(int contacts, const std::function<void(const Text& words, int line)>& tell)
 {
     CheckMarkerOrder(tell);
     CheckMarkerBounds(contacts, tell);

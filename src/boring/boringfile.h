@@ -4,6 +4,7 @@
 #include "session/files.h"
 
 #include <array>
+#include <functional>
 
 // BoringFileName into BoringData, which has just been cleared. False: it was refused or has failed, which was told.
 bool OpenBoringFile2();
@@ -11,7 +12,7 @@ void SaveBoringFile();  // the boxes into BoringData, and that into BoringFileNa
 void TakeBoringBoxes(); // the boxes into BoringData as for a save, unchecked; failures by number
 void boringcheck();     // warns about the scale; changes nothing and blocks nothing
 // The markers of the description in LineBuffer that are out of order or name no contact, each with its line.
-void CheckMarkers(int contacts, void (*tell)(const Text& words, int line));
+void CheckMarkers(int contacts, const std::function<void(const Text& words, int line)>& tell);
 void WriteConvertedBoring(const Text& name); // BoringData as it is, no boxes and no checks
 // The same with the texts of Style and Draft given; failures by number.
 void WriteBoring(const Text& name, const Text& style, const Text& draft, Durability durability = Durability::Saved);

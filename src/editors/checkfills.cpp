@@ -8,6 +8,7 @@
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,26 +18,36 @@ using namespace BoringChecks;
 
 // ---- Patterns
 
-static std::set<Text> patternFiles; // in upper case
+namespace
+{
+// The folder of the patterns as it was looked through last.
+struct PatternFolder {
+    Text Name;
+    int64_t Stamp = 0;
+    std::set<Text> Files; // in upper case
+};
+} // namespace
+
+static PatternFolder patternsSeen;
+
+static const SharedRecord shared[] = {
+    {"patternsSeen", Kind::Machine, patternsSeen},
+};
 
 void BoringChecks::LookForPatterns()
 {
-    static Text folder;
-    static int64_t stamp = 0;
     const Text& told = DeviceConfig.SystemFiles[FillFolder];
     const int64_t now = FolderStamp(told);
-    if (now != 0 && now == stamp && told == folder)
+    if (now != 0 && now == patternsSeen.Stamp && told == patternsSeen.Name)
         return;
-    patternFiles.clear();
+    patternsSeen = {told, now, {}};
     for (const Text& file : FilesIn(told, ".bmp"))
-        patternFiles.insert(UpperCase(file));
-    folder = told;
-    stamp = now;
+        patternsSeen.Files.insert(UpperCase(file));
 }
 
 static bool PatternThere(int file)
 {
-    return patternFiles.contains(UpperCase(PatternName(file)));
+    return patternsSeen.Files.contains(UpperCase(PatternName(file)));
 }
 
 // "F0", "FB" and nothing at all are blank on purpose.

@@ -6,6 +6,8 @@
 #include "logrender/generalvalues.h"
 #include "logrender/graph.h"
 #include "session/files.h"
+#include "session/machine.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cmath>
@@ -151,16 +153,20 @@ struct FileValues {
 } // namespace
 
 static constexpr size_t mostKept = 40;
+static std::map<std::pair<Text, float>, FileValues> dataRead; // by file and field, and the depth read to
+
+static const SharedRecord shared[] = {
+    {"dataRead", Kind::Machine, dataRead},
+};
 
 // The values of a data file down to a depth, by the run's own reader, which finds the file where a run does.
 static const FileValues& ValuesOf(int n, const LogParamSetup& setup, float end)
 {
-    static std::map<std::pair<Text, float>, FileValues> kept;
     const Text path = JoinPath(ProjectPath, setup.File);
-    const FileState state = StateOf(NativePath(path));
-    if (kept.size() > mostKept)
-        kept.clear();
-    FileValues& file = kept[{path + "|" + setup.Field, end}];
+    const FileState state = Machine::StateOf(NativePath(path));
+    if (dataRead.size() > mostKept)
+        dataRead.clear();
+    FileValues& file = dataRead[{path + "|" + setup.Field, end}];
     if (file.State.Size >= 0 && file.State == state)
         return file;
     file = {state, {}, false};

@@ -40,12 +40,10 @@ static void FlagLine(const char* kind, const StoredLine& line, const Text& words
 // The warnings of a save, and what they let pass: they look at a marker's first digit only.
 void BoringChecks::CheckMarkers()
 {
-    static std::vector<StoredLine> lines;
-    static std::vector<int> told;
-    lines = StoredLines(1);
-    told.clear();
+    const std::vector<StoredLine> lines = StoredLines(1);
+    std::vector<int> told;
     const int contacts = Rows(LithBox);
-    ::CheckMarkers(contacts, [](const Text& words, int line) {
+    ::CheckMarkers(contacts, [&](const Text& words, int line) {
         const bool none = words.starts_with("Warning");
         FlagText(none ? "marker-none" : "save", words, "MemoDes", lines[size_t(line) - 1].Place);
         if (none)
