@@ -12,4 +12,4 @@ extern LayoutRecord LayoutData;
 
 // 13 lines into LayoutData. Failures by number; what was read stays then, and nothing of a layout before.
 void ReadLayoutFile(const Text& name);
-void SaveLayoutFile();                 // LayoutData to DialogResult
+void SaveLayoutFile(); // LayoutData to DialogResult

@@ -372,6 +372,38 @@ TEST_CASE("the separator shown is comma for 1, space for 2, tab for others, and 
     CHECK(GtgsMapping.fieldSpec == 1);
 }
 
+TEST_CASE("a map's number for fixed fields stays as the file had it, and is 2 where it had none")
+{
+    CopyData("general");
+    frmGTGSGenEditor::Load();
+    for (const auto& [told, saved] : {std::pair<int, int>(1, 1), {2, 2}, {7, 7}, {0, 2}}) {
+        GtgsMapping = GtgsMappingRecord();
+        GtgsMapping.fixedFields = int16_t(told);
+        SaveGTGSConversionFile(Scratch("m.GCV"));
+        Choose(Scratch("m.GCV"));
+        frmGTGSGenEditor::mnuOpenGTGSConvFile();
+        Dialog.Option2 = true;
+        CHECK(frmGTGSGenEditor::mnuSaveGTGSConvFile());
+        CHECK(GtgsMapping.fixedFields == saved);
+    }
+}
+
+TEST_CASE("a map that changes from fields of a fixed length to a separator takes the one that is shown")
+{
+    CopyData("general");
+    frmGTGSGenEditor::Load();
+    GtgsMapping.fixedFields = 2;
+    GtgsMapping.fieldSpec = 3; // as a separator it would be a blank and look like a tab
+    SaveGTGSConversionFile(Scratch("m.GCV"));
+    Choose(Scratch("m.GCV"));
+    frmGTGSGenEditor::mnuOpenGTGSConvFile();
+    Dialog.Option2 = false;
+    CHECK(Dialog.Combo1 == 2);
+    CHECK(frmGTGSGenEditor::mnuSaveGTGSConvFile());
+    CHECK(GtgsMapping.fixedFields == 0);
+    CHECK(GtgsMapping.fieldSpec == 0);
+}
+
 TEST_CASE("Save As adds the ending, and asks before it replaces a map")
 {
     frmGTGSGenEditor::Load();

@@ -112,6 +112,25 @@ TEST_CASE("contacts are the lines with a parenthesis, and a long code gets its h
     CHECK(BoringData.Lith[3][2] == "");
 }
 
+TEST_CASE("a code of two characters stays, and one of three has its hyphen behind the second")
+{
+    const auto code = [](const std::string& text) {
+        ConvertChanged("ordinary.PRT", {{"      not a row", "      6.0      9)" + std::string(24, ' ') + text}});
+        return BoringData.Lith[2][2];
+    };
+    CHECK(code("ABC") == "AB-C");
+    CHECK(code("AB") == "AB");
+    CHECK(code("A") == "A");
+}
+
+TEST_CASE("a line of six characters is all margin, and a shorter one has none")
+{
+    ConvertChanged("ordinary.PRT", {{"      SOFT CLAY", "123456\r\n12345\r\n      SOFT CLAY"}});
+    CHECK(BoringData.Des[1] == " ");
+    CHECK(BoringData.Des[2] == "12345 ");
+    CHECK(BoringData.Des[3] == "SOFT CLAY ");
+}
+
 TEST_CASE("contacts beyond 100 take the place of the last one")
 {
     std::string rows;

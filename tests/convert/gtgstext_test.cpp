@@ -163,6 +163,16 @@ TEST_CASE("the reference elevation is the sum of ground and stick-up in single p
     CHECK(BoringData.GenWell[5] == "0");
 }
 
+TEST_CASE("quotes within the fields of a header line are text; the last one closes it")
+{
+    std::string fields = "\"B\",\"say 4\" pipe\"";
+    Tables("lith.txt", {}, fields + "\r\n\"C 2\" x\"");
+    Open("B.bor");
+    CHECK(BoringData.Client[4] == "say 4\" pipe");
+    Open("C 2\" x.bor");
+    CHECK(BoringData.Name == "C 2\" x");
+}
+
 TEST_CASE("every line of the headers is a boring, a blank one too; the 201st is error 9")
 {
     Tables("lith.txt", {}, "\"B\"\r\n\r\n\"C\"");

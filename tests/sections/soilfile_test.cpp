@@ -6,6 +6,7 @@
 #include "places.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
+#include "session/linebreaks.h"
 #include "session/session.h"
 
 using namespace frmSoil;
@@ -143,6 +144,18 @@ TEST_CASE("notes are written without the blanks at which they were cut")
     MemoSoil.text = "several words that do not fit in one line of so narrow a box";
     CHECK(Saved().find(" \r\n") == Text::npos);
     CHECK(SoilData.notes[1].ends_with(' '));
+}
+
+TEST_CASE("a full line of several notes' words was cut at a blank, however little room is left in it")
+{
+    const Text full = "some words";
+    Open(cells + Lines({"", "", "", "", "", "", "", "", "", ""}));
+    // The narrowest box that holds the line.
+    for (MemoSoil.widthTwips = 255; MemoSoil.Room() < AdvanceWidth(full);)
+        ++MemoSoil.widthTwips;
+    REQUIRE(MemoSoil.Room() < AdvanceWidth(full + "m"));
+    Open(cells + Lines({full, "more\xB6", "", "", "", "", "", "", "", ""}));
+    CHECK(MemoSoil.text == full + " more\r\n");
 }
 
 TEST_CASE("a word of the notes that is wider than their box is cut without a blank, and joined without one")
