@@ -15,10 +15,9 @@ namespace
 enum class Form {
     Empty,
     Number,
-    Words,   // no number in front, and no digit: "dry"
-    NoNumber // no number in front: "<5"
-    ,
-    Part // a number in front, and behind it what was meant to be part of it: "1O.5", "12,5", "2-4"
+    Words,    // no number in front, and no digit: "dry"
+    NoNumber, // no number in front: "<5"
+    Part      // a number in front, and behind it what was meant to be part of it: "1O.5", "12,5", "2-4"
 };
 } // namespace
 
