@@ -12,6 +12,7 @@
 #include "session/session.h"
 #include "session/shared.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <unistd.h>
@@ -152,6 +153,7 @@ int main(int argc, char** argv)
     // Pictures of windows show it, and shall not change with the number of a process.
     if (const char* name = std::getenv("STRATAVUE_SCRATCH"))
         scratch = name;
+    std::setvbuf(stdout, nullptr, _IOLBF, 0); // a crash takes nothing along that was told before it
     started = std::filesystem::current_path();
     StartValues();
     doctest::Context context(argc, argv);
