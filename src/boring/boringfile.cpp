@@ -243,7 +243,7 @@ static bool TooManyLines(const char* what, int bound)
 }
 
 // "@" lines have to be numbered 1, 2, ...; the first that is missing is told, and the scan goes on from the one found.
-static void CheckMarkerOrder(void (*tell)(const Text& words, int line))
+static void CheckMarkerOrder(const std::function<void(const Text& words, int line)>& tell)
 {
     double last = 0;
     for (int i = 1; i <= LineCount; ++i) {
@@ -259,7 +259,7 @@ static void CheckMarkerOrder(void (*tell)(const Text& words, int line))
     }
 }
 
-static void CheckMarkerBounds(int contacts, void (*tell)(const Text& words, int line))
+static void CheckMarkerBounds(int contacts, const std::function<void(const Text& words, int line)>& tell)
 {
     for (int i = 1; i <= LineCount; ++i) {
         if (!LineBuffer[i].starts_with('@'))

@@ -29,9 +29,11 @@ struct PatternFolder {
 } // namespace
 
 static PatternFolder patternsSeen;
+static bool colorTold; // by the color that was looked at last
 
 static const SharedRecord shared[] = {
     {"patternsSeen", Kind::Machine, patternsSeen},
+    {"colorTold", Kind::Run, colorTold},
 };
 
 void BoringChecks::LookForPatterns()
@@ -70,8 +72,6 @@ static Text WhyBlank(const Text& cell)
 }
 
 // ---- Colours
-
-static bool colorTold;
 
 // Whether a run would tell of the colour, and draw it white.
 static bool BadColor(const Text& color)

@@ -390,7 +390,7 @@ TEST_CASE("after Open no step of the section before can be taken back in any of 
     WriteScratch("A.CRO", WholeFile());
     Open("A.CRO");
     for (Grid* grid : {&SS1, &SS2, &SS3, &SS4})
-        grid->done.push_back(GridStep{{{1, 1, "x", "y"}}, grid->Shape(), grid->Shape(), {}, {}});
+        grid->done.emplace_back().cells = {{1, 1, "x", "y"}};
     Open("A.CRO");
     for (Grid* grid : {&SS1, &SS2, &SS3, &SS4})
         CHECK(grid->done.empty());

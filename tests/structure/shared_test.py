@@ -24,7 +24,7 @@ for where, _, names in os.walk(source):
 def constant(variable, text):
     last = re.escape(re.split(r"::", variable)[-1])
     return re.search(r"\b(const|constexpr)\b[^;=()]*?\b" + last + r"\s*[;={\[(]|\bconst\b[^;]*[}\]],\s+" + last + r"\{"
-                     r"|\b(const|constexpr) struct \{[^{}]*\} " + last + r"\b", text)
+                     r"|\bconstexpr \w+ \(\*" + last + r"\[|\b(const|constexpr) struct \{[^{}]*\} " + last + r"\b", text)
 
 
 def listed(text):
