@@ -16,7 +16,7 @@ in a spreadsheet:
 | To | |
 |---|---|
 | write into a cell | type, or F2 to change what is there |
-| go on | Enter, Tab, the arrows; F6 leaves the grid |
+| go on | Enter, Tab, the arrows; Enter behind a run of Tabs goes back to its beginning; F6 leaves the grid |
 | mark a block | Shift with the arrows, or drag |
 | cut, copy, paste, empty | Ctrl+X, Ctrl+C, Ctrl+V, Delete; tables go to and from spreadsheets |
 | fill a block with its first row | Ctrl+D |
@@ -26,7 +26,8 @@ in a spreadsheet:
 
 Text boxes break their lines exactly as they are printed; *less* and *more* beneath them set how much goes on a line. A
 description that belongs to a contact begins with a line **@** and the number of the contact, one that belongs to a
-depth with **-** and the depth.
+depth with **-** and the depth. Rows that are put in, taken out or pasted in *Lithology* take the texts of their contacts
+along. Characters that the files cannot hold become the nearest ones, which the status line tells.
 
 **View** has two helpers: *Page beside the Boxes* (Ctrl+F5) draws the page while you type, and a click on a layer leads
 to its row; the *Check List* (Ctrl+F7) points at what a reviewer would flag.
