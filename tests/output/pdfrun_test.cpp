@@ -134,6 +134,21 @@ TEST_CASE("a pattern on paper has one dot to a device unit and stands on the pag
     CHECK(wrong == 0);
 }
 
+TEST_CASE("the tip of an acute wedge has no thorn on paper")
+{
+    WritePdf("a.pdf", 1, "", [](int) {
+        PageObject& object = AddObject(ObjectKind::Polygon, 0, 0, 0, 0);
+        object.Vertices = {{200, 200}, {600, 160}, {600, 240}};
+        object.Brush = BrushStyle::Hollow;
+        object.PenWidth = 20;
+    });
+    Output("pdftoppm -r 600 -x 0 -y 0 -W 900 -H 600 -png -singlefile " + Scratch("a.pdf") + " " + Scratch("a"));
+    const QImage image(QString::fromStdString(Scratch("a.png")));
+    REQUIRE(image.width() == 900);
+    CHECK(Dark(image, 150 + 192, 150 + 200));
+    CHECK(!Dark(image, 150 + 187, 150 + 200));
+}
+
 TEST_CASE("a PDF tells its title and that this program wrote it")
 {
     WritePdf("a.pdf", 1, "B-1 (M\xFCller) \\ 2.BOR", [](int) { AddWords("x", 600, 600); });
