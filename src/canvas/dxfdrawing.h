@@ -20,6 +20,7 @@ public:
     }
     void Add(int code, int value);
     void Add(int code, double value); // up to 6 decimals, no trailing zeros
+    void AddTenths(int code, double value);
     void AddHandle(int code, int handle);
     void AddPoint(int code, double x, double y); // code for x, code + 10 for y
     void Append(const DxfTags& tags)
@@ -37,13 +38,17 @@ struct DxfSheet {
 };
 
 // Layers by kind of content, in the order of the layer table.
-enum class DxfLayer { Lines, Rectangles, Ellipses, Arcs, Outlines, Fills, Patterns, Texts, Pictures };
+enum class DxfLayer { Lines, Rectangles, Ellipses, Arcs, Outlines, Fills, Patterns, Strokes, Texts, Pictures };
 
 class DxfDrawing
 {
 public:
     // Starts an entity of the model space: its type, handle and layer. Leaves the handle.
     int Entity(const char* type, DxfLayer layer);
+    // Starts an entity of a block, on the layer of whatever insert shows it.
+    void BlockEntity(DxfTags& block, const char* type);
+    // A block of those entities, named after something. Leaves its name.
+    Text Block(std::string_view name, DxfTags entities);
     // The text style of a font; made when first asked for.
     const Text& Style(const Text& font, bool bold);
     // A picture's definition and the entity's link to it; path in the machine's own encoding, size in pixels.
@@ -69,6 +74,12 @@ private:
         std::vector<std::pair<int, int>> Reactors; // handle, and the entity that it watches
     };
 
+    struct BlockOfEntities {
+        Text Name;
+        int Record, Begin, End; // handles
+        DxfTags Entities;
+    };
+
     int NewHandle()
     {
         return nextHandle++;
@@ -81,6 +92,7 @@ private:
     int nextHandle = 0x100; // below it are the handles of what every drawing has
     std::vector<FontStyle> styles;
     std::vector<Definition> definitions;
+    std::vector<BlockOfEntities> blocks;
 };
 
 // A text as the value of a group: control characters and "^" by the caret, "%%" and "\U+" so that they stay what they
