@@ -33,6 +33,8 @@ static constexpr BatchJob Jobs[] = {
      "converts WinLog files, each to a boring file beside it", BatchWork::Converts},
     {"export-irpims", 10, 0, "--home DIR", "FILE.BOR...", "writes the three IRPIMS tables of saved borings",
      BatchWork::Converts, "--out DIR"},
+    {"check", 0, 0, "--all;--home DIR;--project DIR", "FILE...",
+     "lists what a reviewer would flag in borings, sections, fences, soil tables and GIS files", BatchWork::Checks},
 };
 
 static constexpr int SmallestDpi = 10, LargestDpi = 1200;
@@ -45,6 +47,8 @@ struct Option {
     bool path;
 };
 } // namespace
+
+static constexpr char AllOption[] = "--all"; // it has no word
 
 static constexpr Option Options[] = {
     {"--type", nullptr, false},
@@ -69,8 +73,10 @@ static constexpr Option Options[] = {
 // Whether the option stands in a list of them.
 static bool Lists(std::string_view options, std::string_view option)
 {
-    const size_t at = options.find(std::string(option) + " ");
-    return at != std::string_view::npos && (at == 0 || options[at - 1] == ';' || options[at - 1] == ' ');
+    const size_t at = options.find(option);
+    const size_t end = at + option.size();
+    return at != std::string_view::npos && (at == 0 || options[at - 1] == ';' || options[at - 1] == ' ') &&
+           (end == options.size() || options[end] == ' ' || options[end] == ';');
 }
 
 static bool Knows(const BatchJob& job, std::string_view option)
@@ -173,6 +179,8 @@ CommandLine ReadCommandLine(const std::vector<std::string>& words)
         const std::string& word = words[i];
         if (word == "--" && !optionsEnd)
             optionsEnd = true;
+        else if (word == AllOption && !optionsEnd && Knows(*job, word))
+            line.All = true;
         else if (word.size() > 1 && word[0] == '-' && !optionsEnd) {
             line.Wrong = TakeOption(line, word, i + 1 < words.size() ? &words[i + 1] : nullptr);
             line.DateGiven = line.DateGiven || word == "--date";
@@ -233,7 +241,8 @@ std::string UsageText()
         "  --home DIR       the working folder, with the set-up and the stock files (the\n"
         "                   program's own folder; that of an installed program is\n"
         "                   Stratavue in the user's data folder)\n"
-        "  --project DIR    the project folder (the folder of the first file)\n"
+        "  --project DIR    the project folder (the folder of the first file; for a check that\n"
+        "                   of each file)\n"
         "  --page N         only page N of each boring; any other job's page is a single one\n"
         "  --date TEXT      the text of the date line (today)\n"
         "  --pdf FILE       all pages as one PDF\n"
@@ -250,7 +259,10 @@ std::string UsageText()
         "  --template FILE  the boring that gives prompts, report parts, layout and\n"
         "                   set-ups\n"
         "  --out DIR        the folder of the tables that are written\n"
+        "  --all            also what the project has switched off\n"
         "Messages go to standard error, one line each. The exit status is 0 when all was done and no message but one\n"
-        "that says so appeared, 1 when another appeared, and 2 for a wrong command line.\n";
+        "that says so appeared, 1 when another appeared, and 2 for a wrong command line. A check lists on standard "
+        "output,\n"
+        "a line for each entry, and ends with 1 when one of them is an error.\n";
     return text;
 }

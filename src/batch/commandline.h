@@ -5,7 +5,7 @@
 
 #include <vector>
 
-enum class BatchWork { Draws, Converts, ConvertsTables, ConvertsByMap, AddsToGis, ExportsGis };
+enum class BatchWork { Draws, Converts, ConvertsTables, ConvertsByMap, AddsToGis, ExportsGis, Checks };
 
 struct BatchJob {
     const char* Name;     // the first word of the command line
@@ -29,6 +29,7 @@ struct CommandLine {
     int16_t ReportOption = 0; // the job's own, or what --type says
     Text Page, Date;
     bool DateGiven = false;
+    bool All = false; // --all
     int Dpi = 150;
     std::vector<Text> Files; // full paths
 };

@@ -1,5 +1,6 @@
 // main.cpp -- stratavue-batch: the jobs of the program without its windows. The printer is replaced by files, and
 // the boxes by lines on standard error.
+#include "batch/checkjob.h"
 #include "batch/commandline.h"
 #include "batch/jobtable.h"
 #include "canvas/batch.h"
@@ -225,11 +226,12 @@ static void FillPlatform()
     Platform.ShowPrinting = [] {};
     Platform.ShowProgress = [](bool) {};
     Platform.StepProgress = [](const Text&, float) {};
+    Platform.ShowRunMessages = [] {};
     Platform.ShowChooser = [] { DialogResult = ""; };
     Platform.ShowHelp = [] {};
     Platform.ClipboardText = [] { return Text(); };
     Platform.SetClipboardText = [](const Text&) {};
-    Platform.Notice = Say;
+    Platform.Notice = Platform.Tell = Say;
     Platform.Breathe = [] {};
     Platform.ExecutableFolder = ExecutableFolder;
     Platform.DataFolder = UserDataFolder;
@@ -297,15 +299,9 @@ static void FillDialog(const std::vector<Text>& files)
         lastDir = Asked.Out;
 }
 
-// Where the set-up names no folders of its own: a project that brings its layouts along is drawn with them, and a home
-// without fill patterns is drawn with those of the installation.
+// Where the set-up names no folder of its own, a home without fill patterns is drawn with those of the installation.
 static void FindStockFiles()
 {
-    Text& layouts = DeviceConfig.SystemFiles[LayoutFolder];
-    if (layouts == WorkingFolder)
-        for (const Text& name : FilesIn(ProjectPath, ".lay"))
-            if (!FileExists(JoinPath(WorkingFolder, name)))
-                layouts = ProjectPath;
     Text& fills = DeviceConfig.SystemFiles[FillFolder];
     if (fills == JoinPath(WorkingFolder, "fills/") && FilesIn(fills, ".bmp").empty())
         fills = JoinPath(StockFolder(), "fills/");
@@ -434,6 +430,16 @@ static void ExportGis()
         ExportGIS2EVS(Asked.Evs);
 }
 
+// The status counts errors of the lists alone, whatever was told on the way.
+static void Check()
+{
+    const bool good = RunChecks(Asked, [](const Text& project) {
+        SetFolders(project);
+        FindStockFiles();
+    });
+    MessageCount = good ? 0 : 1;
+}
+
 int main(int argc, char** argv)
 {
     Asked = ReadCommandLine({argv + 1, argv + argc});
@@ -463,6 +469,9 @@ int main(int argc, char** argv)
             break;
         case BatchWork::ExportsGis:
             ExportGis();
+            break;
+        case BatchWork::Checks:
+            Check();
             break;
         }
     } catch (...) {

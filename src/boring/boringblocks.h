@@ -15,6 +15,9 @@ inline int ParamCells(const Text& version)
     return version == "5.0" ? 9 : 1 + GenParams;
 }
 
+// The form that is written.
+inline constexpr char BoringVersion[] = "5.0.12";
+
 // Whether client lines and the style stand behind the notes: form 5.0 has them from release 12 on ("5.0.12"). The
 // release stands behind one character, whatever that is.
 inline bool HasClient(const Text& version)

@@ -2,6 +2,7 @@
 #include "boring/boringboxes.h"
 
 #include "boring/boringdata.h"
+#include "session/shared.h"
 
 #include <iterator>
 
@@ -21,6 +22,7 @@ int Option = 0;
 Text lblWidthtot;
 bool NarrowNotes = false;
 Text Title;
+Text RecentFile;
 Slots<std::vector<Text>, 4> List;
 std::vector<Text> LayFiles;
 
@@ -34,3 +36,40 @@ Grid* BoxGrid(int activeBox)
 } // namespace frmBorinput
 
 Memo frmSoil::MemoSoil{"", 6800, 1550};
+
+static const SharedRecord shared[] = {
+    {"frmBorinput::RecentFile", Kind::Document, frmBorinput::RecentFile},
+    {"frmBorinput::SSInfo", Kind::Document, frmBorinput::SSInfo},
+    {"frmBorinput::SSScale", Kind::Document, frmBorinput::SSScale},
+    {"frmBorinput::SSRepParts", Kind::Document, frmBorinput::SSRepParts},
+    {"frmBorinput::SSP1Setup", Kind::Document, frmBorinput::SSP1Setup},
+    {"frmBorinput::SSP2Setup", Kind::Document, frmBorinput::SSP2Setup},
+    {"frmBorinput::SSPar", Kind::Document, frmBorinput::SSPar},
+    {"frmBorinput::SSSamp", Kind::Document, frmBorinput::SSSamp},
+    {"frmBorinput::SSLith", Kind::Document, frmBorinput::SSLith},
+    {"frmBorinput::SSGenWellInfo", Kind::Document, frmBorinput::SSGenWellInfo},
+    {"frmBorinput::SSOuterLay", Kind::Document, frmBorinput::SSOuterLay},
+    {"frmBorinput::SSInnerLay", Kind::Document, frmBorinput::SSInnerLay},
+    {"frmBorinput::SSW", Kind::Document, frmBorinput::SSW},
+    {"frmBorinput::SSCuttings", Kind::Document, frmBorinput::SSCuttings},
+    {"frmBorinput::SSFormations", Kind::Document, frmBorinput::SSFormations},
+    {"frmBorinput::SSLegend", Kind::Document, frmBorinput::SSLegend},
+    {"frmBorinput::MemoDes", Kind::Document, frmBorinput::MemoDes},
+    {"frmBorinput::MemoWcon", Kind::Document, frmBorinput::MemoWcon},
+    {"frmBorinput::MemoRemarks", Kind::Document, frmBorinput::MemoRemarks},
+    {"frmBorinput::MemoBottNotes", Kind::Document, frmBorinput::MemoBottNotes},
+    {"frmBorinput::txtClient", Kind::Document, frmBorinput::txtClient},
+    {"frmBorinput::Text1", Kind::Document, frmBorinput::Text1},
+    {"frmBorinput::Text2", Kind::Document, frmBorinput::Text2},
+    {"frmBorinput::cmbLayFile", Kind::Document, frmBorinput::cmbLayFile},
+    {"frmBorinput::Text1Font", Kind::Document, frmBorinput::Text1Font},
+    {"frmBorinput::txtClientFont", Kind::Document, frmBorinput::txtClientFont},
+    {"frmBorinput::Check1", Kind::Document, frmBorinput::Check1},
+    {"frmBorinput::Option", Kind::Document, frmBorinput::Option},
+    {"frmBorinput::lblWidthtot", Kind::Document, frmBorinput::lblWidthtot},
+    {"frmBorinput::NarrowNotes", Kind::Document, frmBorinput::NarrowNotes},
+    {"frmBorinput::Title", Kind::Document, frmBorinput::Title},
+    {"frmBorinput::List", Kind::Session, frmBorinput::List},
+    {"frmBorinput::LayFiles", Kind::Window, frmBorinput::LayFiles},
+    {"frmSoil::MemoSoil", Kind::Document, frmSoil::MemoSoil},
+};

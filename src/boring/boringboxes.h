@@ -19,6 +19,7 @@ extern int Option;                       // 1 to 4 as Option1 to Option4, 0 none
 extern Text lblWidthtot;                 // total width of the report parts, as "6.35/6.8"
 extern bool NarrowNotes;                 // the last layout that said so has the general notes in their narrow form
 extern Text Title;                       // of the window
+extern Text RecentFile;                  // last read whole or saved, for the list of recent files; "" for none
 extern Slots<std::vector<Text>, 4> List; // List1 to List4: description items to click into the description
 extern std::vector<Text> LayFiles;       // the list of cmbLayFile: layout files by their bare names, by getfilelist
 Grid* BoxGrid(int activeBox);            // the grid of that number; null for the text boxes and for 0

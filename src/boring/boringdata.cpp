@@ -1,7 +1,13 @@
 // boringdata.cpp -- the boring record and how it is emptied.
 #include "boring/boringdata.h"
 
+#include "session/shared.h"
+
 BoringRecord BoringData;
+
+static const SharedRecord shared[] = {
+    {"BoringData", Kind::Document, BoringData},
+};
 
 template <int Rows, int Columns>
 static void ClearRows(TextTable<Rows, Columns>& table, int count, int columns = Columns)

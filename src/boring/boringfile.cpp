@@ -14,10 +14,15 @@
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
-void (*OlderForms[3])() = {};
+std::array<void (*)(), 3> OlderForms = {};
+
+static const SharedRecord shared[] = {
+    {"OlderForms", Kind::Session, OlderForms},
+};
 
 // ---------------------------------------------------------------------------------------------------- reading
 
@@ -46,15 +51,18 @@ static void ReadTail(LineReader& in, const Text& version)
 }
 
 // The reader of an older form; a form that has none is refused like a foreign file.
-static void OpenOlderForm(int form)
+static bool OpenOlderForm(int form)
 {
-    if (OlderForms[form])
-        OlderForms[form]();
-    else
-        MsgBox("This boring file has an invalid format.");
+    if (!OlderForms[form]) {
+        MsgBox("This boring file has an invalid format.", OkOnly, Exclamation);
+        return false;
+    }
+    const int before = FailuresReported;
+    OlderForms[form]();
+    return FailuresReported == before;
 }
 
-void OpenBoringFile2()
+bool OpenBoringFile2()
 try {
     if (DialogMode == 0 || DialogMode == 1)
         return OpenOlderForm(DialogMode);
@@ -66,9 +74,10 @@ try {
         return OpenOlderForm(2);
     }
     if (!version.starts_with("5.")) {
-        // Kept: the name stays, so a later Save writes over the file that was refused.
-        MsgBox("This boring file has an invalid format.");
-        return;
+        // Kept: the name stays, so a later Save writes over the file that was refused; but for one from outside, which
+        // the caller then has no name for.
+        MsgBox("This boring file has an invalid format.", OkOnly, Exclamation);
+        return false;
     }
     BoringData.Name = in.Line();
     BoringData.MapFile = in.Line();
@@ -93,8 +102,10 @@ try {
     ReadBlock(in, BoringData.Formations, BoringData.FormationCount);
     ReadLines(in, BoringData.BottNotes);
     ReadTail(in, version);
+    return true;
 } catch (...) {
     ReportFailure(__func__);
+    return false;
 }
 
 // ---------------------------------------------------------------------------------------------------- writing
@@ -145,7 +156,7 @@ static void WriteLineBlock(LineWriter& out, const Slots<Text, Rows>& lines, int 
 void WriteBoring(const Text& name, const Text& style, const Text& draft, Durability durability)
 {
     LineWriter out(name, durability);
-    out.Line("5.0.12");
+    out.Line(BoringVersion);
     out.Line(Trim(BoringData.Name));
     out.Line(Trim(BoringData.MapFile));
     WriteTrimmed(out, BoringData.Info);

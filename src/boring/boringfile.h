@@ -3,7 +3,10 @@
 
 #include "session/files.h"
 
-void OpenBoringFile2(); // BoringFileName into BoringData, which has just been cleared
+#include <array>
+
+// BoringFileName into BoringData, which has just been cleared. False: it was refused or has failed, which was told.
+bool OpenBoringFile2();
 void SaveBoringFile();  // the boxes into BoringData, and that into BoringFileName, atomically
 void TakeBoringBoxes(); // the boxes into BoringData as for a save, unchecked; failures by number
 void boringcheck();     // warns about the scale; changes nothing and blocks nothing
@@ -14,4 +17,4 @@ void WriteConvertedBoring(const Text& name); // BoringData as it is, no boxes an
 void WriteBoring(const Text& name, const Text& style, const Text& draft, Durability durability = Durability::Saved);
 
 // Readers of the forms before 5.0, by procedure: they are built above this folder. 0 OpenSV3, 1 OpenSV4, 2 OpenSV46.
-extern void (*OlderForms[3])();
+extern std::array<void (*)(), 3> OlderForms;

@@ -8,6 +8,7 @@
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -17,6 +18,16 @@ Grid frmOpenSave::SS(MaxProjects, 2);
 Text frmOpenSave::HiddenFolder;
 std::vector<Text> frmOpenSave::HiddenFiles;
 Text frmCross::Title, frmFence::Title, frmSoil::Title;
+
+static const SharedRecord shared[] = {
+    {"frmOpenSave::Dialog", Kind::Window, frmOpenSave::Dialog},
+    {"frmOpenSave::SS", Kind::Window, frmOpenSave::SS},
+    {"frmOpenSave::HiddenFolder", Kind::Window, frmOpenSave::HiddenFolder},
+    {"frmOpenSave::HiddenFiles", Kind::Window, frmOpenSave::HiddenFiles},
+    {"frmCross::Title", Kind::Document, frmCross::Title},
+    {"frmFence::Title", Kind::Document, frmFence::Title},
+    {"frmSoil::Title", Kind::Document, frmSoil::Title},
+};
 
 namespace
 {

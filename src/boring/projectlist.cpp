@@ -9,12 +9,19 @@
 #include "session/files.h"
 #include "session/gridedit.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
 Slots<ProjectRecord, MaxProjects> ProjectList;
 int16_t ProjectCount = 0;
 Grid frmProjEdit::SS(MaxProjects, 4);
+
+static const SharedRecord shared[] = {
+    {"ProjectList", Kind::Session, ProjectList},
+    {"ProjectCount", Kind::Session, ProjectCount},
+    {"frmProjEdit::SS", Kind::Window, frmProjEdit::SS},
+};
 
 static const Text& ListFile()
 {

@@ -2,7 +2,9 @@
 // know nothing else of who called them.
 #include "canvas/batch.h"
 
+#include "canvas/metaugl.h"
 #include "canvas/patterns.h"
+#include "canvas/runmessages.h"
 #include "canvas/screenview.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
@@ -10,9 +12,11 @@
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 int16_t jobCode = 0;
 Slots<Text, MaxRunFiles> runFiles;
@@ -29,6 +33,24 @@ void (*IntroPages)() = nullptr;
 frmDrawPrint::Record frmDrawPrint::Dialog;
 void (*frmDrawPrint::CloseWindow)() = nullptr;
 
+static const SharedRecord shared[] = {
+    {"jobCode", Kind::Run, jobCode},
+    {"runFiles", Kind::Run, runFiles},
+    {"runFileCount", Kind::Run, runFileCount},
+    {"singleFile", Kind::Run, singleFile},
+    {"singleFileName", Kind::Run, singleFileName},
+    {"introType", Kind::Run, introType},
+    {"dialogBusy", Kind::Window, dialogBusy},
+    {"stopRequested", Kind::Run, stopRequested},
+    {"lastDir", Kind::Run, lastDir},
+    {"progressValue", Kind::Run, progressValue},
+    {"progressTotal", Kind::Run, progressTotal},
+    {"JobTable", Kind::Session, JobTable},
+    {"IntroPages", Kind::Session, IntroPages},
+    {"frmDrawPrint::Dialog", Kind::Run, frmDrawPrint::Dialog},
+    {"frmDrawPrint::CloseWindow", Kind::Run, frmDrawPrint::CloseWindow},
+};
+
 namespace
 {
 struct Job {
@@ -40,8 +62,14 @@ struct PageEntry {
     Text File, Caption;
     int16_t Start = 0;
     float End = 0;
+    int Page = 0; // of the boring
 };
-using PageTable = Slots<PageEntry, MaxPageRecords>;
+
+// As much of a run as the run files hold. Pages: where the page form is written; else the list of the files is.
+struct RunPart {
+    std::vector<Text> Files;
+    std::vector<PageEntry> Pages;
+};
 } // namespace
 
 static const Slots<Job, MaxJobs> jobs = {{{
@@ -113,15 +141,15 @@ static void WriteList()
     out.Close();
 }
 
-static void WritePages(const PageTable& pages, int count)
+static void WritePages(const std::vector<PageEntry>& pages)
 {
     LineWriter out(MasFile(), Durability::Scratch);
-    out.Line(PlainNumber(count));
-    for (int i = 1; i <= count; ++i) {
-        out.Line(pages[i].File);
-        out.Line(pages[i].Caption);
-        out.Line(PlainNumber(int(pages[i].Start)));
-        out.Line(PlainNumber(double(pages[i].End)));
+    out.Line(PlainNumber(int(pages.size())));
+    for (const PageEntry& page : pages) {
+        out.Line(page.File);
+        out.Line(page.Caption);
+        out.Line(PlainNumber(int(page.Start)));
+        out.Line(PlainNumber(double(page.End)));
     }
     out.Close();
     WriteBreak("0");
@@ -147,50 +175,78 @@ try {
     ReportFailure(__func__);
 }
 
-// Appends the pages of one boring, all of them or the one that the dialog asks for. The boring itself is only read as
-// far as its end depth and its page break, lines 64 and 66.
-static void AddPages(const Text& file, PageTable& pages, int& count, Text& firstWord, Text& secondWord)
+BoringPages::BoringPages(const Text& file)
 {
     LineReader in(file);
     in.Skip(63);
     const float endDepth = static_cast<float>(TextNumber(in.Line()));
     in.Skip(1);
-    float pageBreak = static_cast<float>(TextNumber(in.Line()));
-    int16_t pageCount = 1;
+    pageBreak = static_cast<float>(TextNumber(in.Line()));
     if (pageBreak > 0)
-        pageCount = RoundInt16(endDepth / pageBreak);
+        Count = RoundInt16(endDepth / pageBreak);
     else
         pageBreak = endDepth;
-
-    int only = 0;
-    if (!frmDrawPrint::Dialog.AllPages && pageCount > 0)
-        only = static_cast<int>(
-            std::clamp(std::nearbyint(TextNumber(frmDrawPrint::Dialog.Text1)), 1.0, double(pageCount)));
-    // Kept: the next page starts at the end of this one rounded to a whole number, with the gap or overlap that
-    // results.
-    int16_t start = 0;
-    for (int page = 1; page <= pageCount; ++page) {
-        const float end = static_cast<float>(start) + pageBreak;
-        if (only == 0 || only == page) {
-            getpage(firstWord, secondWord);
-            PageEntry& entry = pages[++count];
-            entry = {file, "", start, end};
-            if (!firstWord.empty())
-                entry.Caption = "(" + firstWord + " " + PlainNumber(page) + " " + secondWord + " " +
-                                PlainNumber(int(pageCount)) + ")";
-        }
-        start = RoundInt16(end);
-    }
 }
 
-static void WritePageForm()
+// Kept: a page starts at the end of the one before rounded to a whole number, with the gap or overlap that results.
+bool BoringPages::Next()
 {
-    PageTable pages;
-    int count = 0;
+    if (Number > 0)
+        Start = RoundInt16(End);
+    ++Number;
+    End = static_cast<float>(Start) + pageBreak;
+    return Number <= Count;
+}
+
+// The pages of one boring, all of them or the one that the dialog asks for; failure 9 for more than the run files
+// hold.
+static std::vector<PageEntry> PagesOfBoring(const Text& file, Text& firstWord, Text& secondWord)
+{
+    BoringPages page(file);
+    std::vector<PageEntry> pages;
+    int only = 0;
+    if (!frmDrawPrint::Dialog.AllPages && page.Count > 0)
+        only = static_cast<int>(
+            std::clamp(std::nearbyint(TextNumber(frmDrawPrint::Dialog.Text1)), 1.0, double(page.Count)));
+    while (page.Next())
+        if (only == 0 || only == page.Number) {
+            getpage(firstWord, secondWord);
+            if (pages.size() == MaxPageRecords)
+                throw RunTimeError{SubscriptOutOfRange};
+            PageEntry& entry = pages.emplace_back(PageEntry{file, "", page.Start, page.End, page.Number});
+            if (!firstWord.empty())
+                entry.Caption = "(" + firstWord + " " + PlainNumber(page.Number) + " " + secondWord + " " +
+                                PlainNumber(int(page.Count)) + ")";
+        }
+    return pages;
+}
+
+// The run in as few parts as the run files allow, a boring whole in one of them.
+static std::vector<RunPart> PartsOf(const std::vector<Text>& files)
+{
+    const bool pageForm = DrawsBorings() && frmDrawPrint::Dialog.ReportOption == 0;
+    std::vector<RunPart> parts(1);
     Text firstWord, secondWord;
-    for (int i = 1; i <= runFileCount; ++i)
-        AddPages(runFiles[i], pages, count, firstWord, secondWord);
-    WritePages(pages, count);
+    for (const Text& file : files) {
+        RunMessages.Place = [file] { return RunMessage{file, 0, ""}; };
+        const std::vector<PageEntry> pages =
+            pageForm ? PagesOfBoring(file, firstWord, secondWord) : std::vector<PageEntry>();
+        if (parts.back().Files.size() == MaxRunFiles || parts.back().Pages.size() + pages.size() > MaxPageRecords)
+            parts.emplace_back();
+        parts.back().Files.push_back(file);
+        parts.back().Pages.insert(parts.back().Pages.end(), pages.begin(), pages.end());
+    }
+    return parts;
+}
+
+static void WriteRunFiles(const RunPart& part)
+{
+    runFileCount = int16_t(part.Files.size());
+    std::copy(part.Files.begin(), part.Files.end(), runFiles.slot.begin() + 1);
+    if (DrawsBorings() && frmDrawPrint::Dialog.ReportOption == 0)
+        WritePages(part.Pages);
+    else
+        WriteList();
 }
 
 // ---- The dialog
@@ -259,24 +315,56 @@ bool frmDrawPrint::Command2()
     return true;
 }
 
-static void TakeSelection()
+static std::vector<Text> Selection()
 {
     using frmDrawPrint::Dialog;
-    runFileCount = 0;
-    if (singleFile == 1) {
-        runFiles[1] = singleFileName;
-        runFileCount = 1;
-        return;
-    }
+    if (singleFile == 1)
+        return {singleFileName};
+    std::vector<Text> files;
     for (int i = 1; i <= Dialog.FileCount; ++i)
-        if (Dialog.Selected[i]) {
-            runFiles[runFileCount + 1] = JoinPath(Dialog.Dir1, Dialog.File1[i]);
-            ++runFileCount;
-        }
+        if (Dialog.Selected[i])
+            files.push_back(JoinPath(Dialog.Dir1, Dialog.File1[i]));
+    return files;
+}
+
+// Conversions and exports take their files at once. False: there are too many, which is told.
+static bool FitsRun(size_t files)
+{
+    if (jobCode <= guideJob || files <= MaxRunFiles)
+        return true;
+    MsgBox(PlainNumber(int(files)) + " chosen, " + PlainNumber(MaxRunFiles) + " possible", OkOnly, Exclamation);
+    return false;
+}
+
+// The file and page that the run is at. Conversions have no pages; all runs but that of logs count from 1.
+static RunMessage PlaceIn(const RunPart& part)
+{
+    const bool pages = jobCode < guideJob, log = !part.Pages.empty();
+    const int at = !pages ? progressValue : log ? RunPages.pageIndex : RunPages.pageIndex - 1;
+    if (at < 0 || at >= int(log ? part.Pages.size() : part.Files.size()))
+        return {};
+    return log ? RunMessage{part.Pages[size_t(at)].File, part.Pages[size_t(at)].Page, ""}
+               : RunMessage{part.Files[size_t(at)], pages ? 1 : 0, ""};
+}
+
+// Starts the job for one part after another, the run files of the first one having been written. A run that the user
+// has ended, or that has broken off, ends with its part.
+static void RunParts(const std::vector<RunPart>& parts, void (*run)())
+{
+    for (const RunPart& part : parts) {
+        if (&part != &parts.front())
+            WriteRunFiles(part);
+        RunMessages.Place = [&part] { return PlaceIn(part); };
+        RunPages.exited = false;
+        run();
+        if (RunPages.exited || RunPages.pageIndex < RunPages.pageCount)
+            break;
+    }
+    RunMessages.Place = nullptr;
 }
 
 // What the job table gives for the job. The four drawing jobs come in pairs, to draw and to print.
-static void StartJob()
+static void StartJob(const std::vector<RunPart>& parts)
 {
     const bool intro = DrawsBorings() && introType != 0;
     void (*const run)() = intro ? IntroPages : JobTable[jobCode];
@@ -286,11 +374,12 @@ static void StartJob()
         RunPages.printing = jobCode % 2 == 0 ? 1 : 0;
     if (DrawsBorings() && !intro)
         RunPages.zeroBased = 1;
+    PageCanvas.polyCount = 0; // a polygon that failed half-way is of its own run
     ForgetChangedPictures();
     if (jobCode < guideJob && RunPages.printing == 1)
-        PrintRun(run);
+        PrintRun([&] { RunParts(parts, run); });
     else
-        run();
+        RunParts(parts, run);
 }
 
 void DrawPrintOk()
@@ -299,18 +388,17 @@ try {
     if (!ProjectPath.empty() && jobCode < guideJob)
         lastDir = ProjectPath;
     SaveDevice();
-    TakeSelection();
-    if (runFileCount == 0)
+    const std::vector<Text> files = Selection();
+    if (files.empty() || !FitsRun(files.size()))
         return;
-    if (DrawsBorings() && Dialog.ReportOption == 0)
-        WritePageForm();
-    else
-        WriteList();
+    const MessagesOfRun messages(int(files.size()));
+    const std::vector<RunPart> parts = PartsOf(files);
+    WriteRunFiles(parts.front());
     introType = static_cast<int16_t>(Dialog.ReportOption);
     Dialog.Unloaded = true;
     if (frmDrawPrint::CloseWindow)
         frmDrawPrint::CloseWindow();
-    StartJob();
+    StartJob(parts);
 } catch (...) {
     ReportFailure(__func__);
 }

@@ -49,6 +49,21 @@ void Option1();  // Select All
 void ChangeFolder(const Text& folder);
 } // namespace frmDrawPrint
 
+// The pages that a boring is cut into, one after another. Reads the boring only as far as its end depth and its page
+// break, lines 64 and 66; failures by number.
+//     for (BoringPages page(file); page.Next();)
+struct BoringPages {
+    explicit BoringPages(const Text& file);
+    bool Next();    // false behind the last page
+    int Number = 0; // of the page, from 1
+    int16_t Count = 1;
+    int16_t Start = 0;
+    float End = 0;
+
+private:
+    float pageBreak = 0;
+};
+
 void DrawPrintLoad();                    // prepares the dialog for jobCode
 void DrawPrintOk();                      // performs the job on the selection, or on singleFileName
 void getpage(Text& first, Text& second); // the two page words of the heading file; an old value stays on failure

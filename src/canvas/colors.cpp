@@ -1,7 +1,11 @@
 // colors.cpp -- the colour names of the cells, and colours typed as three numbers.
 #include "canvas/colors.h"
 
+#include "canvas/pageobjects.h"
 #include "session/platform.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace
 {
@@ -53,4 +57,23 @@ Text getcolor(const Text& text, bool quiet)
         return typed;
     MsgBox("Color values must be in the range of 0 to 255: " + typed, OkOnly, Exclamation);
     return white;
+}
+
+int32_t ParseColor(const Text& color)
+{
+    const size_t first = color.find(' ');
+    const size_t second = first == Text::npos ? Text::npos : color.find(' ', first + 1);
+    if (second == Text::npos)
+        return White;
+    const auto part = [](std::string_view text) {
+        return static_cast<int>(std::clamp(std::nearbyint(TextNumber(text)), 0.0, 255.0));
+    };
+    const std::string_view text = color;
+    return ColorOf(part(text.substr(0, first)), part(text.substr(first + 1, second - first - 1)),
+                   part(text.substr(second + 1)));
+}
+
+bool IsColorName(const Text& text)
+{
+    return getcolor(text, true) != white || SameText(Trim(text), "WHITE");
 }

@@ -12,6 +12,7 @@
 // round entity may be flat.
 #include "canvas/dxf.h"
 
+#include "canvas/colors.h"
 #include "canvas/dxfdrawing.h"
 #include "canvas/hatchlines.h"
 #include "canvas/hatchstrokes.h"

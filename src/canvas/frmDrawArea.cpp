@@ -5,6 +5,7 @@
 #include "canvas/viewcommands.h"
 #include "platform/qt/pageview.h"
 #include "platform/qt/uitext.h"
+#include "platform/qt/windowparts.h"
 #include "platform/qt/windows.h"
 #include "session/platform.h"
 

@@ -1,4 +1,5 @@
 // frmPrinting.cpp -- the notice that something goes to the printer: a second and a half, then it is gone.
+#include "platform/qt/windowparts.h"
 #include "platform/qt/windows.h"
 
 #include <QDialog>

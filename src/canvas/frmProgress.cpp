@@ -1,6 +1,7 @@
 // frmProgress.cpp -- the progress window of a run: how much of the page is made.
 #include "canvas/batch.h"
 #include "platform/qt/uitext.h"
+#include "platform/qt/windowparts.h"
 #include "platform/qt/windows.h"
 
 #include <QApplication>

@@ -2,6 +2,7 @@
 // that a page comes out the same wherever it is drawn.
 #include "canvas/metaugl.h"
 
+#include "canvas/colors.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "session/deviceconfig.h"
@@ -11,8 +12,6 @@
 
 #include <algorithm>
 #include <cmath>
-
-CanvasRecord PageCanvas;
 
 static int32_t Nearest(float units)
 {
@@ -53,13 +52,8 @@ void canvasstart(const Text& mode)
     PageCanvas.lineSpacing = -83.3;
     PageCanvas.fontName = "Arial";
     PageCanvas.textAngle = 0;
-    // Kept: pen style, pen colour and bold stay as the page before left them.
-    PageList.Default.HAlign = 0;
-    PageList.Default.VAlign = 1;
-    PageList.Default.FontHeight = -83.3;
-    PageList.Default.FontName = "Arial";
-    PageList.Default.TextAngle = 0;
-    PageList.Default.PenWidth = 4;
+    // All of it, or what a failed column leaves would dash the pages behind it.
+    PageList.Default = ObjectStyle();
     Text& fills = PageCanvas.fillsDir;
     fills = DeviceConfig.SystemFiles[FillFolder];
     if (!EndsInSeparator(fills))
@@ -469,20 +463,6 @@ void rectfillflag(float dx, float dy, float f)
 {
     if (Rectangle(dx, dy))
         polyfillflag(f);
-}
-
-int32_t ParseColor(const Text& color)
-{
-    const size_t first = color.find(' ');
-    const size_t second = first == Text::npos ? Text::npos : color.find(' ', first + 1);
-    if (second == Text::npos)
-        return White;
-    const auto part = [](std::string_view text) {
-        return static_cast<int>(std::clamp(std::nearbyint(TextNumber(text)), 0.0, 255.0));
-    };
-    const std::string_view text = color;
-    return ColorOf(part(text.substr(0, first)), part(text.substr(first + 1, second - first - 1)),
-                   part(text.substr(second + 1)));
 }
 
 // ---- Styles and text

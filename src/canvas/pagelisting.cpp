@@ -1,6 +1,7 @@
 // pagelisting.cpp -- the object list as lines of JSON.
 #include "canvas/pagelisting.h"
 
+#include "canvas/colors.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "session/files.h"

@@ -2,10 +2,15 @@
 #include "canvas/pageobjects.h"
 
 #include "session/failure.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
 PageListRecord PageList;
+
+static const SharedRecord shared[] = {
+    {"PageList", Kind::Run, PageList},
+};
 
 void ClearPage(int32_t width, int32_t height)
 {

@@ -8,8 +8,13 @@
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 Slots<Text, MaxPatternNames> patternNames;
+
+static const SharedRecord shared[] = {
+    {"patternNames", Kind::Run, patternNames},
+};
 
 // Kept: the misspellings; offices know the patterns by these names.
 static constexpr std::string_view names[MaxPatternNames] = {

@@ -1,10 +1,13 @@
 // patterns.cpp -- fill patterns: codes, names, screen forms and tints.
 #include "canvas/patterns.h"
 
+#include "canvas/colors.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "session/files.h"
+#include "session/machine.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cmath>
@@ -48,7 +51,7 @@ int16_t getpch(const Text& cell)
     return 0;
 }
 
-void setpatt(const Text& code)
+int getpatt(const Text& code)
 {
     if (code.size() < 2)
         throw RunTimeError{InvalidCall};
@@ -66,7 +69,12 @@ void setpatt(const Text& code)
         if (file > 300)
             file = 0;
     }
-    setfillfile(static_cast<int>(std::clamp(file, 0.0, double(mostFile))));
+    return static_cast<int>(std::clamp(file, 0.0, double(mostFile)));
+}
+
+void setpatt(const Text& code)
+{
+    setfillfile(getpatt(code));
 }
 
 // ---- The fills folder
@@ -108,6 +116,16 @@ static std::map<std::string, PictureFile> pictureFiles;
 static std::map<std::string, FileState> ownScreenForms;
 
 int PatternPicturesEmptied = 0;
+
+static const SharedRecord shared[] = {
+    {"TintsInMemory", Kind::Session, TintsInMemory},
+    {"fillsFolder", Kind::Machine, fillsFolder},
+    {"tints", Kind::Machine, tints},
+    {"pictures", Kind::Machine, pictures},
+    {"pictureFiles", Kind::Machine, pictureFiles},
+    {"ownScreenForms", Kind::Machine, ownScreenForms},
+    {"PatternPicturesEmptied", Kind::Machine, PatternPicturesEmptied},
+};
 
 static void EmptyPictures()
 {
@@ -193,13 +211,13 @@ static uint32_t RgbOf(const Text& color)
 static void Watch(const Text& name)
 {
     const std::string path = NativePath(name);
-    pictureFiles.try_emplace(path, PictureFile{name, StateOf(path)});
+    pictureFiles.try_emplace(path, PictureFile{name, Machine::StateOf(path)});
 }
 
 static void NoteOwn(const Text& screenName)
 {
     const std::string path = NativePath(screenName);
-    ownScreenForms[path] = StateOf(path);
+    ownScreenForms[path] = Machine::StateOf(path);
     pictureFiles.erase(path);
     Watch(screenName);
 }
@@ -214,7 +232,7 @@ static void DropScreenForm(const PictureFile& print)
     const auto own = ownScreenForms.find(screen);
     if (own == ownScreenForms.end())
         return;
-    if (StateOf(screen) == own->second)
+    if (Machine::StateOf(screen) == own->second)
         std::remove(screen.c_str());
     ownScreenForms.erase(own);
 }
@@ -224,7 +242,7 @@ void ForgetChangedPictures()
     Platform.DropChangedPictures();
     bool changed = false;
     for (const auto& [path, file] : pictureFiles) {
-        if (StateOf(path) == file.State)
+        if (Machine::StateOf(path) == file.State)
             continue;
         changed = true;
         DropScreenForm(file);
@@ -296,14 +314,17 @@ static bool Keep(const Text& name)
 
 // ---- The current pattern
 
+Text PatternName(int number)
+{
+    return (number >= 1 && number <= 9 ? "F0" : "F") + PlainNumber(number) + ".BMP";
+}
+
 void setfillfile(int number)
 {
-    number = std::clamp(number, 0, mostFile);
-    const Text stem = PageCanvas.fillsDir + (number >= 1 && number <= 9 ? "F0" : "F") + PlainNumber(number);
-    PageCanvas.fillFile = stem + ".BMP";
+    PageCanvas.fillFile = PageCanvas.fillsDir + PatternName(std::clamp(number, 0, mostFile));
     if (!InFolder(PageCanvas.fillFile))
         return;
-    const Text screen = stem + "_sc.BMP";
+    const Text screen = PageCanvas.fillFile.substr(0, PageCanvas.fillFile.size() - 4) + "_sc.BMP";
     if (!InFolder(screen) && Keep(screen))
         NoteOwn(screen);
     PageCanvas.fillFile = screen;

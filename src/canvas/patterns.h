@@ -16,7 +16,10 @@ extern const Slots<int16_t, 7> wellFillNumbers;   // 0 to 7: file numbers of the
 // A "Fill #" cell as a file number; 0 is blank. Box "Fill pattern number is out of range: " for a bad number, a
 // code that is not in the table is silently 0.
 int16_t getpch(const Text& cell);
-// The older reader, of sections and soil tables: drops the first character, heeds case. Ends in setfillfile.
+// The older reader, of sections and soil tables, as a file number; 0 is blank. It drops the first character and heeds
+// case. Failure 5 for a code of one character.
+int getpatt(const Text& code);
+// The same, ending in setfillfile.
 void setpatt(const Text& code);
 // Selects the current pattern of the canvas: PageCanvas.fillFile becomes its screen form, made if need be; a
 // pattern whose print form is missing leaves the print name there.
@@ -24,6 +27,7 @@ void setfillfile(int number);
 // Tinted copy k of the current pattern: "T" k "_sc.bmp" and "T" k ".bmp" in the fills folder.
 void createcoloredFP(const Text& color, int k);
 
+Text PatternName(int number);           // of a pattern's print form: "F05.BMP"
 Text PrintForm(const Text& screenName); // of a screen form's name: without its last 7 characters, plus ".bmp"
 // What setfillfile has left is in the fills folder: a print form, or a screen form or the print form it is made from.
 bool PatternThere(const Text& fillFile);

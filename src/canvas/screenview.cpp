@@ -6,13 +6,23 @@
 #include "canvas/patterns.h"
 #include "session/files.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cmath>
 
 RunPagesRecord RunPages;
 
+static const SharedRecord shared[] = {
+    {"RunPages", Kind::Run, RunPages},
+};
+
 // ---- Pages
+
+Text PrintedName(const Text& file)
+{
+    return RunPages.printedName.value_or(file);
+}
 
 void ShowOrPrint()
 {
@@ -81,7 +91,7 @@ void printcanvas()
     Platform.PrintPage();
 }
 
-void PrintRun(void (*print)())
+void PrintRun(const std::function<void()>& print)
 {
     try {
         print();
@@ -139,6 +149,7 @@ bool GoToPage()
 bool ExitRun()
 {
     RunPages.pageIndex = RoundInt16(RunPages.pageCount + 1);
+    RunPages.exited = true;
     return true;
 }
 

@@ -3,14 +3,21 @@
 
 #include "session/text.h"
 
+#include <functional>
+#include <optional>
+
 struct RunPagesRecord {
     int16_t pageCount = 0; // pages of the run
     int16_t pageIndex = 0; // the page now on screen; a log run counts from 0, every other run from 1
     int16_t zeroBased = 0; // Kept: set to 1 by the first log run and never cleared; only Previous reads it
     Text pageFile;         // path of the file that the current page comes from
     int16_t printing = 0;  // 1: a print run
+    // What pages print as the name of their file: of one that is drawn from a copy that nobody knows. Else its own.
+    std::optional<Text> printedName;
+    bool exited = false; // the user has ended it
 };
 extern RunPagesRecord RunPages;
+Text PrintedName(const Text& file); // what the pages of that file print as its name
 
 // Ends a page, which the platform is told of: prints it and steps to the next one on a print run, else shows it,
 // blocking.
@@ -20,7 +27,7 @@ void ShowOrPrint();
 void printcanvas();
 // Prints by that procedure and ends the print run, also when it fails: what has gone out stays, and the next print
 // does not come behind it. Failures by number, of the printing first.
-void PrintRun(void (*print)());
+void PrintRun(const std::function<void()>& print);
 
 // The page as DXF beside its source, and the box that says so; the name is pageFile with its last 4 characters
 // replaced by ".dxf".

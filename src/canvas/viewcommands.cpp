@@ -2,11 +2,11 @@
 #include "canvas/viewcommands.h"
 
 #include "canvas/batch.h"
-#include "canvas/metaugl.h"
-#include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
+#include "session/kept.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 void PrintShownPage()
 {
@@ -39,29 +39,20 @@ static void PutBack(const Text& flag)
 
 namespace
 {
-// Everything that a run changes and the page on the screen lives from. Put back even when the run fails.
-struct Kept {
-    RunPagesRecord run = RunPages;
-    PageListRecord list = PageList;
-    CanvasRecord canvas = PageCanvas;
-    int16_t job = jobCode, intro = introType, stop = stopRequested;
-    void (*showPage)() = Platform.ShowPage;
-    Text breakFlag = BreakFlag();
+// The run within the run: the page on the screen and every later one stay as they would be without it. Put back even
+// when the run fails.
+struct Within {
+    const KeepAll records{Kind::Run};
+    const Kept<void (*)()> showPage{Platform.ShowPage};
+    const Text breakFlag = BreakFlag();
 
-    Kept() = default;
-    Kept(const Kept&) = delete;
-    Kept& operator=(const Kept&) = delete;
-    ~Kept()
+    Within() = default;
+    Within(const Within&) = delete;
+    Within& operator=(const Within&) = delete;
+    ~Within()
     {
         Platform.PrintToPdf(false);
         PutBack(breakFlag);
-        Platform.ShowPage = showPage;
-        RunPages = run;
-        PageList = list;
-        PageCanvas = canvas;
-        jobCode = job;
-        introType = intro;
-        stopRequested = stop;
     }
 };
 } // namespace
@@ -84,7 +75,7 @@ void ExportPdf()
     void (*const run)() = jobCode <= 2 && introType != 0 ? IntroPages : JobTable[jobCode];
     if (!run)
         return;
-    const Kept kept;
+    const Within within;
     if (IsLogRun())
         WriteBreak("0"); // as a run begins, not what the page on the screen has left behind
     Platform.PrintToPdf(true);

@@ -1,6 +1,7 @@
 // frmGTGSGenEditor.cpp -- the editor of the general GTGS conversion: template and folder, how headers.txt is cut, the
 // name of the new boring, and two grids.
 #include "convert/gtgsgeneditor.h"
+#include "editors/nextfile.h"
 #include "platform/qt/editorwindow.h"
 #include "platform/qt/gridview.h"
 #include "platform/qt/uitext.h"
@@ -187,6 +188,12 @@ void ShowGTGSGenEditor()
     window.before = [&boxes] { boxes.Take(); };
     window.refresh = [&boxes] { boxes.Show(); };
     window.mayClose = frmGTGSGenEditor::mnuExit;
+    window.opens = [](const Text& name) {
+        if (!IsConversionMap(name))
+            return false;
+        frmGTGSGenEditor::OpenNamed(name);
+        return true;
+    };
 
     QMenu* file = window.Part("mnuFile", "&File");
     window.Entry(file, "mnuOpenGTGSConvFile", "&Open GTGS Conversion File...", QKeySequence::Open,
@@ -209,5 +216,7 @@ void ShowGTGSGenEditor()
     window.resize(860, 680);
     boxes.Show();
     boxes.text1->setFocus();
+    if (!NextFile.empty())
+        window.OpenSoon(TakeNextFile());
     window.exec();
 }

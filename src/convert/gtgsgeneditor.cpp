@@ -9,6 +9,7 @@
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
@@ -17,6 +18,12 @@ static const char* const caption = "GTGS General Conversion Editor";
 frmGTGSGenEditor::Record frmGTGSGenEditor::Dialog;
 Grid frmGTGSGenEditor::SS1(MaxMapRows, 2);
 Grid frmGTGSGenEditor::SS2(MaxMapRows, 2);
+
+static const SharedRecord shared[] = {
+    {"frmGTGSGenEditor::Dialog", Kind::Window, frmGTGSGenEditor::Dialog},
+    {"frmGTGSGenEditor::SS1", Kind::Window, frmGTGSGenEditor::SS1},
+    {"frmGTGSGenEditor::SS2", Kind::Window, frmGTGSGenEditor::SS2},
+};
 
 // By FieldKind.
 static const std::vector<Text>& KindNames()
@@ -156,19 +163,37 @@ void frmGTGSGenEditor::Load()
     Dialog.Settled = MapBoxes();
 }
 
-void frmGTGSGenEditor::mnuOpenGTGSConvFile()
+static const char* const opening = "Would you like to save the current file before opening another file?";
+
+// False: the file was not read whole, which was told.
+static bool Open(const Text& name)
 {
-    if (!SaveFirst("Would you like to save the current file before opening another file?"))
-        return;
-    DialogMode = 20;
-    Platform.ShowChooser();
-    if (DialogResult.empty())
-        return;
-    Dialog.File = DialogResult;
-    OpenGTGSConversionFile(Dialog.File);
+    using frmGTGSGenEditor::Dialog;
+    const int failures = FailuresReported;
+    Dialog.File = name;
+    OpenGTGSConversionFile(name);
     ShowMapping();
     Dialog.Settled = MapBoxes();
     TitleByFile();
+    return FailuresReported == failures;
+}
+
+void frmGTGSGenEditor::OpenNamed(const Text& name)
+{
+    if (!SaveFirst(opening) || Open(name))
+        return;
+    Dialog.File = "";
+    Dialog.Title = caption;
+}
+
+void frmGTGSGenEditor::mnuOpenGTGSConvFile()
+{
+    if (!SaveFirst(opening))
+        return;
+    DialogMode = 20;
+    Platform.ShowChooser();
+    if (!DialogResult.empty())
+        Open(DialogResult);
 }
 
 bool frmGTGSGenEditor::mnuSaveGTGSConvFile()

@@ -24,6 +24,8 @@ extern Grid SS2; // GTGS fill codes and what they are here
 void Load(); // a new mapping
 // What would drop a map that has changed asks first.
 void mnuOpenGTGSConvFile();
+void OpenNamed(
+    const Text& name);      // from outside; one that is refused leaves no name behind that a save could write over
 bool mnuSaveGTGSConvFile(); // false: nothing was saved
 bool mnuSaveAs();
 bool mnuExit();  // false: the user stays

@@ -17,19 +17,25 @@
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
 GtgsMappingRecord GtgsMapping;
+
+static const SharedRecord shared[] = {
+    {"GtgsMapping", Kind::Document, GtgsMapping},
+};
+
 const Text NameFromHeaders = "bname";
 
 // ---------------------------------------------------------------------------------------------------- the .GCV file
 
 void OpenGTGSConversionFile(const Text& name)
 try {
+    GtgsMapping = GtgsMappingRecord(); // also for a file that is not there, whose name the next save would use
     LineReader in(name);
     const auto integer = [&in] { return RoundInt16(TextNumber(in.Line())); };
-    GtgsMapping = GtgsMappingRecord();
     GtgsMapping.templateFile = in.Line();
     GtgsMapping.textPath = in.Line();
     GtgsMapping.fixedFields = integer();

@@ -18,11 +18,16 @@
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cmath>
 
 Text WinLogTemplate;
+
+static const SharedRecord shared[] = {
+    {"WinLogTemplate", Kind::Run, WinLogTemplate},
+};
 
 static const Text MarkAlone(1, ParagraphMark);
 
@@ -59,9 +64,9 @@ static int SlotOf(int number, int distance)
     return number == 0 ? 0 : number + distance;
 }
 
-static Text Sum(double a, double b)
+static double Sum(double a, double b)
 {
-    return PlainNumber(double(static_cast<float>(a) + static_cast<float>(b)));
+    return static_cast<float>(a) + static_cast<float>(b);
 }
 
 // The lines up to the next section, whose line is returned.
@@ -159,7 +164,7 @@ static void TakeSampleKey(const Text& line)
         return TakeOther(line);
     if (line.starts_with("Size")) {
         Slots<Text, 21>& sample = BoringData.Samples[KeyNumber(line, "Size")];
-        sample[2] = Sum(TextNumber(sample[1]), NumberValue(line));
+        sample[2] = PlainNumber(Sum(TextNumber(sample[1]), NumberValue(line)));
         return;
     }
     for (const Key& key : keys)
@@ -229,9 +234,10 @@ static Text ReadWell(LineReader& in)
             BoringData.OuterLayers[row + 1][1] = BoringData.InnerLayers[row + 1][1] = Value(line);
             depth = NumberValue(line);
             ++row;
-        } else if (line.starts_with("Length"))
-            BoringData.OuterLayers[row][2] = BoringData.InnerLayers[row][2] = Sum(depth, NumberValue(line));
-        else if (line.starts_with("Pipe Code")) {
+        } else if (line.starts_with("Length")) {
+            depth = Sum(depth, NumberValue(line)); // a second length goes on where the first has ended
+            BoringData.OuterLayers[row][2] = BoringData.InnerLayers[row][2] = PlainNumber(depth);
+        } else if (line.starts_with("Pipe Code")) {
             if (Trim(Value(line)) == "6")
                 BoringData.InnerLayers[row][3] = "Screen";
         } else if (line.starts_with("Packing Code")) {
@@ -321,7 +327,7 @@ static void ReadTemplate()
     if (version.starts_with("5."))
         TakeTemplate(in, version, false);
     else
-        MsgBox("This boring file has an invalid format.", OkOnly, NoIcon);
+        MsgBox("This boring file has an invalid format.", OkOnly, Exclamation);
 }
 
 static void ConvertLogFile(const Text& name)

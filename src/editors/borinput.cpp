@@ -1,6 +1,7 @@
 // borinput.cpp -- the commands of the log tool's window.
 #include "editors/borinput.h"
 
+#include "boring/boringblocks.h"
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
@@ -10,6 +11,8 @@
 #include "boring/textlines.h"
 #include "canvas/batch.h"
 #include "editors/fillform.h"
+#include "editors/markers.h"
+#include "editors/nextfile.h"
 #include "report/desitems.h"
 #include "report/fontprofile.h"
 #include "report/prompts.h"
@@ -21,8 +24,13 @@
 #include "session/recovery.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 frmBorinput::CommandTable frmBorinput::Commands;
+
+static const SharedRecord shared[] = {
+    {"frmBorinput::Commands", Kind::Session, frmBorinput::Commands},
+};
 
 static const char* const ToolTitle = "VeskLog - Boring Log Diagram";
 
@@ -62,10 +70,7 @@ static void LabelBoxes()
     label(SSCuttings, "Cutting Information", {"Depth", "% Fine", "% Medium", "% Coarse"});
     label(SSFormations, "Formation Information", {"Depth", "Descripton, Abrev."});
     label(SSLegend, "Intro Page Legend", {"USCS", "Text"});
-    for (int n = 1; n <= SampleParams; ++n)
-        SSSamp.headings[n + 5] = "Param." + NumberText(n);
-    for (int n = 1; n <= GenParams; ++n)
-        SSPar.headings[n + 1] = "Param." + NumberText(n);
+    LabelParameters();
 }
 
 // What a change by the user brings about: each sets the flag, and some size boxes or show names elsewhere.
@@ -76,6 +81,7 @@ static void WatchBoxes()
             grid->changed = [] { FileChanged = 1; };
     frmBorinput::SSRepParts.changed = frmBorinput::SSGenWellInfo.changed = BorTextChange;
     frmBorinput::SSP1Setup.changed = frmBorinput::SSP2Setup.changed = SetupGridChange;
+    frmBorinput::SSLith.names = &LayerMarkers;
 }
 
 void frmBorinput::Load()
@@ -128,20 +134,23 @@ void frmBorinput::mnuNew()
         return;
     LeaveDocument();
     ClearBoringForm();
+    RecentFile = "";
     if (DeviceConfig.FontName != "Arial")
         AssignFont();
     ForgetAll();
 }
 
-// The way of every opening; choose leaves the name in DialogResult and the version of the form in DialogMode.
+// The way of every opening; choose leaves the name in DialogResult and the version of the form in DialogMode. False:
+// the file was refused or has failed, which was told.
 template <class Choose>
-static void Open(Choose choose)
+static bool Open(Choose choose)
 {
     using namespace frmBorinput;
     // Kept: after a No the flag stays 1, so New asks once more in its own words, and a Cancel there does not stop the
     // opening; it only skips the clearing.
     if (!SaveFirst("Would you like to save the current file before opening another file?"))
-        return;
+        return true;
+    bool whole = true;
     choose();
     if (!DialogResult.empty()) {
         // New may save, and with that choose another name.
@@ -152,12 +161,14 @@ static void Open(Choose choose)
         BoringFileName = DialogResult = chosen;
         DialogMode = version;
         FileChanged = 0;
-        OpenBoringFile2();
+        whole = OpenBoringFile2();
         FillBoringForm();
         ForgetAll();
+        RecentFile = whole ? BoringFileName : "";
     }
     FileChanged = 0; // Kept: also when the chooser was cancelled
     KeepCopy();      // what was dropped by a No, and kept again while the chooser was up
+    return whole;
 }
 
 void frmBorinput::mnuOpen()
@@ -168,12 +179,37 @@ void frmBorinput::mnuOpen()
     });
 }
 
+// The version of the chooser's list that the file's ending tells. A boring that was saved under the name of its older
+// form is one of the current form.
+static int16_t FormOf(const Text& name)
+{
+    const Text upper = UpperCase(name);
+    const bool third = upper.ends_with(".SV3");
+    if ((!third && !upper.ends_with(".SV4")) || !FileExists(name))
+        return 2;
+    LineReader in(name);
+    return !in.AtEnd() && in.Line() == BoringVersion ? int16_t(2) : third ? int16_t(0) : int16_t(1);
+}
+
 void frmBorinput::OpenNamed(const Text& name)
 {
-    Open([&name] {
+    const bool whole = Open([&name] {
+        DialogMode = FormOf(name);
         DialogResult = name;
-        DialogMode = 2; // the current form
     });
+    if (whole)
+        return;
+    BoringFileName = "";
+    Title = ToolTitle;
+}
+
+// The boxes into the file of BoringFileName.
+static void Write()
+{
+    SaveDocument(SaveBoringFile);
+    FileChanged = 0; // Kept: also when the save was refused
+    if (!SaveOwed())
+        frmBorinput::RecentFile = BoringFileName;
 }
 
 void frmBorinput::mnuSave()
@@ -183,8 +219,7 @@ void frmBorinput::mnuSave()
         return;
     }
     boringcheck();
-    SaveDocument(SaveBoringFile);
-    FileChanged = 0; // Kept: also when the save was refused
+    Write();
 }
 
 void frmBorinput::mnuSaveAs()
@@ -198,8 +233,7 @@ void frmBorinput::mnuSaveAs()
         return;
     boringcheck();
     BoringFileName = name;
-    SaveDocument(SaveBoringFile);
-    FileChanged = 0; // Kept: also when the save was refused
+    Write();
     Title = BoringFileName + " - " + ToolTitle;
 }
 
@@ -268,7 +302,7 @@ void frmBorinput::mnuConvertFeetMeters()
 
 void frmBorinput::mnuGraphicSetup()
 {
-    Platform.ShowGraphicsSetup();
+    SetUpGraphics(BoringEmpty());
 }
 
 void frmBorinput::mnuCreateLogo()
@@ -291,11 +325,13 @@ void frmBorinput::mnuHelp()
 
 static const char* const quitting = "Would you like to save the current file before quitting?";
 
-static void HandOver(Tool tool)
+// With a file that the tool opens, or none.
+static void HandOver(Tool tool, const Text& file = "")
 {
     if (!SaveFirst(quitting))
         return;
     FileChanged = 0; // Kept: after a No too, though the boring that stays in the boxes is still the changed one
+    NextFile = file;
     Platform.ShowTool(tool);
 }
 
@@ -317,6 +353,17 @@ void frmBorinput::mnuvsoil()
 void frmBorinput::mnuvGIS()
 {
     HandOver(Tool::GIS);
+}
+
+void frmBorinput::OpenFromOutside(const Text& name)
+{
+    if (ToolOfFile(name) != Tool::Log)
+        return HandOver(ToolOfFile(name), name);
+    if (!IsConversionMap(name))
+        return OpenNamed(name);
+    NextFile = name;
+    if (Commands.mnuConvertGTGSgeneral)
+        Commands.mnuConvertGTGSgeneral();
 }
 
 bool frmBorinput::mnuExit()

@@ -39,7 +39,10 @@ void mnuOpen();
 void mnuSave();
 void mnuSaveAs();
 void mnuImport();
-void OpenNamed(const Text& name); // Open with a file that is known: a recent one, or one dropped on the window
+// Open with a file that is known: a recent one, or one from outside. Its form is that of its ending, and one that is
+// refused leaves no name behind that a save could write over.
+void OpenNamed(const Text& name);
+void OpenFromOutside(const Text& name); // by the tool of its ending, each after its own question
 void mnuPreview();
 void mnuBatchDraw();
 void mnuPrint();

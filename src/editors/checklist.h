@@ -2,19 +2,10 @@
 // boxes, the session and the boring's file stay as they are, and no box is shown.
 #pragma once
 
-#include "session/text.h"
+#include "editors/checkentry.h"
 
-#include <vector>
-
-struct CheckEntry {
-    Text Words;
-    int Box = 0;              // where to look: its number, as ActiveBox; the text boxes share 9
-    int Row = 1, Column = 1;  // of a grid
-    const char* TextBox = ""; // the name of a text box, with the place in its text, line ends as one character
-    int Place = 0;
-    const char* GridName = ""; // of a tool beside the log tool: the grid's name, in place of its number
-};
-
-// The warnings of a save, and besides: gaps and overlaps of samples, contacts out of order, depths below the last
-// contact, columns wider than the page, text of more lines than its box holds, or than have room on the page.
+// The gravest lines in front: the warnings of a save, cells that are read otherwise than they were meant, what lies out
+// of order or below the log, codes and colours that draw blank, markers and texts of other layers, text and columns
+// without room, values beyond their axis, files that are not found, letters of no code page. What a page would be drawn
+// from is looked for as a run looks for it; a part of the list is a file of its own beside this one.
 std::vector<CheckEntry> CheckBoring();

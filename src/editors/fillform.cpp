@@ -41,6 +41,14 @@ static void ShowParameterNames()
         SSPar.headings[size_t(n) + 1] = BoringData.GenParamSetup[n][1];
 }
 
+void LabelParameters()
+{
+    for (int n = 1; n <= SampleParams; ++n)
+        SSSamp.headings[size_t(n) + 5] = "Param." + NumberText(n);
+    for (int n = 1; n <= GenParams; ++n)
+        SSPar.headings[size_t(n) + 1] = "Param." + NumberText(n);
+}
+
 void FillBoringForm()
 try {
     Title = BoringFileName + " - " + titleWords;
@@ -73,6 +81,8 @@ try {
     MemoWcon.text = FlowingText(BoringData.WellNotes, BoringData.WellNoteCount);
     MemoRemarks.text = FlowingText(BoringData.Remarks, BoringData.RemarkCount);
     MemoBottNotes.text = FlowingText(BoringData.BottNotes, MaxBottNotes);
+    for (Memo* box : {&MemoDes, &MemoWcon, &MemoRemarks, &MemoBottNotes})
+        box->edited = false;
     ShowParameterNames();
     BorTextChange();
     txtClient.clear();
@@ -92,8 +102,10 @@ void ClearBoringForm()
         cmbLayFile.clear();
         LayoutFileChange();
     }
-    for (Memo* box : {&MemoDes, &MemoWcon, &MemoRemarks, &MemoBottNotes})
+    for (Memo* box : {&MemoDes, &MemoWcon, &MemoRemarks, &MemoBottNotes}) {
         box->text.clear();
+        box->edited = false; // of another boring
+    }
     txtClient.clear();
     Check1 = false;
     Option = 0;
@@ -104,7 +116,7 @@ void ClearBoringForm()
                        &SSInnerLay, &SSW, &SSCuttings, &SSFormations, &SSLegend})
         grid->ClearRows(1, grid->DataRowCount());
     ClearBoringArrays();
-    ShowParameterNames();
+    LabelParameters();
     FileChanged = 0;
     Title = titleWords;
 }
@@ -283,4 +295,47 @@ int PagesOfLog()
     if (!(pageBreak > 0))
         return 1;
     return int(std::clamp(std::nearbyint(double(endDepth / pageBreak)), 0.0, 32767.0));
+}
+
+Text PageWords()
+{
+    const int pages = BoringFileName.empty() ? 0 : PagesOfLog();
+    return pages == 0 ? "no page" : PlainNumber(pages) + (pages == 1 ? " page" : " pages");
+}
+
+void EditLayouts(void (*edit)())
+{
+    struct InUse {
+        const decltype(LayoutData.Orientation) orientation = LayoutData.Orientation;
+        ~InUse()
+        {
+            LayoutData.Orientation = orientation;
+            findbottnotewidth(); // it may be the one that was edited
+            changebottnotewidth();
+            if (!IsBlank(lblWidthtot))
+                ShowTotalWidth();
+        }
+    } inUse;
+    edit();
+}
+
+void SetUpGraphics(bool documentEmpty)
+{
+    const int16_t before = FileChanged;
+    Platform.ShowGraphicsSetup();
+    if (documentEmpty)
+        FileChanged = before;
+}
+
+bool BoringEmpty()
+{
+    for (int box = 1; box <= 16; ++box)
+        if (const Grid* grid = BoxGrid(box))
+            if (grid->DataRowCount() > 0)
+                return false;
+    for (const Text* text : {&BoringFileName, &Text1, &Text2, &cmbLayFile, &txtClient, &MemoDes.text, &MemoWcon.text,
+                             &MemoRemarks.text, &MemoBottNotes.text})
+        if (!text->empty())
+            return false;
+    return !Check1 && Option == 0;
 }

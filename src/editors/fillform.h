@@ -20,6 +20,12 @@ void LayoutFileChange(); // the layout box: sizes the general notes box. Sets Fi
 void findbottnotewidth();
 void changebottnotewidth(); // sizes the general notes box by what was found
 void ResetTextBoxes();      // all text boxes, after a change of the font or of the text adjustments
+// The work of the layout editor, which looks at other layouts; behind it the page of the one in use counts again.
+void EditLayouts(void (*edit)());
+// The set-up window, over a document that is empty or not: a change of the font marks no empty one as changed.
+void SetUpGraphics(bool documentEmpty);
+bool BoringEmpty();     // nothing stands in the boxes, and no file is open
+void LabelParameters(); // the headings of parameters without names, as at the start
 
 // The text adjustment buttons: 1 and 2 make the description box narrower and wider by 50 twips, 3 and 4 the well notes,
 // 5 and 6 the remarks, 7 and 8 the general notes. Only button 2 has a limit, and says so.
@@ -27,3 +33,4 @@ void AdjustTextBox(int button);
 
 // The pages of the log by the scale that is typed in, as a run would cut them.
 int PagesOfLog();
+Text PageWords(); // "2 pages"; a boring that was never saved has no page to be drawn

@@ -6,6 +6,7 @@
 #include "editors/checklist.h"
 #include "editors/fillform.h"
 #include "editors/hush.h"
+#include "editors/nextfile.h"
 #include "editors/toolcommands.h"
 #include "platform/qt/application.h"
 #include "platform/qt/checkdock.h"
@@ -13,6 +14,7 @@
 #include "platform/qt/itemlist.h"
 #include "platform/qt/livepane.h"
 #include "platform/qt/memoview.h"
+#include "platform/qt/typedtext.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windowparts.h"
 #include "platform/qt/windows.h"
@@ -36,7 +38,6 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QRadioButton>
@@ -57,27 +58,28 @@
 
 namespace
 {
-class BorinputWindow : public QMainWindow
+class BorinputWindow : public QMainWindow, public TakesFiles
 {
 public:
     BorinputWindow();
     void Refresh();
     void Run(const std::function<void()>& command);
-    void OpenSoon(const Text& name); // by a turn of the event loop, as a command of the window
-    bool ending = false;             // the user has been asked; nothing holds the window any more
+    bool Takes(const Text& name) const override;
+    void OpenSoon(const Text& name) override;
+    bool ending = false; // the user has been asked; nothing holds the window any more
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* box, QEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
 
 private:
+    QAction* Action(QMenu* menu, const char* name, const char* caption, QKeySequence keys);
     QAction* Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
                    std::function<void()> command);
+    QAction* TextEntry(QMenu* menu, const char* name, const char* caption, QKeySequence keys, TextCommand text,
+                       void (*command)());
     void FillMenus();
-    void UndoOrRedo(bool undo);
     void Typed(); // a box has changed: what stands elsewhere is shown anew
     void ShowState();
     void Activates(QWidget* box, int number);
@@ -159,10 +161,11 @@ BorinputWindow::BorinputWindow()
 
     AddStatusWords(statusBar(), project, state);
     auto* copies = new QTimer(this);
-    connect(copies, &QTimer::timeout, this, [this] {
-        // With what is being typed in a cell; there is one such cell at most.
-        for (GridView* grid : grids)
-            if (grid->isAncestorOf(QApplication::focusWidget()))
+    connect(copies, &QTimer::timeout, this, [] {
+        // With what is being typed in a cell of the tool in front, whose window is no dialog; there is one such cell at
+        // most.
+        for (QWidget* at = QApplication::focusWidget(); at; at = at->parentWidget())
+            if (auto* grid = dynamic_cast<GridView*>(at); grid && qobject_cast<QMainWindow*>(grid->window()))
                 return grid->AsTyped(KeepCopy);
         KeepCopy();
     });
@@ -201,21 +204,21 @@ void BorinputWindow::FillMenus()
 
     using frmBorinput::Commands;
     QMenu* edit = part(menuBar(), "mnuEdit", "&Edit");
-    Entry(edit, "mnuUndo", "&Undo", QKeySequence("Ctrl+Z"), [this] { UndoOrRedo(true); });
-    Entry(edit, "mnuRedo", "&Redo", {}, [this] {
-        UndoOrRedo(false);
-    })->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});
+    TextEntry(edit, "mnuUndo", "&Undo", QKeySequence("Ctrl+Z"), TextCommand::Undo, frmBorinput::mnuUndo);
+    TextEntry(edit, "mnuRedo", "&Redo", {}, TextCommand::Redo, frmBorinput::mnuRedo)
+        ->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});
     edit->addSeparator();
-    Entry(edit, "mnuCut", "Cu&t", QKeySequence("Ctrl+X"), frmBorinput::mnuCut);
-    Entry(edit, "mnuCopy", "&Copy", QKeySequence("Ctrl+C"), frmBorinput::mnuCopy);
-    Entry(edit, "mnuPaste", "&Paste", QKeySequence("Ctrl+V"), frmBorinput::mnuPaste);
+    TextEntry(edit, "mnuCut", "Cu&t", QKeySequence("Ctrl+X"), TextCommand::Cut, frmBorinput::mnuCut);
+    TextEntry(edit, "mnuCopy", "&Copy", QKeySequence("Ctrl+C"), TextCommand::Copy, frmBorinput::mnuCopy);
+    TextEntry(edit, "mnuPaste", "&Paste", QKeySequence("Ctrl+V"), TextCommand::Paste, frmBorinput::mnuPaste);
     Entry(edit, "mnuFillDown", "&Fill Down", QKeySequence("Ctrl+D"), frmBorinput::mnuFillDown);
     edit->addSeparator();
     Entry(edit, "mnuInsertRow", "&Insert Row", QKeySequence("Ctrl++"), frmBorinput::mnuInsertRow);
     Entry(edit, "mnuDeleteRow", "&Delete Row", QKeySequence("Ctrl+-"), frmBorinput::mnuDeleteRow);
     edit->addSeparator();
     Entry(edit, "mnuEditHeading", "Edit &Heading File...", {}, Commands.mnuEditHeading);
-    Entry(edit, "mnuEditLayout", "Edit &Layout File...", {}, Commands.mnuEditLayout);
+    Entry(edit, "mnuEditLayout", "Edit &Layout File...", {},
+          Commands.mnuEditLayout ? [] { EditLayouts(Commands.mnuEditLayout); } : std::function<void()>());
     Entry(edit, "mnuEditDesItems", "Edit De&scription Items...", {}, Commands.mnuEditDesItems);
     Entry(edit, "mnuEditPromptFile", "Edit Pr&ompt File...", {}, Commands.mnuEditPromptFile);
 
@@ -244,15 +247,33 @@ void BorinputWindow::FillMenus()
     Entry(help, "mnuHelp", "&Help", QKeySequence::HelpContents, frmBorinput::mnuHelp);
 }
 
-QAction* BorinputWindow::Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
-                               std::function<void()> command)
+QAction* BorinputWindow::Action(QMenu* menu, const char* name, const char* caption, QKeySequence keys)
 {
     auto* action = new QAction(caption, this);
     action->setObjectName(name);
     action->setShortcut(keys);
-    action->setEnabled(bool(command));
     menu->addAction(action);
+    return action;
+}
+
+QAction* BorinputWindow::Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
+                               std::function<void()> command)
+{
+    QAction* action = Action(menu, name, caption, keys);
+    action->setEnabled(bool(command));
     connect(action, &QAction::triggered, this, [this, command] { Run(command); });
+    return action;
+}
+
+// In the text that has the focus; else by the box last entered.
+QAction* BorinputWindow::TextEntry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
+                                   TextCommand text, void (*command)())
+{
+    QAction* action = Action(menu, name, caption, keys);
+    connect(action, &QAction::triggered, this, [this, text, command] {
+        if (!DoInText(focusWidget(), text))
+            Run(command);
+    });
     return action;
 }
 
@@ -268,42 +289,24 @@ void BorinputWindow::Run(const std::function<void()>& command)
         ~Afterwards()
         {
             ShowProgressWindow(false);
-            if (!window.ending)
-                window.Refresh();
+            if (window.ending)
+                return;
+            window.Refresh();
+            if (!NextFile.empty()) // for which another window was left
+                window.OpenSoon(TakeNextFile());
         }
     } afterwards{*this};
     command();
 }
 
-// In the box that has the focus; else in the grid last entered.
-void BorinputWindow::UndoOrRedo(bool undo)
+bool BorinputWindow::Takes(const Text& name) const
 {
-    if (auto* text = qobject_cast<QPlainTextEdit*>(focusWidget()))
-        undo ? text->undo() : text->redo();
-    else if (auto* line = qobject_cast<QLineEdit*>(focusWidget()))
-        undo ? line->undo() : line->redo();
-    else
-        undo ? frmBorinput::mnuUndo() : frmBorinput::mnuRedo();
-}
-
-// Files on the window: the first one is opened.
-void BorinputWindow::dragEnterEvent(QDragEnterEvent* event)
-{
-    const QList<QUrl> files = event->mimeData()->urls();
-    if (!files.isEmpty() && files[0].toLocalFile().endsWith(".bor", Qt::CaseInsensitive))
-        event->acceptProposedAction();
-}
-
-void BorinputWindow::dropEvent(QDropEvent* event)
-{
-    event->acceptProposedAction();
-    // The program that the file comes from waits for the end of the drop, and not for the user's answers.
-    OpenSoon(FromUi(event->mimeData()->urls().value(0).toLocalFile()));
+    return OpensFile(name);
 }
 
 void BorinputWindow::OpenSoon(const Text& name)
 {
-    QTimer::singleShot(0, this, [this, name] { Run([&name] { frmBorinput::OpenNamed(name); }); });
+    QTimer::singleShot(0, this, [this, name] { Run([&name] { frmBorinput::OpenFromOutside(name); }); });
 }
 
 // ---- Boxes
@@ -420,13 +423,8 @@ QLineEdit* BorinputWindow::Line(const char* name, Text& text)
 {
     auto* line = new QLineEdit(this);
     line->setObjectName(name);
-    connect(line, &QLineEdit::textEdited, this, [this, line, &text](const QString& typed) {
-        text = LineFromUi(typed);
-        if (ToUi(text) != typed) {
-            const int at = line->cursorPosition();
-            line->setText(ToUi(text));
-            line->setCursorPosition(at);
-        }
+    connect(line, &QLineEdit::textEdited, this, [this, line, &text] {
+        text = TypedLine(*line);
         FileChanged = 1;
         ShowState();
     });
@@ -449,8 +447,8 @@ QComboBox* BorinputWindow::LayoutBox()
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr);
     box->installEventFilter(this);
-    connect(box->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& typed) {
-        cmbLayFile = LineFromUi(typed);
+    connect(box->lineEdit(), &QLineEdit::textEdited, this, [this, box] {
+        cmbLayFile = TypedLine(*box->lineEdit());
         LayoutFileChange();
         Typed();
     });
@@ -474,10 +472,14 @@ QComboBox* BorinputWindow::LayoutBox()
         // With the place in the list, or leaving the box would count as a choice from the list.
         const QString chosen = ToUi(cmbLayFile);
         const bool other = box->currentText() != chosen;
-        if (const int place = box->findText(chosen); place >= 0)
-            box->setCurrentIndex(place);
+        // A name that is not in it has none, and the arrows begin at its first one.
+        const int caret = box->lineEdit()->cursorPosition(), place = box->findText(chosen);
+        if (!other && place == box->currentIndex())
+            return;
+        box->setCurrentIndex(place);
         if (box->currentText() != chosen)
             box->setEditText(chosen);
+        box->lineEdit()->setCursorPosition(caret);
         if (other)
             box->lineEdit()->setCursorPosition(0);
     });
@@ -522,7 +524,7 @@ QWidget* BorinputWindow::ClientBox()
 {
     using frmBorinput::Option;
     using frmBorinput::txtClient;
-    auto* client = new QPlainTextEdit(this);
+    auto* client = new TypedTextEdit(this);
     client->setObjectName("txtClient");
     client->setTabChangesFocus(true);
     Activates(client, 9);
@@ -757,6 +759,8 @@ void BorinputWindow::GoTo(const CheckEntry& entry)
     for (const auto& [known, number] : numbers)
         if (!box && number == entry.Box)
             box = qobject_cast<QWidget*>(known);
+    if (!box)
+        return;
     for (int tab = 0; tab < tabs->count(); ++tab)
         if (tabs->widget(tab)->isAncestorOf(box))
             tabs->setCurrentIndex(tab);
@@ -778,13 +782,13 @@ void BorinputWindow::GoTo(const CheckEntry& entry)
 void BorinputWindow::OrderTabs()
 {
     const char* const order[] = {
-        "Text1",        "Text2",         "cmbLayFile", "Check1",  "SSTab1",     "txtClient",     "Option1",
-        "Option2",      "Option3",       "Option4",    "SSInfo",  "SSScale",    "SSRepParts",    "SSLith",
-        "MemoDes",      "cmdAdj1",       "cmdAdj2",    "List1",   "List2",      "List3",         "List4",
-        "SSFormations", "SSSamp",        "SSP1Setup",  "SSPar",   "SSP2Setup",  "SSGenWellInfo", "SSOuterLay",
-        "SSInnerLay",   "SSW",           "MemoWcon",   "cmdAdj3", "cmdAdj4",    "MemoRemarks",   "cmdAdj5",
-        "cmdAdj6",      "MemoBottNotes", "cmdAdj7",    "cmdAdj8", "SSCuttings", "SSLegend",      "cmdLivePrevious",
-        "cmdLiveNext",  "lstCheck"};
+        "Text1",        "Text2",         "cmbLayFile",   "Check1",  "SSTab1",     "txtClient",     "Option1",
+        "Option2",      "Option3",       "Option4",      "SSInfo",  "SSScale",    "SSRepParts",    "SSLith",
+        "MemoDes",      "cmdAdj1",       "cmdAdj2",      "List1",   "List2",      "List3",         "List4",
+        "SSFormations", "SSSamp",        "SSP1Setup",    "SSPar",   "SSP2Setup",  "SSGenWellInfo", "SSOuterLay",
+        "SSInnerLay",   "SSW",           "MemoWcon",     "cmdAdj3", "cmdAdj4",    "MemoRemarks",   "cmdAdj5",
+        "cmdAdj6",      "MemoBottNotes", "cmdAdj7",      "cmdAdj8", "SSCuttings", "SSLegend",      "cmdLivePrevious",
+        "cmdLiveNext",  "lstCheck",      "cmdCheckKinds"};
     QHash<QString, QWidget*> boxes; // one look through the window, not one for each box
     for (QWidget* box : findChildren<QWidget*>())
         if (!box->objectName().isEmpty())
@@ -805,16 +809,15 @@ void BorinputWindow::OrderTabs()
 // The title's mark of unsaved changes is the platform's; the rest stands still while the user types.
 void BorinputWindow::ShowState()
 {
-    setWindowModified(FileChanged == 1);
+    setWindowModified(FileChanged == 1 || SaveOwed());
     live->Soon();
     checks->Soon();
-    const int pages = PagesOfLog();
-    state->setText(QString::number(pages) + (pages == 1 ? " page" : " pages"));
+    state->setText(ToUi(PageWords()));
 }
 
 void BorinputWindow::Refresh()
 {
-    setWindowTitle(ToUi(frmBorinput::Title) + "[*]");
+    setWindowTitle(MarkedTitle(frmBorinput::Title));
     Typed();
     if (shownFile != BoringFileName) {
         shownFile = BoringFileName;
@@ -823,7 +826,7 @@ void BorinputWindow::Refresh()
             grid->Home();
         }
     }
-    recent->Show(BoringFileName);
+    recent->Show(frmBorinput::RecentFile);
     const auto dress = [this](const char* name, const Text& family) {
         auto* box = findChild<QWidget*>(name);
         if (family.empty() || box->font().family() == ToUi(family))

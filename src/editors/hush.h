@@ -1,27 +1,9 @@
 // hush.h -- a save or a run of the program that nobody is to notice: what it writes is put back, and nothing is shown.
 #pragma once
 
+#include "session/kept.h"
 #include "session/platform.h"
 #include "session/session.h"
-
-#include <memory>
-
-// A variable put back at the end of the scope.
-template <class T>
-struct Kept {
-    explicit Kept(T& variable) : live(variable), before(std::make_unique<T>(variable))
-    {
-    }
-    ~Kept()
-    {
-        live = std::move(*before);
-    }
-    Kept(const Kept&) = delete;
-    Kept& operator=(const Kept&) = delete;
-
-    T& live;
-    std::unique_ptr<T> before;
-};
 
 // As long as it lives the seam to the machine shows nothing and answers what loses nothing; the session variables that
 // a save writes are put back behind it. The document's record and name are the caller's to keep.

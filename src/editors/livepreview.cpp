@@ -4,6 +4,7 @@
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
+#include "boring/textlines.h"
 #include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/screenview.h"
@@ -12,14 +13,20 @@
 #include "editors/toolcommands.h"
 #include "logrender/logdata.h"
 #include "report/heading.h"
+#include "report/projectfiles.h"
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <filesystem>
 
 static LivePage* drawn; // where the run leaves its page
+
+static const SharedRecord shared[] = {
+    {"drawn", Kind::Run, drawn},
+};
 
 // The page is complete: taken, and the run ended.
 static void TakePage()
@@ -44,8 +51,9 @@ namespace
 {
 // A run that nobody is to notice: what a run writes is put back too.
 struct QuietRun {
-    QuietRun(const Text& folder, void (*takePage)(), LivePage& fresh)
+    QuietRun(const Text& folder, const Text& name, void (*takePage)(), LivePage& fresh)
     {
+        RunPages.printedName = name; // the pages shall be those that Preview shows
         Platform.ShowPage = takePage;
         RunFolder = folder;
         frmDrawPrint::CloseWindow = nullptr;
@@ -66,17 +74,7 @@ struct QuietRun {
 
 private:
     const Hushed quiet;
-    const Kept<Text> runFolder{RunFolder};
-    const Kept<PageListRecord> list{PageList};
-    const Kept<CanvasRecord> canvas{PageCanvas};
-    const Kept<RunPagesRecord> pages{RunPages};
-    const Kept<LogGeometryRecord> geometry{LogGeometry};
-    const Kept<int16_t> job{jobCode}, single{singleFile}, intro{introType}, count{runFileCount}, stop{stopRequested};
-    const Kept<Text> singleName{singleFileName}, folderShown{lastDir}, firstFile{runFiles[1]};
-    const Kept<bool> all{frmDrawPrint::Dialog.AllPages}, unloaded{frmDrawPrint::Dialog.Unloaded};
-    const Kept<int> option{frmDrawPrint::Dialog.ReportOption};
-    const Kept<Text> which{frmDrawPrint::Dialog.Text1};
-    const Kept<void (*)()> close{frmDrawPrint::CloseWindow};
+    const KeepAll records{Kind::Run};
 };
 } // namespace
 
@@ -89,22 +87,69 @@ static Text FreshFile(const Text& folder, const Text& ending)
     return file;
 }
 
+template <int Rows>
+static void Flow(Slots<Text, Rows>& lines, int count)
+{
+    const Text text = FlowingText(lines, count);
+    lines = {};
+    lines[1] = text;
+}
+
+// What a boring file says, its texts as they flow in their boxes: files whose lines are cut at other places say the
+// same. So do those with other widths of columns, which the boxes put in as a file is opened. "" for a file that is of
+// another form or ends early. Uses the records of the log tool.
+static std::string WordsOf(const Text& file, const Text& folder)
+{
+    const Text words = FreshFile(folder, ".words");
+    const int failures = FailuresReported;
+    BoringData = BoringRecord();
+    BoringFileName = file;
+    DialogMode = 2; // the current form
+    if (!FileExists(file) || !LineReader(file).Line().starts_with("5."))
+        return "";
+    OpenBoringFile2();
+    for (int row = 1; row <= BoringData.RepPartCount; ++row)
+        BoringData.RepParts[row].Width.clear();
+    Flow(BoringData.Des, BoringData.DesCount);
+    Flow(BoringData.WellNotes, BoringData.WellNoteCount);
+    Flow(BoringData.Remarks, BoringData.RemarkCount);
+    Flow(BoringData.BottNotes, MaxBottNotes);
+    BoringData.DesCount = BoringData.WellNoteCount = BoringData.RemarkCount = 1;
+    WriteBoring(words, PlainNumber(int(BoringData.Style)), PlainNumber(int(BoringData.Draft)), Durability::Scratch);
+    return FailuresReported == failures ? ReadWholeFile(words) : "";
+}
+
+// Where nothing has been changed Preview saves nothing, and shows the lines of the file as they were cut, maybe by
+// another program: the live page then shows the same. saved: what the boxes have been saved in, which is replaced.
+static void TakeOwnFile(const Text& own, const Text& saved, const Text& folder)
+try {
+    const std::string words = WordsOf(own, folder);
+    if (!words.empty() && words == WordsOf(saved, folder))
+        WriteWholeFile(saved, ReadWholeFile(own), Durability::Scratch);
+} catch (const RunTimeError&) { // the file cannot be read: the boxes are what there is
+}
+
 bool DrawLivePage(int number, const Text& folder, LivePage& page)
 {
     LivePage fresh;
-    QuietRun run(folder, TakeLogPage, fresh);
+    QuietRun run(folder, BoringFileName, TakeLogPage, fresh);
     const Kept name(BoringFileName);
     const Kept record(BoringData);
+    const Kept source(SourceFolder);
+    SourceFolder = FolderName(BoringFileName);
     BoringFileName = FreshFile(folder, ".BOR");
     SaveBoringFile();
     if (!FileExists(BoringFileName)) // more lines than a boring holds
         return false;
+    const Text file = BoringFileName;
+    if (FileChanged == 0)
+        TakeOwnFile(*name.before, file, folder);
     fresh.Pages = PagesOfLog();
     fresh.Page = std::clamp(number, 1, std::max(fresh.Pages, 1));
     frmDrawPrint::Dialog.AllPages = false;
     frmDrawPrint::Dialog.Text1 = PlainNumber(fresh.Page);
     frmDrawPrint::Dialog.ReportOption = 0;
-    run.Draw(1, BoringFileName);
+    run.Draw(1, file);
     if (fresh.List.Objects.empty())
         return false;
     page = std::move(fresh);
@@ -116,14 +161,8 @@ bool DrawLiveTool(ToolRecord& tool, const Text& folder, LivePage& page)
     if (tool.drawJob == 0)
         return false;
     LivePage fresh;
-    QuietRun run(folder, TakePage, fresh);
+    QuietRun run(folder, tool.FileName, TakePage, fresh);
     const Kept name(tool.FileName);
-    // A section reads the words and the client of the log's records, and the next log may find them so.
-    const Kept words(HeadingWords);
-    const Kept legend(LegendInUse);
-    const Kept boxFill(LegendBoxFill);
-    const Kept logo(LogoData);
-    const Kept boring(LogBoring);
     tool.FileName = FreshFile(folder, tool.ending);
     tool.Undisturbed([&] {
         if (tool.SaveFile())

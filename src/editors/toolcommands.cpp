@@ -3,6 +3,7 @@
 
 #include "canvas/batch.h"
 #include "editors/hush.h"
+#include "editors/nextfile.h"
 #include "report/fontprofile.h"
 #include "report/prompts.h"
 #include "session/deviceconfig.h"
@@ -12,10 +13,23 @@
 #include "session/recovery.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
 Tool NextTool = Tool::Log;
+
+static ToolRecord* recovered; // a tool with a recovery copy in its boxes, whose window is to come
+// The save under way, and whether it has written the file.
+static ToolRecord* saving;
+static bool written;
+
+static const SharedRecord shared[] = {
+    {"NextTool", Kind::Session, NextTool},
+    {"recovered", Kind::Session, recovered},
+    {"saving", Kind::Document, saving},
+    {"written", Kind::Document, written},
+};
 
 bool Saved(void (*save)())
 {
@@ -79,12 +93,10 @@ static void StartAnew(ToolRecord& tool)
 {
     BlankBoxes(tool);
     tool.ClearArrays();
-    tool.FileName = "";
+    tool.FileName = tool.RecentFile = "";
     FileChanged = 0;
     ForgetSteps(tool);
 }
-
-static ToolRecord* recovered; // a tool with a recovery copy in its boxes, whose window is to come
 
 void LoadTool(ToolRecord& tool)
 {
@@ -182,14 +194,17 @@ void ToolNew(ToolRecord& tool)
 
 static const char* const opening = "Would you like to save the current file before opening another file?";
 
-static void Open(ToolRecord& tool, const Text& name)
+// False: the file is not there, or was not read whole, which was told.
+static bool Open(ToolRecord& tool, const Text& name)
 {
     Clear(tool);
     tool.FileName = name;
-    tool.OpenFile();
+    const bool whole = Saved(tool.OpenFile) && FileExists(tool.FileName);
     tool.FillForm();
     ForgetSteps(tool);
     FileChanged = 0;
+    tool.RecentFile = whole ? tool.FileName : "";
+    return whole;
 }
 
 void ToolOpen(ToolRecord& tool)
@@ -205,15 +220,24 @@ void ToolOpen(ToolRecord& tool)
 
 void ToolOpenNamed(ToolRecord& tool, const Text& name)
 {
-    if (SaveFirst(tool, opening))
-        Open(tool, name);
+    if (!SaveFirst(tool, opening) || Open(tool, name))
+        return;
+    tool.FileName = "";
+    tool.Title = tool.title;
+}
+
+void ToolOpenFromOutside(ToolRecord& tool, const Text& name)
+{
+    const bool map = IsConversionMap(name); // its editor opens over the log window
+    if (!map && ToolOfFile(name) == tool.tool)
+        return ToolOpenNamed(tool, name);
+    if (ToolHandOver(tool, map ? Tool::Log : ToolOfFile(name)))
+        NextFile = name;
 }
 
 // The tool's save, with its recovery copy.
 static bool Write(ToolRecord& tool)
 {
-    static ToolRecord* saving;
-    static bool written;
     saving = &tool;
     SaveDocument([] { written = saving->SaveFile(); });
     return written;
@@ -226,6 +250,7 @@ bool ToolSave(ToolRecord& tool)
     if (!Write(tool))
         return false;
     FileChanged = 0;
+    tool.RecentFile = tool.FileName;
     return true;
 }
 
@@ -245,6 +270,7 @@ bool ToolSaveAs(ToolRecord& tool)
         return false;
     }
     FileChanged = 0;
+    tool.RecentFile = name;
     tool.Title = tool.titleInFront ? tool.title + (" - " + name) : name + " - " + tool.title;
     return true;
 }

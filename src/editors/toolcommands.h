@@ -40,6 +40,7 @@ struct ToolRecord {
     void (*DeleteRow)() = nullptr;
     // While the window is up.
     Grid* active = nullptr;           // the grid last entered
+    Text RecentFile = "";             // last read whole or saved, for the list of recent files; "" for none
     void (*ShowForm)(bool) = nullptr; // hides the window during a run, and shows it again
     void (*Unload)() = nullptr;       // closes it
 };
@@ -56,8 +57,10 @@ void LoadTool(ToolRecord& tool); // at the opening of its window: no file, empty
 // File.
 void ToolNew(ToolRecord& tool);
 void ToolOpen(ToolRecord& tool);
-void ToolOpenNamed(ToolRecord& tool, const Text& name); // a recent file, or one dropped on the window
-bool ToolSave(ToolRecord& tool);                        // false: nothing was saved
+// A recent file, or one from outside. One that is refused leaves no name behind that a save could write over.
+void ToolOpenNamed(ToolRecord& tool, const Text& name);
+void ToolOpenFromOutside(ToolRecord& tool, const Text& name); // by the tool of its ending, each after its own question
+bool ToolSave(ToolRecord& tool);                              // false: nothing was saved
 bool ToolSaveAs(ToolRecord& tool);
 void ToolPreview(ToolRecord& tool);
 void ToolBatchDraw(ToolRecord& tool);

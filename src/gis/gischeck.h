@@ -1,8 +1,9 @@
 // gischeck.h -- what a reviewer of the table would flag, as it stands in the grids. It warns and never blocks.
 #pragma once
 
-#include "editors/checklist.h"
+#include "editors/checkentry.h"
 
-// Plain depths under a blank cell or one with "X": such a cell tells no top, so the layer is drawn from the ground on
-// and covers the layers above it. Each entry's Row and Column are those of SSGISInfo.
+// Columns that are not those of the layer list; plain depths under a cell that tells no depth or a top of its own,
+// since such a layer covers those above it; depths out of order; cells that are neither depth nor X; borings without a
+// place, at one place, twice or not found; layers that draw blank.
 std::vector<CheckEntry> CheckGisTable();

@@ -10,6 +10,7 @@
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -24,6 +25,18 @@ Grid SSGISLayers(MaxGisLayers, 2), SSGISInfo(MaxGisBorings, GisColumns), SSBorin
 Text Title, FileName;
 FileList File1;
 } // namespace frmGIS
+
+static const SharedRecord shared[] = {
+    {"GisData", Kind::Document, GisData},
+    {"boringSummary", Kind::Run, boringSummary},
+    {"boringLithology", Kind::Run, boringLithology},
+    {"frmGIS::SSGISLayers", Kind::Document, frmGIS::SSGISLayers},
+    {"frmGIS::SSGISInfo", Kind::Document, frmGIS::SSGISInfo},
+    {"frmGIS::SSBoringData", Kind::Document, frmGIS::SSBoringData},
+    {"frmGIS::Title", Kind::Document, frmGIS::Title},
+    {"frmGIS::FileName", Kind::Document, frmGIS::FileName},
+    {"frmGIS::File1", Kind::Document, frmGIS::File1},
+};
 
 using namespace frmGIS;
 
@@ -316,6 +329,8 @@ void frmGIS::AddBoring(const Text& path, const Text& name)
 
 void frmGIS::Command1()
 {
+    if (std::find(File1.selected.begin(), File1.selected.end(), true) == File1.selected.end())
+        return;
     FileChanged = 1;
     for (size_t i = 0; i < File1.names.size(); ++i)
         if (File1.selected[i])

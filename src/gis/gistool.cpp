@@ -5,6 +5,7 @@
 #include "gis/gischeck.h"
 #include "session/files.h"
 #include "session/savename.h"
+#include "session/shared.h"
 
 static void Undisturbed(const std::function<void()>& work)
 {
@@ -48,4 +49,8 @@ ToolRecord GisForm = {
     .titleInFront = true,
     .InsertRow = frmGIS::mnuInsertRow,
     .DeleteRow = frmGIS::mnuDeleteRow,
+};
+
+static const SharedRecord shared[] = {
+    {"GisForm", Kind::Window, GisForm},
 };

@@ -171,6 +171,19 @@ static bool Fits(const Column& column, const Text& name)
     return column.Kind == Equals ? name == column.Words : name.starts_with(column.Words);
 }
 
+static const Column* FindColumn(const Text& name)
+{
+    for (const Column& column : columns)
+        if (Fits(column, name))
+            return &column;
+    return nullptr;
+}
+
+bool VLOG::knowncolumn(const Text& name)
+{
+    return FindColumn(name) != nullptr;
+}
+
 // Draws the report part at ColumnNumber and advances it and the progress bar. An unknown one is told; nothing is drawn
 // for it and no width is taken up.
 void VLOG::processrepparts()
@@ -182,11 +195,7 @@ try {
         setscaley(1);
     const ReportPart& part = LogBoring.RepParts[LogGeometry.ColumnNumber];
     const Text name = UpperCase(part.Item);
-    const Column* found = nullptr;
-    for (const Column& column : columns)
-        if (!found && Fits(column, name))
-            found = &column;
-    if (found)
+    if (const Column* found = FindColumn(name))
         found->Draw(name, static_cast<float>(TextNumber(part.Width)));
     else
         MsgBox("Report Part Unknown: " + part.Item, OkOnly, Exclamation);

@@ -95,15 +95,20 @@ void MeasureUnits(Boxes& boxes)
     }
 }
 
+// The text of the page's first contact was printed on the page before: it wants no room here and is not repeated. A
+// boring's first page has none before it, whatever the flag says.
+bool PrintedBefore(const Text& breakFlag)
+{
+    return LogPage.PageStartDepth > 0 && breakFlag == "Y";
+}
+
 // Bottoms only ever move down, and what one box moved pushes the next until a unit is thick enough to take it up.
 void PlaceBoxes(Boxes& boxes, const Text& breakFlag)
 {
     const int first = LogGeometry.ContactFirst, last = LogGeometry.ContactLast;
     if (first == 0)
         return;
-    // Text that was printed on the page before wants no room here.
-    // Kept: the flag is heeded on the first page of a boring too, where it is what the boring before has left.
-    const bool room = boxes.Unit[first] >= boxes.Need[first] || breakFlag == "Y";
+    const bool room = boxes.Unit[first] >= boxes.Need[first] || PrintedBefore(breakFlag);
     boxes.Bottom[first] = room ? boxes.Natural[first] : boxes.Need[first];
     for (int i = first + 1; i <= last; ++i) {
         const float free = double(boxes.Natural[i]) - boxes.Bottom[i - 1];
@@ -144,7 +149,7 @@ bool StartBlock(const Text& line, const Boxes& boxes, const Text& breakFlag)
         return false;
     const int n = RoundInt16(number);
     const bool firstOnPage = n == LogGeometry.ContactFirst;
-    bool print = !(LogPage.PageStartDepth > 0 && firstOnPage && breakFlag == "Y");
+    bool print = !(firstOnPage && PrintedBefore(breakFlag));
     if (n == LogGeometry.ContactLast && CutAtPageEnd()) {
         // Text that does not fit moves as a whole to the next page.
         // Kept: of text carried here the flag says "N" too, so under a unit that fills this page as well it prints

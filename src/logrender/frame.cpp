@@ -1,6 +1,7 @@
 // frame.cpp -- what every log page has before any column: frame, date line, head lines, title block positions.
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
+#include "canvas/screenview.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
 #include "report/heading.h"
@@ -103,7 +104,7 @@ void VLOG::dateline()
     const bool turned = LogGeometry.FrameKind != 'L';
     moveto(turned ? -0.07 : 0.1, turned ? -9.5 : -7.17);
     settextangle(turned ? 90 : 0);
-    printtextraw(Platform.ShortDate() + "   " + LogPage.BoringFileName);
+    printtextraw(Platform.ShortDate() + "   " + PrintedName(LogPage.BoringFileName));
     settextangle(0);
 }
 

@@ -15,14 +15,8 @@ static VLOG::GraphCurve GeneralCurve(const LogParamSetup& setup)
     return curve;
 }
 
-// A data file holds single numbers: what stands behind a comma in a field is no error bar.
-static void PlotFileValue(VLOG::GraphCurve& curve, const VLOG::GeneralValue& row)
-{
-    VLOG::curvepoint(curve, curve.Axis.place(TextNumber(row.Value)), VLOG::belowstart(row.Depth));
-}
-
-// General parameter ParamNumber 1; 0.6 inch wide. Kept: the values of a data file have circles here and none in
-// drawmpgraph.
+// General parameter ParamNumber 1; 0.6 inch wide. Kept: the values of a data file are drawn like those of the table
+// here, and as a bare curve of single numbers in drawmpgraph.
 void VLOG::drawgpargraph()
 try {
     const int n = LogGeometry.ParamNumber[1];
@@ -49,13 +43,8 @@ try {
     GeneralValues values;
     findgeneralvalues(n, values);
     GraphCurve curve = GeneralCurve(setup);
-    for (const GeneralValue& row : values.Rows) {
-        if (values.FromFile) {
-            PlotFileValue(curve, row);
-            curve.Plain.draw();
-        } else
-            curvevalue(curve, row.Value, belowstart(row.Depth));
-    }
+    for (const GeneralValue& row : values.Rows)
+        curvevalue(curve, row.Value, belowstart(row.Depth));
     endgraph(0.55);
 } catch (...) {
     ReportFailure(__func__);
@@ -107,6 +96,12 @@ static void CurveBand(const LogParamSetup& setup, int i, double w)
         movedown(0.11);
         moveright(setup.Increment);
     }
+}
+
+// What stands behind a comma in a field of a data file is no error bar here.
+static void PlotFileValue(VLOG::GraphCurve& curve, const VLOG::GeneralValue& row)
+{
+    VLOG::curvepoint(curve, curve.Axis.place(TextNumber(row.Value)), VLOG::belowstart(row.Depth));
 }
 
 // The curve of general parameter n, the i-th of the column; false when its data file is missing.

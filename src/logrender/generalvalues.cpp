@@ -20,6 +20,7 @@ static void AddOnPage(std::vector<VLOG::GeneralValue>& rows, float depth, std::s
         rows.push_back({depth, Text(value)});
 }
 
+// A field of blanks, as spreadsheets write an empty cell between two commas, is a missing value.
 // Kept: field number 0, or none in the set-up, is the depth itself.
 static void ReadDataFile(const Text& path, const Text& fieldCell, std::vector<VLOG::GeneralValue>& rows)
 {
@@ -33,7 +34,9 @@ static void ReadDataFile(const Text& path, const Text& fieldCell, std::vector<VL
         if (separator == 0)
             separator = Holds(line, ',') ? ',' : ' ';
         const float depth = IsBlank(line) ? -1 : TextNumber(Field(line, separator, 0));
-        AddOnPage(rows, depth, Field(line, separator, field));
+        const std::string_view value = Field(line, separator, field);
+        if (!IsBlank(value))
+            AddOnPage(rows, depth, value);
     }
 }
 

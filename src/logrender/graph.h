@@ -18,6 +18,7 @@ struct GraphAxis {
     bool Held = false;            // set by place when a number lies beyond an end
     float place(double number);   // held within the axis
     static GraphAxis linear(const LogParamSetup& setup);
+    static GraphAxis logarithmic(const LogParamSetup& setup, double inches); // paramgraphs.cpp
 };
 
 struct GraphMark {

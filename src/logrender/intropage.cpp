@@ -21,6 +21,7 @@
 #include "logrender/textcolumns.h"
 #include "logrender/vlog.h"
 #include "report/heading.h"
+#include "report/projectfiles.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -91,7 +92,7 @@ static void ProjectMap(double x, double y, double width, double height)
     textcenter();
     printtext(HeadingWords[18]);
     moveto(x, y);
-    const Text path = JoinPath(ProjectPath, "project.bmp");
+    const Text path = MapPath("project.bmp", LogPage.BoringFileName);
     if (FileExists(path))
         drawbitmap(path, width, -height);
     rectby(width, -height);

@@ -65,13 +65,23 @@ static void FillUnit(int16_t pattern, double width, double height, const Text& c
 }
 
 // A gradational contact: a wave across the column.
-static void Wave(double w, double depth)
+static void Wave(double w, float depth)
 {
     moveto(0, -depth);
     drawarc(w / 2, 1);
     moveright(w / 2);
     drawarc(w / 2, -1);
     moveleft(w / 2);
+}
+
+// The waves of the units that run into one another, over the fills on both sides: each is seen whole.
+static void Waves(double w)
+{
+    for (int i = LogGeometry.ContactFirst; i > 0 && i < LogGeometry.ContactLast; ++i) {
+        const Text type = UpperCase(LogBoring.Contacts[i].LineType);
+        if (type == "D" || type == "N")
+            Wave(w, LogBoring.Contacts[i].Depth - double(LogPage.PageStartDepth));
+    }
 }
 
 // The column of codes (letters) or of patterns (GraphicFlag). Pen: left on the depth scale; the dispatcher puts the y
@@ -94,10 +104,6 @@ try {
         if (!g.GraphicFlag) {
             moveto(0, -b);
             lineright(w);
-        } else {
-            const Text type = UpperCase(contact.LineType);
-            if ((type == "D" || type == "N") && i < g.ContactLast)
-                Wave(w, b);
         }
         const Text code = UpperCase(contact.Pattern);
         const PatternText pattern = SplitPattern(code);
@@ -121,6 +127,8 @@ try {
         }
         incseg(2);
     }
+    if (g.GraphicFlag)
+        Waves(w);
 } catch (...) {
     ReportFailure(__func__);
 }

@@ -8,16 +8,24 @@
 #include "canvas/batch.h"
 #include "canvas/screenview.h"
 #include "logrender/vlog.h"
+#include "report/projectfiles.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
 LogPageRecord LogPage;
 LogBoringRecord LogBoring;
 LogGeometryRecord LogGeometry;
+
+static const SharedRecord shared[] = {
+    {"LogPage", Kind::Run, LogPage},
+    {"LogBoring", Kind::Run, LogBoring},
+    {"LogGeometry", Kind::Run, LogGeometry},
+};
 
 double DrawingLength()
 {
@@ -175,7 +183,7 @@ static void ReadContacts(LineReader& in)
 // "Graph St.,End,Inc" as an axis. A blank line counts as "0,1,1", for sample parameters one that begins "LOG" too;
 // an increment of 0 resets the axis, unless its start is -999, the mark of a logarithmic sample axis. A fourth piece
 // "N" stands whatever becomes of the others.
-static void ReadAxis(LogParamSetup& setup, bool sample)
+void VLOG::readaxis(LogParamSetup& setup, bool sample)
 {
     Text axis = setup.Axis;
     if (IsBlank(axis) || (sample && UpperCase(axis).starts_with("LOG")))
@@ -203,7 +211,7 @@ static void ReadSetups(LineReader& in)
         for (int k = 1; k <= 3; ++k)
             setup.Split[k] = in.Line();
         in.Skip(3); // two standards and the units: the log draws none
-        ReadAxis(setup, true);
+        VLOG::readaxis(setup, true);
     }
     for (int n = 1; n <= GenParams; ++n) {
         LogParamSetup& setup = LogBoring.GenSetup[n];
@@ -214,7 +222,7 @@ static void ReadSetups(LineReader& in)
             setup.Split[k] = in.Line();
         setup.File = in.Line();
         setup.Field = in.Line();
-        ReadAxis(setup, false);
+        VLOG::readaxis(setup, false);
     }
 }
 
@@ -295,7 +303,7 @@ static void ReadBoring(LineReader& in)
 static void ReadLayout()
 {
     LogGeometryRecord& g = LogGeometry;
-    const Text path = JoinPath(DeviceConfig.SystemFiles[LayoutFolder], LogBoring.LayoutFile);
+    const Text path = LayoutPath(LogBoring.LayoutFile, LogPage.BoringFileName);
     if (!FileExists(path)) {
         // Kept: the title blocks and the bottom row of the page before stay in force.
         MsgBox("Layout File Not Found: " + path, OkOnly, Exclamation);

@@ -120,6 +120,8 @@ double ColumnHeight();
 
 namespace VLOG
 {
+// The axis of a set-up by its cell: a sample parameter's, or a general one's.
+void readaxis(LogParamSetup& setup, bool sample);
 void getvlogfilecounter(); // log.mas: the count and the first entry; pageIndex to 0
 void getvlogfiles();       // log.mas: the entry at pageIndex into LogPage
 void getvlogdata();        // the boring and its layout file into LogBoring and LogGeometry; RepPartCount -1 on failure

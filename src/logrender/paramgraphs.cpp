@@ -26,9 +26,9 @@ static float TenToThe(double power)
     return value;
 }
 
-static VLOG::GraphAxis LogarithmicAxis(const LogParamSetup& setup, double inches)
+VLOG::GraphAxis VLOG::GraphAxis::logarithmic(const LogParamSetup& setup, double inches)
 {
-    VLOG::GraphAxis axis;
+    GraphAxis axis;
     axis.Logarithmic = true;
     axis.Power = setup.End;
     axis.Decades = double(setup.Increment) - double(setup.End);
@@ -97,7 +97,7 @@ try {
     textcenter();
     GraphCurve curve;
     if (logarithmic) {
-        curve.Axis = LogarithmicAxis(setup, w - 0.1);
+        curve.Axis = GraphAxis::logarithmic(setup, w - 0.1);
         PowerTicks(curve.Axis);
     } else {
         curve.Axis = GraphAxis::linear(setup);

@@ -6,6 +6,7 @@
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
 #include "report/heading.h"
+#include "report/projectfiles.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
@@ -63,7 +64,7 @@ try {
     ReportFailure(__func__);
 }
 
-// The boring's map picture, from the project folder; without a name nothing.
+// The boring's map picture, from the project folder or beside the boring; without a name nothing.
 void VLOG::drawmap()
 try {
     const Text name(Trim(LogBoring.MapFile));
@@ -73,7 +74,7 @@ try {
     movedown(0.05);
     setscalex(1);
     setscaley(1);
-    drawbitmap(JoinPath(ProjectPath, name), 2.3, -1.4);
+    drawbitmap(MapPath(name, LogPage.BoringFileName), 2.3, -1.4);
 } catch (...) {
     ReportFailure(__func__);
 }

@@ -13,7 +13,8 @@ namespace VLOG
 // logrun.cpp
 void vlogstart(); // the loop over the pages of log.mas
 // columns.cpp
-void processrepparts(); // the report part at ColumnNumber, by the table of all columns
+void processrepparts();             // the report part at ColumnNumber, by the table of all columns
+bool knowncolumn(const Text& name); // a report part's name, in upper case, stands in the table
 // frame.cpp, scale.cpp
 void drawframe();
 void framefont(); // the font of the set-up, 6 point, left aligned

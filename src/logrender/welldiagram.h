@@ -32,6 +32,7 @@ double stickup(); // above ground, in depth units
 // wellfills.cpp
 // The file number of the annulus's layer by its fill cell or its text, 0 after a failure; 500 and up: symbols.
 int16_t selectfill(int layer);
+int materialof(const Text& text); // the first of the material words that a text holds, wherever; 0 for none
 double findcenttype(Text& layer); // "CENT..., offset": cuts the text at its comma and gives the number, else 0
 double findscwidth(double depth, double t = 0); // see wellcasings.cpp
 // wellcasings.cpp

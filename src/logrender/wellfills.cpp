@@ -7,8 +7,8 @@
 
 #include <cmath>
 
-// The first of the material words of the heading file, slots 31 to 37, that a text holds, wherever; 0 for none.
-static int MaterialOf(const Text& text)
+// The material words are those of the heading file, slots 31 to 37.
+int VLOG::materialof(const Text& text)
 {
     const Text upper = UpperCase(text);
     for (int slot = 31; slot <= 37; ++slot)
@@ -23,7 +23,7 @@ try {
     const Text cell(Before(LogBoring.OuterLayers[layer][5], ','));
     if (!IsBlank(cell))
         return getpch(cell);
-    const int material = MaterialOf(text);
+    const int material = materialof(text);
     // A centralizer. The number behind its comma is its offset, a whole number before it is added: half to even, so
     // that 1.5 and 2.5 are the same symbol.
     if (material == 7)

@@ -7,6 +7,7 @@
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
@@ -42,6 +43,10 @@ try {
 // ----------------------------------------------------------------------------------------------------- the editor
 
 Slots<Text, 4> frmDesItems::Box;
+
+static const SharedRecord shared[] = {
+    {"frmDesItems::Box", Kind::Window, frmDesItems::Box},
+};
 
 void frmDesItems::Load()
 {

@@ -11,6 +11,7 @@
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 SetupChangeRecord SetupChange;
 frmPrinterSetup::Record frmPrinterSetup::Dialog;
@@ -19,6 +20,14 @@ Text CopyDestination = "a:\\";
 
 // What the window found when it opened: DeviceConfig stays as it is until OK.
 static Text fontAtOpening;
+
+static const SharedRecord shared[] = {
+    {"SetupChange", Kind::Session, SetupChange},
+    {"frmPrinterSetup::Dialog", Kind::Window, frmPrinterSetup::Dialog},
+    {"frmPrinterSetup::SSMainFilePath", Kind::Window, frmPrinterSetup::SSMainFilePath},
+    {"CopyDestination", Kind::Window, CopyDestination},
+    {"fontAtOpening", Kind::Window, fontAtOpening},
+};
 
 // ---- The font
 

@@ -1,4 +1,5 @@
 // frmDesItems.cpp -- the description item editor: a text box for each list, an item a line.
+#include "platform/qt/typedtext.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
 #include "report/desitems.h"
@@ -25,7 +26,7 @@ void ShowDesItemsWindow()
     lists->setVerticalSpacing(4);
     QPlainTextEdit* boxes[5] = {};
     for (int i = 1; i <= 4; ++i) {
-        boxes[i] = new QPlainTextEdit(&window);
+        boxes[i] = new TypedTextEdit(&window);
         boxes[i]->setObjectName(QString("Text%1").arg(i));
         boxes[i]->setAccessibleName(QString("List %1").arg(i));
         boxes[i]->setLineWrapMode(QPlainTextEdit::NoWrap);

@@ -1,4 +1,5 @@
 // frmDescLegend.cpp -- the four legends of the log: their titles, rows, and which are in use.
+#include "platform/qt/typedtext.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
 #include "report/headingedit.h"
@@ -37,6 +38,7 @@ QLineEdit* DescLegendWindow::Box(QGroupBox* group, const QString& name, const QS
     auto* box = new QLineEdit(ToUi(text), group);
     box->setObjectName(name);
     box->setAccessibleName(accessible);
+    CleanAsTyped(box);
     takers.push_back([box, &text] { text = LineFromUi(box->text()); });
     return box;
 }

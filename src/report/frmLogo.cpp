@@ -1,6 +1,7 @@
 // frmLogo.cpp -- the logo window: it shows the boxes of report/logo.h.
 #include "report/logo.h"
 
+#include "platform/qt/typedtext.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
 
@@ -31,7 +32,7 @@ void ShowLogoWindow()
     QDialog window(QApplication::activeWindow());
     window.setObjectName("frmLogo");
     window.setWindowTitle("Logo");
-    auto* text = new QPlainTextEdit(ToUi(Dialog.Text1).remove('\r'), &window);
+    auto* text = new TypedTextEdit(ToUi(Dialog.Text1).remove('\r'), &window);
     text->setObjectName("Text1");
     text->setAccessibleName("Logo text, three lines");
     text->setTabChangesFocus(true);

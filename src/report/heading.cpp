@@ -7,6 +7,7 @@
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 Slots<Text, MaxHeadings> HeadingTable;
 Slots<Text, MaxHeadings> HeadingWords;
@@ -14,6 +15,17 @@ int16_t LegendInUse = 0;
 Slots<int16_t, 4> LegendBoxFill;
 LogoRecord LogoData;
 Grid frmHeading::SSLog(39, 2), frmHeading::SSSections(10, 2), frmHeading::SSGraphics(13, 2);
+
+static const SharedRecord shared[] = {
+    {"HeadingTable", Kind::Window, HeadingTable},
+    {"HeadingWords", Kind::Run, HeadingWords},
+    {"LegendInUse", Kind::Run, LegendInUse},
+    {"LegendBoxFill", Kind::Run, LegendBoxFill},
+    {"LogoData", Kind::Run, LogoData},
+    {"frmHeading::SSLog", Kind::Window, frmHeading::SSLog},
+    {"frmHeading::SSSections", Kind::Window, frmHeading::SSSections},
+    {"frmHeading::SSGraphics", Kind::Window, frmHeading::SSGraphics},
+};
 
 // Which slots each grid shows.
 namespace
@@ -51,6 +63,13 @@ static void ReadOldForm(LineReader& in, const Text& firstLine)
     ReadSlots(in, 62, 84);
 }
 
+static void ShowTable()
+{
+    for (const HeadingBlock& block : headingBlocks)
+        for (int row = 1; row <= block.grid.rows; ++row)
+            block.grid.Cell(row, 2) = HeadingTable[block.firstSlot + row - 1];
+}
+
 void OpenHeadingFile()
 try {
     HeadingTable = {};
@@ -60,10 +79,9 @@ try {
         ReadSlots(in, 1, MaxHeadings);
     else
         ReadOldForm(in, version);
-    for (const HeadingBlock& block : headingBlocks)
-        for (int row = 1; row <= block.grid.rows; ++row)
-            block.grid.Cell(row, 2) = HeadingTable[block.firstSlot + row - 1];
+    ShowTable();
 } catch (...) {
+    ShowTable(); // what was read, or a save would write what the grids had before over it
     ReportFailure(__func__);
 }
 
@@ -94,10 +112,9 @@ try {
 }
 
 // Keywords 41 to 44, "text, fill number": the text stays in the slot, the number becomes the pattern of the sample
-// box of that condition. Without a number the box keeps its usual pattern.
+// box of that condition. Without a number the box keeps the pattern that it has.
 static void SplitLegendBoxes()
 {
-    LegendBoxFill.slot = {0, 1, 7, 20, 9};
     for (int n = 1; n <= 4; ++n) {
         Text& word = HeadingWords[40 + n];
         if (word.ends_with(','))
@@ -157,6 +174,8 @@ static void ReadLogo()
 
 void getclientlogo(int kind)
 try {
+    if (kind == 1)
+        LegendBoxFill.slot = {0, 1, 7, 20, 9}; // the usual patterns, also where no heading file can be read
     const Text& told = DeviceConfig.SystemFiles[HeadingFile];
     const Text name = told.empty() ? "us.hdg" : WithEnding(told, ".hdg");
     if (FileExists(name)) {

@@ -31,7 +31,7 @@ extern Grid SSLog, SSSections, SSGraphics;
 }
 
 // DialogResult into HeadingTable and the grids. A file of the old form, which had the legends inside, is told in a
-// box and has the words that it knew in their slots.
+// box and has the words that it knew in their slots. One that breaks off leaves what was read of it, there and there.
 void OpenHeadingFile();
 // The grids into HeadingTable, keywords (slots 31 to 39) in upper case, and that to DialogResult. Refused with a box
 // while 6 or more of slots 1 to 20 are empty in the table as last read.

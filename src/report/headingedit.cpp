@@ -8,9 +8,15 @@
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 Text frmHeading::Title;
 frmDescLegend::Record frmDescLegend::Dialog;
+
+static const SharedRecord shared[] = {
+    {"frmHeading::Title", Kind::Window, frmHeading::Title},
+    {"frmDescLegend::Dialog", Kind::Window, frmDescLegend::Dialog},
+};
 
 // Shown beside each word as guidance; a fresh heading file holds them.
 static const char* const defaultTexts[] = {

@@ -3,11 +3,17 @@
 
 #include "session/files.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 LayoutRecord LayoutData;
 
+static const SharedRecord shared[] = {
+    {"LayoutData", Kind::Window, LayoutData},
+};
+
 void ReadLayoutFile(const Text& name)
 {
+    LayoutData = LayoutRecord();
     LineReader in(name);
     LayoutData.Orientation = RoundInt16(TextNumber(in.Line()));
     for (int i = 1; i <= 12; ++i)

@@ -10,5 +10,6 @@ struct LayoutRecord {
 };
 extern LayoutRecord LayoutData;
 
-void ReadLayoutFile(const Text& name); // 13 lines into LayoutData; failures by number
+// 13 lines into LayoutData. Failures by number; what was read stays then, and nothing of a layout before.
+void ReadLayoutFile(const Text& name);
 void SaveLayoutFile();                 // LayoutData to DialogResult

@@ -13,11 +13,17 @@
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <cstdlib>
 
 Slots<frmLayout::TilePoint, 12> frmLayout::Tile;
 Text frmLayout::Title;
+
+static const SharedRecord shared[] = {
+    {"frmLayout::Tile", Kind::Window, frmLayout::Tile},
+    {"frmLayout::Title", Kind::Window, frmLayout::Title},
+};
 
 static constexpr int tiles = 12;
 static constexpr int snapX = 500, snapY = 200;
@@ -99,9 +105,14 @@ void frmLayout::mnuOpen()
     Platform.ShowChooser();
     if (!FileExists(DialogResult))
         return;
-    ReadLayoutFile(DialogResult);
     Title = "Layout Editor: " + DialogResult;
     PutAllBeside();
+    try {
+        ReadLayoutFile(DialogResult);
+    } catch (...) {
+        PlaceTiles(); // the picture is what a save would write
+        throw;
+    }
     PlaceTiles();
 }
 

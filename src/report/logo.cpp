@@ -6,8 +6,13 @@
 #include "boring/textlines.h"
 #include "session/files.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 frmLogo::Record frmLogo::Dialog;
+
+static const SharedRecord shared[] = {
+    {"frmLogo::Dialog", Kind::Window, frmLogo::Dialog},
+};
 
 static Text LogoFileName()
 {

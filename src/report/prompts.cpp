@@ -5,6 +5,7 @@
 #include "session/files.h"
 #include "session/gridedit.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 Slots<Slots<Text, 2>, MaxPrompts> PromptTable;
 int16_t PromptForce = 0;
@@ -99,6 +100,14 @@ void LoadPrompts()
 
 Grid frmPrompt::SS1(MaxPrompts, 2);
 bool frmPrompt::Changed = false;
+
+static const SharedRecord shared[] = {
+    {"PromptTable", Kind::Session, PromptTable},
+    {"PromptForce", Kind::Session, PromptForce},
+    {"PromptSlot", Kind::Session, PromptSlot},
+    {"frmPrompt::SS1", Kind::Window, frmPrompt::SS1},
+    {"frmPrompt::Changed", Kind::Window, frmPrompt::Changed},
+};
 
 void frmPrompt::Load()
 {

@@ -18,13 +18,6 @@
 
 using namespace VCROSS;
 
-CrossRunRecord VCROSS::CrossRun;
-
-void VCROSS::ResetCrossRun()
-{
-    CrossRun = CrossRunRecord();
-}
-
 static bool SaysBottom(const Text& cell)
 {
     return UpperCase(cell) == "B";
@@ -141,6 +134,11 @@ static void SetPage(bool wide)
     CrossRun.pageMode = wide ? "T" : "L";
     CrossRun.pageWidth = wide ? 17 : 11;
     CrossRun.pageHeight = wide ? 11 : 8.5;
+}
+
+void VCROSS::startsheet()
+{
+    SetPage(false);
 }
 
 static void SetParameter(const Text& line)

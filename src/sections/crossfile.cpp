@@ -4,6 +4,7 @@
 #include "sections/sectionlines.h"
 #include "session/gridedit.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
@@ -15,6 +16,12 @@ Text FileName;
 Grid SS1(CrossRecord::FormBorings, 5), SS2(CrossRecord::Scales, 1), SS3(CrossRecord::FormReports, 1),
     SS4(CrossRecord::FormLegendRows, 2);
 } // namespace frmCross
+
+static const SharedRecord shared[] = {
+    {"CrossData", Kind::Document, CrossData},         {"frmCross::FileName", Kind::Document, frmCross::FileName},
+    {"frmCross::SS1", Kind::Document, frmCross::SS1}, {"frmCross::SS2", Kind::Document, frmCross::SS2},
+    {"frmCross::SS3", Kind::Document, frmCross::SS3}, {"frmCross::SS4", Kind::Document, frmCross::SS4},
+};
 
 // ---------------------------------------------------------------------------------------------------- reading
 
@@ -62,7 +69,7 @@ static void ReadBorings(LineReader& in)
 
 void OpenCrossFile()
 try {
-    CrossData.rowCount = 0; // a file that fails before its borings shows none
+    ClearCrossArrays();
     LineReader in(frmCross::FileName);
     ReadBorings(in);
     in.Skip(1);
@@ -97,7 +104,7 @@ static void TakeTable(const Grid& grid, int rows, Slots<Slots<Text, Columns>, Ro
 {
     for (int row = 1; row <= rows; ++row)
         for (int column = 1; column <= grid.columns; ++column)
-            cells[row][column] = row <= grid.rows ? grid.Cell(row, column) : Text();
+            cells[row][column] = grid.Cell(row, column);
 }
 
 // One box for all rows. Kept: it is the number behind the first comma, so without a comma every positive distance is
@@ -163,13 +170,7 @@ try {
 
 void ClearCrossArrays()
 try {
-    for (int row = 1; row <= CrossRecord::FormBorings; ++row)
-        CrossData.boringCells[row] = {};
-    CrossData.scaleCells = {};
-    for (int row = 1; row <= CrossRecord::FormReports; ++row)
-        CrossData.reportCells[row] = "";
-    for (int row = 1; row <= CrossRecord::FormLegendRows; ++row)
-        CrossData.legendCells[row] = {};
+    CrossData = {};
 } catch (...) {
     ReportFailure(__func__);
 }

@@ -40,11 +40,10 @@ extern Grid SS4;      // legend, 8 rows of 2
 } // namespace frmCross
 
 // All work on frmCross::FileName. None asks a question or touches the changed flag.
-void OpenCrossFile(); // the file into CrossData, which has been cleared; a short file leaves what was read
+void OpenCrossFile(); // the file into CrossData, which is emptied first; a short file leaves what was read
 // The boxes into CrossData, and that into the file. A distance beyond the end of the horizontal scale is told, once,
 // and saved. False: nothing was written, and the report has told why.
 bool SaveCrossFile();
-// Kept: not all that a file can hold. The options line, the number of borings, borings above 15 and legend rows above 8
-// stay as an earlier file left them, and a shorter file is saved with them.
+// All cells, also those that the form does not show: what one section had there is not saved with the next.
 void ClearCrossArrays();
 void FillCrossForm(); // CrossData into the boxes, and the form's title by FileName

@@ -32,6 +32,8 @@ static void DrawPage()
 
 void VCROSS::vcrossstart()
 try {
+    // Of a first file that breaks off before its page; further files then have the sheet of the file before.
+    startsheet();
     RunSheets(2, getcrossdata, DrawPage);
 } catch (...) {
     Platform.ShowProgress(false);

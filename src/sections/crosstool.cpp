@@ -4,7 +4,9 @@
 #include "boring/opensave.h"
 #include "editors/hush.h"
 #include "gis/gisfile.h"
+#include "sections/crosscheck.h"
 #include "sections/crossrun.h"
+#include "session/shared.h"
 
 // Cells of a boring that no column shows: label offset, second label, azimuth, inclination.
 static constexpr int firstHidden = 6, lastHidden = 9, hiddenCells = lastHidden - firstHidden + 1;
@@ -75,4 +77,9 @@ ToolRecord CrossForm = {
     .Label = frmCross::LabelBoxes,
     .Undisturbed = Undisturbed,
     .State = State,
+    .Check = CheckSection,
+};
+
+static const SharedRecord shared[] = {
+    {"CrossForm", Kind::Window, CrossForm},
 };

@@ -3,6 +3,7 @@
 
 #include "boring/opensave.h"
 #include "sections/sectionlines.h"
+#include "session/shared.h"
 
 FenceRecord FenceData;
 
@@ -12,6 +13,13 @@ Text FileName;
 Grid SS1(FenceRecord::Borings, 6), SS2(FenceRecord::Scales, 1), SS3(FenceRecord::Reports, 1),
     SS4(FenceRecord::LegendRows, 2), SS5(FenceRecord::Panels, 1);
 } // namespace frmFence
+
+static const SharedRecord shared[] = {
+    {"FenceData", Kind::Document, FenceData},         {"frmFence::FileName", Kind::Document, frmFence::FileName},
+    {"frmFence::SS1", Kind::Document, frmFence::SS1}, {"frmFence::SS2", Kind::Document, frmFence::SS2},
+    {"frmFence::SS3", Kind::Document, frmFence::SS3}, {"frmFence::SS4", Kind::Document, frmFence::SS4},
+    {"frmFence::SS5", Kind::Document, frmFence::SS5},
+};
 
 // The first pieces of a line, a cell each; the last cell takes all that is left, commas too.
 static Slots<Text, 6> CutBoringRow(std::string_view line)

@@ -7,23 +7,6 @@
 #include "session/failure.h"
 #include "session/platform.h"
 
-VCROSS::FenceRunRecord VCROSS::FenceRun;
-
-void VCROSS::ResetFenceRun()
-{
-    FenceRun = FenceRunRecord();
-}
-
-bool VCROSS::HasBoring(int i)
-{
-    return !CrossRun.boringFile[i].empty();
-}
-
-float VCROSS::BaseScale()
-{
-    return static_cast<float>(Over(double(FenceRun.xRange), double(FenceRun.baseWidth)));
-}
-
 // The page of the file that has been read. The stakes come first and the panels over them, in the order of the file.
 static void DrawPage()
 {

@@ -4,7 +4,9 @@
 #include "boring/opensave.h"
 #include "editors/hush.h"
 #include "gis/gisfile.h"
+#include "sections/fencecheck.h"
 #include "sections/fencerun.h"
+#include "session/shared.h"
 
 void frmFence::LabelBoxes()
 {
@@ -52,4 +54,9 @@ ToolRecord FenceForm = {
     .Label = frmFence::LabelBoxes,
     .Undisturbed = Undisturbed,
     .State = State,
+    .Check = CheckFence,
+};
+
+static const SharedRecord shared[] = {
+    {"FenceForm", Kind::Window, FenceForm},
 };

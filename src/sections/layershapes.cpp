@@ -5,8 +5,13 @@
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 VCROSS::LayerFillRecord VCROSS::LayerFill;
+
+static const SharedRecord shared[] = {
+    {"VCROSS::LayerFill", Kind::Run, VCROSS::LayerFill},
+};
 
 float VCROSS::contacttop(float ground, int boring, int layer)
 {

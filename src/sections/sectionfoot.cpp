@@ -104,12 +104,6 @@ static double RowPitch(char kind)
     return pitch;
 }
 
-static bool IsColorName(const Text& text)
-{
-    const Text white = "255 255 255"; // what is no name has this too
-    return getcolor(text, true) != white || SameText(Trim(text), "WHITE");
-}
-
 static void Swatch(const Text& code, double pitch)
 {
     if (CrossRun.drawLayers == 1 && CrossRun.useGIS == 1 && IsColorName(code))
@@ -191,7 +185,7 @@ try {
     setorigin(x, y);
     setfontsize(6);
     textleft();
-    printtextraw(Platform.ShortDate() + "    " + RunPages.pageFile);
+    printtextraw(Platform.ShortDate() + "    " + PrintedName(RunPages.pageFile));
 } catch (...) {
     ReportFailure(__func__);
 }

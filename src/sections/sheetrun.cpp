@@ -2,6 +2,7 @@
 #include "sections/sheetrun.h"
 
 #include "canvas/batch.h"
+#include "canvas/metaugl.h"
 #include "canvas/screenview.h"
 #include "report/heading.h"
 #include "session/files.h"
@@ -21,6 +22,7 @@ void VCROSS::RunSheets(int words, bool (*read)(), void (*draw)())
             ++RunPages.pageIndex;
             continue;
         }
+        PageCanvas.polyCount = 0; // a polygon that failed half-way is of its own page
         draw();
         Platform.ShowProgress(false);
         ShowOrPrint();

@@ -27,6 +27,7 @@ enum SoilCell {
 struct SoilRecord {
     Slots<Text, MaxSoilCells> cells;
     Slots<Text, MaxSoilNotes> notes; // stored lines, some with their mark
+    int notesWidth = 0;              // of the box when they were shown, or cut by it
 };
 extern SoilRecord SoilData;
 

@@ -19,11 +19,16 @@
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cmath>
 
 VCROSS::SoilRunRecord VCROSS::SoilRun;
+
+static const SharedRecord shared[] = {
+    {"VCROSS::SoilRun", Kind::Run, VCROSS::SoilRun},
+};
 
 using namespace VCROSS;
 
@@ -410,7 +415,7 @@ try {
     setorigin(footX, footY);
     setfontsize(6);
     textleft();
-    printtextraw(Platform.ShortDate() + "   " + RunPages.pageFile);
+    printtextraw(Platform.ShortDate() + "   " + PrintedName(RunPages.pageFile));
 } catch (...) {
     ReportFailure(__func__);
 }

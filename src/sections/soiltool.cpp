@@ -2,6 +2,8 @@
 #include "sections/soiltool.h"
 
 #include "editors/hush.h"
+#include "sections/soilcheck.h"
+#include "session/shared.h"
 
 static void Undisturbed(const std::function<void()>& work)
 {
@@ -37,4 +39,9 @@ ToolRecord SoilForm = {
         },
     .Undisturbed = Undisturbed,
     .State = State,
+    .Check = CheckSoilTable,
+};
+
+static const SharedRecord shared[] = {
+    {"SoilForm", Kind::Window, SoilForm},
 };

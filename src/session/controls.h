@@ -24,11 +24,32 @@ struct GridShape {
     friend bool operator==(const GridShape&, const GridShape&) = default;
 };
 
+// Where the rows of a grid have gone: row n, from index 1, is row [n] now, and 0 says that it has gone. Empty: none has
+// moved.
+using RowMoves = std::vector<int>;
+
+// A text elsewhere that names the rows of a grid by their numbers, and goes with them.
+struct RowNames {
+    Text (*text)();
+    void (*put)(const Text& text);
+    Text (*move)(const RowMoves& moves); // renumbers the text; what it has done in words, "" for nothing
+    Text (*cut)(int top, int bottom);    // what becomes of the names of rows that were cut out, in words
+};
+
+// Whole rows that were cut out and not pasted yet: the first one, and what the clipboard has of them.
+struct CutRows {
+    int top = 0; // 0: none
+    Text text;
+};
+
 // What one Undo takes back. A cell that one of the two shapes lacks counts as empty there.
 struct GridStep {
     std::vector<CellChange> cells;
     GridShape before, after;
     std::vector<Text> besideBefore, besideAfter; // empty where no row has come or gone
+    RowMoves moves;                              // with the text that names the rows, and what was said of it
+    Text namesBefore, namesAfter, words;
+    CutRows cutBefore, cutAfter;
 };
 
 // A grid of text cells, rows and columns from 1. A cell outside is failure 380.
@@ -63,6 +84,8 @@ struct Grid {
     Block selected;              // the block that Cut, Copy, Paste and Delete act on; the current cell is in it
     void (*changed)() = nullptr; // called after every change by the user; it may write cells of its own
     std::vector<GridStep> done, undone;
+    const RowNames* names = nullptr; // may be null
+    CutRows cut;
 };
 
 // A multi-line text box with word wrap. Its text has CR LF line ends; widthTwips decides where lines break.
@@ -71,6 +94,7 @@ struct Memo {
     int widthTwips = 0;
     int factor = 1550;                      // twips of room to an inch of text: 1550 for 8 point, 1750 for 7 point
     Text fontName = "Arial";                // what it is drawn with; where lines break does not depend on it
+    bool edited = false;                    // a command has changed the text: its widget shows that as a step of Undo
     int Points() const;                     // the size that factor stands for
     int64_t Room() const;                   // of a line, in the line breaker's units
     std::vector<Text> DisplayLines() const; // every character but the line ends stands in one of them

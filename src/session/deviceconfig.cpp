@@ -5,10 +5,15 @@
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 
 DeviceRecord DeviceConfig;
+
+static const SharedRecord shared[] = {
+    {"DeviceConfig", Kind::Session, DeviceConfig},
+};
 
 static Text DeviceFile()
 {

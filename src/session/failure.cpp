@@ -2,6 +2,7 @@
 #include "session/failure.h"
 
 #include "session/platform.h"
+#include "session/shared.h"
 #include "session/text.h"
 
 #include <cerrno>
@@ -24,6 +25,10 @@ int FailureInHand()
 }
 
 int FailuresReported = 0;
+
+static const SharedRecord shared[] = {
+    {"FailuresReported", Kind::Machine, FailuresReported},
+};
 
 void ReportFailure(const char* procedure)
 {

@@ -24,13 +24,6 @@ Text FullPath(const Text& name);   // absolute, from the current folder of the p
 // Changes whenever an entry of the folder is added, removed or renamed; 0 for no folder, or for one that has changed
 // within the last second, when a further change might not show.
 int64_t FolderStamp(const Text& folder);
-// What tells a file from what it was when it was read: its size, when it was written, its number on the disk. A file
-// that is not there has the start values.
-struct FileState {
-    int64_t Size = -1, Written = 0, Number = 0;
-    bool operator==(const FileState&) const = default;
-};
-FileState StateOf(const std::string& path);                        // a path of this machine
 std::vector<Text> FilesIn(const Text& folder, const Text& ending); // base names, ending in any case, by name
 
 // Beside a file of this machine, and no longer than a name may be: where its new form is written, to take its place by

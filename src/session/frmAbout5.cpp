@@ -1,5 +1,6 @@
 // frmAbout5.cpp -- the title box: up while the program loads, then until it is clicked.
 #include "platform/qt/titlepicture.h"
+#include "platform/qt/windowparts.h"
 #include "platform/qt/windows.h"
 
 #include <QApplication>

@@ -1,5 +1,6 @@
 // frmWelcome.cpp -- the welcome of a first start: a picture, and one button that closes it.
 #include "platform/qt/titlepicture.h"
+#include "platform/qt/windowparts.h"
 #include "platform/qt/windows.h"
 
 #include <QDialog>

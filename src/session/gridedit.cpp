@@ -2,6 +2,7 @@
 #include "session/gridedit.h"
 
 #include "session/platform.h"
+#include "session/rowmoves.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -28,7 +29,9 @@ static Cells CellsOf(const Grid& grid)
 
 static GridStep Differences(const Cells& before, const Cells& after)
 {
-    GridStep step{{}, before.shape, after.shape, {}, {}};
+    GridStep step;
+    step.before = before.shape;
+    step.after = after.shape;
     if (before.beside != after.beside) {
         step.besideBefore = before.beside;
         step.besideAfter = after.beside;
@@ -52,10 +55,32 @@ static void StayInside(Grid& grid)
     block.right = std::min(block.right, grid.columns);
 }
 
-// One change by the user.
-static void Change(Grid& grid, const std::function<void()>& write)
+static bool Took(const CutRows& before, const CutRows& after)
+{
+    return before.top != after.top || before.text != after.text;
+}
+
+// The text that names the rows goes with them, and so do rows that wait to be pasted.
+static void MoveNames(Grid& grid, const RowMoves& moves, GridStep& step)
+{
+    if (!grid.names || moves.empty())
+        return;
+    step.moves = moves;
+    step.namesBefore = grid.names->text();
+    step.words = grid.names->move(moves);
+    step.namesAfter = grid.names->text();
+    if (grid.cut.top > 0)
+        grid.cut.top = MovedRow(moves, grid.cut.top);
+    if (!step.words.empty())
+        Platform.Tell(step.words);
+}
+
+// One change by the user; went says where the rows have gone by it.
+static void Change(Grid& grid, const std::function<void()>& write,
+                   const std::function<RowMoves(const Cells& before)>& went = {})
 {
     const Cells before = CellsOf(grid);
+    const CutRows cut = grid.cut;
     write();
     for (int row = 1; row <= std::min(grid.rows, before.shape.rows); ++row)
         for (int column = 1; column <= std::min(grid.locked, grid.columns); ++column)
@@ -63,9 +88,19 @@ static void Change(Grid& grid, const std::function<void()>& write)
     StayInside(grid);
     if (grid.cells == before.cells && grid.Shape() == before.shape && (!grid.beside || grid.beside() == before.beside))
         return;
+    GridStep named;
+    if (went)
+        MoveNames(grid, went(before), named);
     if (grid.changed)
         grid.changed();
-    grid.done.push_back(Differences(before, CellsOf(grid)));
+    GridStep step = Differences(before, CellsOf(grid));
+    step.moves = std::move(named.moves);
+    step.namesBefore = std::move(named.namesBefore);
+    step.namesAfter = std::move(named.namesAfter);
+    step.words = std::move(named.words);
+    step.cutBefore = cut;
+    step.cutAfter = grid.cut;
+    grid.done.push_back(std::move(step));
     if (grid.done.size() > maxSteps)
         grid.done.erase(grid.done.begin());
     grid.undone.clear();
@@ -90,10 +125,58 @@ void CopySelected(const Grid& grid)
     Platform.SetClipboardText(TabSeparated(grid, grid.selected));
 }
 
+static bool WholeRows(const Grid& grid, const Block& block)
+{
+    return block.left == 1 && block.right == grid.columns;
+}
+
+// Rows that are cut out whole are remembered, so that their names go with them to where they are pasted.
 void CutSelected(Grid& grid)
 {
+    const Block block = grid.selected;
     CopySelected(grid);
+    grid.cut = {};
+    if (grid.names && WholeRows(grid, block))
+        grid.cut = {block.top, TabSeparated(grid, block)};
     ClearSelected(grid);
+    if (grid.cut.top == 0)
+        return;
+    const Text words = grid.names->cut(block.top, block.bottom);
+    if (!words.empty())
+        Platform.Tell(words);
+}
+
+// The rows of a grid as they stood in its cells, from index 1.
+static RowList RowsOf(const Cells& cells)
+{
+    RowList rows(size_t(cells.shape.rows) + 1);
+    for (int row = 1; row <= cells.shape.rows; ++row)
+        for (int column = 1; column <= cells.shape.columns; ++column)
+            rows[size_t(row)].push_back(cells.At(row, column));
+    return rows;
+}
+
+// How many rows were cut out that are what is pasted; 0 where it is something else, or they have been filled again.
+static int RowsCut(const Grid& grid, const Cells& before, const std::vector<std::vector<Text>>& pasted)
+{
+    const int count = int(pasted.size());
+    if (grid.cut.top == 0 || CellsOfText(grid.cut.text) != pasted || grid.cut.top + count - 1 > before.shape.rows)
+        return 0;
+    for (int row = grid.cut.top; row < grid.cut.top + count; ++row)
+        for (int column = 1; column <= before.shape.columns; ++column)
+            if (!before.At(row, column).empty())
+                return 0;
+    return count;
+}
+
+// Where the rows have gone when whole rows were pasted; rows that were cut out before go with that.
+static RowMoves MovesByPaste(Grid& grid, const Cells& before, const std::vector<std::vector<Text>>& pasted, int at)
+{
+    const int count = RowsCut(grid, before, pasted);
+    const int top = count > 0 ? grid.cut.top : 0;
+    if (count > 0)
+        grid.cut = {};
+    return RowsPasted(RowsOf(before), RowsOf(CellsOf(grid)), top, at, count);
 }
 
 void PasteSelected(Grid& grid)
@@ -117,7 +200,7 @@ void PasteSelected(Grid& grid)
     grid.selected = filled;
     grid.row = filled.top;
     grid.column = filled.left;
-    Change(grid, [&] {
+    const auto write = [&] {
         if (grid.beside && grown > grid.rows) { // what an earlier document left below the last row does not come up
             std::vector<Text> cells = grid.beside();
             std::fill(cells.begin() + std::ptrdiff_t(grid.rows) * grid.besideWidth,
@@ -131,7 +214,11 @@ void PasteSelected(Grid& grid)
                 const size_t i = alone ? 0 : size_t(column - at.left);
                 grid.Cell(row, column) = i < from.size() ? from[i] : Text();
             }
-    });
+    };
+    if (grid.names && WholeRows(grid, filled) && !alone)
+        Change(grid, write, [&](const Cells& before) { return MovesByPaste(grid, before, rows, filled.top); });
+    else
+        Change(grid, write);
     const int rowsOut = alone ? 0 : at.top + int(rows.size()) - 1 - filled.bottom;
     const int columnsOut = alone ? 0 : at.left + int(width) - 1 - filled.right;
     if (rowsOut > 0 || columnsOut > 0)
@@ -187,26 +274,30 @@ bool InsertRow(Grid& grid)
         Platform.Notice("The last row holds text, so no row was inserted.");
         return false;
     }
-    Change(grid, [&] {
+    const int row = grid.row;
+    const auto write = [&] {
         if (grows)
             grid.Resize(grid.rows + 1, grid.columns);
-        const auto at = grid.cells.begin() + std::ptrdiff_t(grid.row - 1) * grid.columns;
+        const auto at = grid.cells.begin() + std::ptrdiff_t(row - 1) * grid.columns;
         std::rotate(at, grid.cells.end() - grid.columns, grid.cells.end());
         MoveBeside(grid, true);
-    });
+    };
+    Change(grid, write, [row](const Cells& before) { return RowInserted(before.shape.rows, row); });
     return true;
 }
 
 void DeleteRow(Grid& grid)
 {
-    Change(grid, [&] {
-        grid.ClearRows(grid.row, grid.row);
-        const auto at = grid.cells.begin() + std::ptrdiff_t(grid.row - 1) * grid.columns;
+    const int deleted = grid.row;
+    const auto write = [&] {
+        grid.ClearRows(deleted, deleted);
+        const auto at = grid.cells.begin() + std::ptrdiff_t(deleted - 1) * grid.columns;
         std::rotate(at, at + grid.columns, grid.cells.end());
         MoveBeside(grid, false);
         if (grid.maxRows > 0 && grid.rows > grid.minRows)
             grid.Resize(grid.rows - 1, grid.columns);
-    });
+    };
+    Change(grid, write, [deleted](const Cells& before) { return RowDeleted(before.shape.rows, deleted); });
 }
 
 // Column from goes to where column to is; those between make room.
@@ -244,6 +335,26 @@ void DeleteColumn(Grid& grid)
     });
 }
 
+// The names of rows go back, or on again, with the rows. Where the text has been changed since the step, it is
+// renumbered as it stands now, and what was typed into it stays.
+static void MoveNamesAgain(Grid& grid, const GridStep& step, bool back)
+{
+    if (!grid.names || step.moves.empty())
+        return;
+    const Text now = grid.names->text();
+    const Text& from = back ? step.namesAfter : step.namesBefore;
+    const Text& to = back ? step.namesBefore : step.namesAfter;
+    Text words;
+    if (now == from && from != to) {
+        grid.names->put(to);
+        words = back ? "Taken back: " + step.words : step.words;
+    } else if (now != from && now != to) {
+        words = grid.names->move(back ? Inverse(step.moves) : step.moves);
+    }
+    if (!words.empty())
+        Platform.Tell(words);
+}
+
 // The last step of one list is applied, one way or the other, and moves to the other list. The block that it touched is
 // shown.
 static bool Move(Grid& grid, std::vector<GridStep>& from, std::vector<GridStep>& to, Text CellChange::*text,
@@ -276,6 +387,10 @@ static bool Move(Grid& grid, std::vector<GridStep>& from, std::vector<GridStep>&
         grid.column = touched.left;
     }
     StayInside(grid);
+    const bool back = &from == &grid.done;
+    MoveNamesAgain(grid, step, back);
+    if (Took(step.cutBefore, step.cutAfter))
+        grid.cut = back ? step.cutBefore : step.cutAfter;
     to.push_back(std::move(step));
     if (grid.changed)
         grid.changed();
@@ -296,6 +411,7 @@ void ForgetSteps(Grid& grid)
 {
     grid.done.clear();
     grid.undone.clear();
+    grid.cut = {};
 }
 
 Text TabSeparated(const Grid& grid, const Block& block)

@@ -1,7 +1,8 @@
 // gridedit.h -- what the user does in a grid: typing, the clipboard, fills, rows in and out, and all of it taken back.
 //
 // No widget is known here. Each procedure works on the record, keeps what it changed for Undo as one step, and calls
-// the grid's changed; what changed itself writes into cells belongs to the same step.
+// the grid's changed; what changed itself writes into cells belongs to the same step, and so does what becomes of the
+// text that names the rows (RowNames): rows put in, taken out, and whole rows pasted take their names along.
 #pragma once
 
 #include "session/controls.h"
@@ -9,7 +10,7 @@
 void TypeCell(Grid& grid, int row, int column, const Text& text); // the same text again is no change
 void ClearSelected(Grid& grid);
 void CopySelected(const Grid& grid); // to the clipboard
-void CutSelected(Grid& grid);
+void CutSelected(Grid& grid);        // rows stay where they are, blank
 // The clipboard from the block's first cell on; one cell alone fills the whole block. What does not fit is left out,
 // and said. The block becomes what was filled.
 void PasteSelected(Grid& grid);

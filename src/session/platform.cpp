@@ -1,7 +1,13 @@
 // platform.cpp -- the seam to the machine, empty until the start of a program fills it in.
 #include "session/platform.h"
 
+#include "session/shared.h"
+
 PlatformRecord Platform = {};
+
+static const SharedRecord shared[] = {
+    {"Platform", Kind::Machine, Platform},
+};
 
 Sheet DefaultSheet(char mode)
 {

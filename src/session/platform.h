@@ -42,7 +42,8 @@ struct PlatformRecord {
     void (*ShowPrinting)();  // the notice "Printing...", blocking for a second and a half
     void (*ShowProgress)(bool shown);
     void (*StepProgress)(const Text& words, float percent);
-    void (*ShowChooser)(); // by DialogMode; answers in DialogResult
+    void (*ShowRunMessages)(); // what a run of several files has told, blocking
+    void (*ShowChooser)();     // by DialogMode; answers in DialogResult
     void (*ShowHelp)();
     void (*ShowProjEdit)();                   // the editor of the project list, blocking
     void (*ShowGraphicsSetup)();              // the set-up window, blocking
@@ -63,8 +64,9 @@ struct PlatformRecord {
     Text (*ClipboardText)();
     void (*SetClipboardText)(const Text& text);
     void (*Notice)(const Text& words);
-    void (*Breathe)();   // a turn for the window system, so that Escape is seen
-    Text (*ShortDate)(); // today, in the short form of the user's locale
+    void (*Tell)(const Text& words); // the same without the beep: what was asked for is done, and more with it
+    void (*Breathe)();               // a turn for the window system, so that Escape is seen
+    Text (*ShortDate)();             // today, in the short form of the user's locale
     // True where nobody sits in front: a question takes the answer that loses nothing, and a run that cannot go
     // on ends instead of waiting for a key.
     bool Unattended;

@@ -3,19 +3,16 @@
 
 #include "session/failure.h"
 #include "session/files.h"
+#include "session/machine.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <chrono>
 #include <ctime>
 #include <filesystem>
 #include <vector>
-
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 Slots<RecoveryTool, MaxRecoveryTools> RecoveryTools;
 int RecoveryInterval = 60000;
@@ -51,9 +48,15 @@ struct LeftCopy {
 
 static RunRecord run;
 
+static const SharedRecord shared[] = {
+    {"RecoveryTools", Kind::Session, RecoveryTools},
+    {"RecoveryInterval", Kind::Session, RecoveryInterval},
+    {"run", Kind::Machine, run},
+};
+
 static void RemoveFile(const Text& name)
 {
-    ::unlink(NativePath(JoinPath(run.folder, name)).c_str());
+    Machine::Remove(NativePath(JoinPath(run.folder, name)));
 }
 
 // The file of this name and those that the tool has put beside it.
@@ -82,32 +85,21 @@ static void Remove(int tool)
     copy = CopyRecord();
 }
 
-// The lock of a run, or -1 while it is held elsewhere. The system lets go of it when the program ends in any way.
-static int Lock(const Text& name, int flags)
-{
-    const int handle = ::open(NativePath(name).c_str(), flags | O_RDWR | O_CLOEXEC, 0600);
-    if (handle >= 0 && ::flock(handle, LOCK_EX | LOCK_NB) != 0) {
-        ::close(handle);
-        return -1;
-    }
-    return handle;
-}
-
 void StartRecovery(const Text& folder)
 {
     EndRecovery();
     std::error_code ignored;
     std::filesystem::create_directories(NativePath(folder), ignored);
-    ::chmod(NativePath(folder).c_str(), 0700); // what is typed here is nobody else's
+    Machine::KeepPrivate(NativePath(folder)); // what is typed here is nobody else's
     if (!FolderWritable(folder))
         return;
     run.folder = folder;
     const auto now = std::chrono::system_clock::now().time_since_epoch().count();
-    const Text id = std::to_string(::getpid()) + "-" + std::to_string(now / 1000 % 1000000000);
+    const Text id = std::to_string(Machine::ProcessNumber()) + "-" + std::to_string(now / 1000 % 1000000000);
     // Locked before it has the name by which others look for it.
     const Text making = JoinPath(folder, id + ".new");
-    run.lock = Lock(making, O_CREAT);
-    if (run.lock >= 0 && ::rename(NativePath(making).c_str(), NativePath(JoinPath(folder, id + ".lock")).c_str()) == 0)
+    run.lock = Machine::Lock(NativePath(making), true);
+    if (run.lock >= 0 && Machine::Replace(NativePath(making), NativePath(JoinPath(folder, id + ".lock")), false) == 0)
         run.id = id;
 }
 
@@ -127,21 +119,20 @@ void WatchTool(int tool)
 static Text Now()
 {
     const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    ::localtime_r(&now, &local);
     char words[40];
-    std::strftime(words, sizeof words, "%Y-%m-%d %H:%M", &local);
+    std::strftime(words, sizeof words, "%Y-%m-%d %H:%M", std::localtime(&now));
     return words;
 }
 
 // What stands under a name. A save puts a new file in the place of the old one, so that it is never the same again.
 static Text MarkOf(const Text& name)
 {
-    struct stat status;
-    if (name.empty() || ::stat(NativePath(name).c_str(), &status) != 0)
+    const FileState state = name.empty() ? FileState() : Machine::StateOf(NativePath(name));
+    if (state == FileState())
         return "";
-    return std::to_string(status.st_ino) + " " + std::to_string(status.st_mtim.tv_sec) + " " +
-           std::to_string(status.st_mtim.tv_nsec);
+    constexpr int64_t second = 1'000'000'000;
+    return std::to_string(state.Number) + " " + std::to_string(state.Written / second) + " " +
+           std::to_string(state.Written % second);
 }
 
 // A new copy, and then the old one goes: at every moment there is a whole one.
@@ -210,6 +201,11 @@ void OweCopy()
         return;
     WriteCopy();
     run.copy[run.tool].owed = true;
+}
+
+bool SaveOwed()
+{
+    return run.tool != 0 && run.copy[run.tool].owed;
 }
 
 void DropCopy()
@@ -295,9 +291,12 @@ static bool Offer(const LeftCopy& left)
     const Text what = left.name.empty() ? "a new " + tool.Name + " file" : left.name;
     // The program may have ended at the end of a save, or another one may have saved it.
     const Text since = MarkOf(left.name) == left.mark ? "" : "  The file itself has been written since.";
-    const bool open = MsgBox("The program ended before " + what + " was saved.  A copy of " + left.time + " was kept." +
-                                 since + "  Would you like to open it?",
-                             YesNo, Question) == Yes;
+    const int answer = MsgBox("The program ended before " + what + " was saved.  A copy of " + left.time +
+                                  " was kept." + since + "  Would you like to open it?",
+                              YesNoCancel, Question);
+    if (answer == Cancel)
+        return false;
+    const bool open = answer == Yes;
     if (open) {
         tool.Open(JoinPath(run.folder, left.file), left.name);
         // It goes when this run has its own.
@@ -326,7 +325,7 @@ void OfferCopies()
     std::vector<LeftCopy> copies;
     for (const Text& name : FilesIn(run.folder, ".lock")) {
         const Text id = name.substr(0, name.size() - Text(".lock").size());
-        const int lock = id == run.id ? -1 : Lock(JoinPath(run.folder, name), 0);
+        const int lock = id == run.id ? -1 : Machine::Lock(NativePath(JoinPath(run.folder, name)), false);
         if (lock < 0)
             continue;
         ended.push_back({id, lock});
@@ -340,7 +339,7 @@ void OfferCopies()
     std::any_of(copies.begin(), copies.end(), Offer);
     for (const EndedRun& old : ended) {
         RemoveStrays(old.id);
-        ::close(old.lock);
+        Machine::Unlock(old.lock);
     }
 }
 
@@ -353,6 +352,6 @@ void EndRecovery()
         RemoveStrays(run.id);
     }
     if (run.lock >= 0)
-        ::close(run.lock);
+        Machine::Unlock(run.lock);
     run = RunRecord();
 }

@@ -39,13 +39,16 @@ void KeepCopy();
 void SaveDocument(void (*save)());
 // The user wished to save and it did not come to it: the copy is made anew and stays, as after a save that failed.
 void OweCopy();
+// The last save of the document in front has failed or was refused, and none has written it since.
+bool SaveOwed();
 // The user has dropped the changes: the answer No.
 void DropCopy();
 // Another document comes into the tool's boxes, or its window closes. The copy of a document whose save failed is left
 // for the next start.
 void LeaveDocument();
 // At the start: asks about what other runs have left, newest first, until the user has opened one. No takes the copy
-// away; a tool that is not there keeps its copies.
+// away; Cancel, which is also Escape and the closing of the box, keeps it for the next start, and a tool that is not
+// there keeps its copies.
 void OfferCopies();
 // The clean end.
 void EndRecovery();

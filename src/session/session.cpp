@@ -1,6 +1,8 @@
 // session.cpp -- the session variables and their start values.
 #include "session/session.h"
 
+#include "session/shared.h"
+
 Text ProjectPath;
 Text BoringFileName;
 int16_t FileChanged = 0;
@@ -13,3 +15,12 @@ int16_t LineCount = 0;
 const Text CrLf = "\r\n";
 Text WorkingFolder = ".";
 Text RunFolder = ".";
+
+static const SharedRecord shared[] = {
+    {"ProjectPath", Kind::Session, ProjectPath},  {"BoringFileName", Kind::Document, BoringFileName},
+    {"FileChanged", Kind::Document, FileChanged}, {"DeviceChanged", Kind::Session, DeviceChanged},
+    {"ActiveBox", Kind::Window, ActiveBox},       {"DialogMode", Kind::Window, DialogMode},
+    {"DialogResult", Kind::Window, DialogResult}, {"LineBuffer", Kind::Run, LineBuffer},
+    {"LineCount", Kind::Run, LineCount},          {"WorkingFolder", Kind::Session, WorkingFolder},
+    {"RunFolder", Kind::Run, RunFolder},
+};

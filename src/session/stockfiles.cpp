@@ -3,13 +3,13 @@
 
 #include "session/failure.h"
 #include "session/files.h"
+#include "session/machine.h"
 #include "session/platform.h"
 #include "session/session.h"
 
 #include <filesystem>
 #include <set>
 #include <system_error>
-#include <unistd.h>
 
 // Every set of stock files has the heading words.
 static constexpr char Sign[] = "us.hdg";
@@ -37,7 +37,7 @@ bool Installed()
     if (StockFolder() != folder)
         return true;
     // No probe is written: several programs may start at once from one folder.
-    return ::access(NativePath(folder).c_str(), W_OK) != 0;
+    return !Machine::Writable(NativePath(folder));
 }
 
 Text UserFolder()

@@ -2,6 +2,7 @@
 #include "session/text.h"
 
 #include "session/failure.h"
+#include "session/unicode.h"
 
 #include <charconv>
 #include <cmath>
@@ -267,24 +268,13 @@ std::string ToUtf8(std::string_view text)
     std::string utf8;
     utf8.reserve(text.size());
     for (const char letter : text) {
-        unsigned code = static_cast<unsigned char>(letter);
-        if (code >= 128 && code < 160)
-            code = HighCodes[code - 128];
-        if (code < 0x80)
-            utf8 += static_cast<char>(code);
-        else if (code < 0x800) {
-            utf8 += static_cast<char>(0xC0 | (code >> 6));
-            utf8 += static_cast<char>(0x80 | (code & 0x3F));
-        } else {
-            utf8 += static_cast<char>(0xE0 | (code >> 12));
-            utf8 += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
-            utf8 += static_cast<char>(0x80 | (code & 0x3F));
-        }
+        const unsigned code = static_cast<unsigned char>(letter);
+        AddUtf8(utf8, code >= 128 && code < 160 ? HighCodes[code - 128] : code);
     }
     return utf8;
 }
 
-static char FromUnicode(unsigned code)
+static char FromUnicode(char32_t code)
 {
     if (code < 128 || (code >= 160 && code < 256))
         return static_cast<char>(code);
@@ -298,17 +288,35 @@ static char FromUnicode(unsigned code)
 Text FromUtf8(std::string_view utf8)
 {
     Text text;
-    for (size_t i = 0; i < utf8.size();) {
-        const unsigned lead = static_cast<unsigned char>(utf8[i++]);
-        const int more = lead < 0xC0 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
-        unsigned code = more == 0 ? lead : lead & (0x3Fu >> more);
-        bool whole = more > 0 || lead < 0x80;
-        for (int k = 0; k < more && whole; ++k) {
-            whole = i < utf8.size() && (static_cast<unsigned char>(utf8[i]) & 0xC0) == 0x80;
-            if (whole)
-                code = (code << 6) | (static_cast<unsigned char>(utf8[i++]) & 0x3F);
-        }
-        text += FromUnicode(whole ? code : 0xFFFD);
-    }
+    for (size_t at = 0; at < utf8.size();)
+        text += FromUnicode(NextUtf8(utf8, at));
     return text;
+}
+
+void AddUtf8(std::string& utf8, char32_t character)
+{
+    const auto tail = [character](int shift) { return static_cast<char>(0x80 | ((character >> shift) & 0x3F)); };
+    if (character < 0x80)
+        utf8 += static_cast<char>(character);
+    else if (character < 0x800)
+        utf8 += {static_cast<char>(0xC0 | (character >> 6)), tail(0)};
+    else if (character < 0x10000)
+        utf8 += {static_cast<char>(0xE0 | (character >> 12)), tail(6), tail(0)};
+    else
+        utf8 += {static_cast<char>(0xF0 | (character >> 18)), tail(12), tail(6), tail(0)};
+}
+
+char32_t NextUtf8(std::string_view utf8, size_t& at)
+{
+    const unsigned lead = static_cast<unsigned char>(utf8[at++]);
+    const int more = lead < 0xC0 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
+    if (more == 0)
+        return lead < 0x80 ? lead : 0xFFFD;
+    char32_t character = lead & (0x3Fu >> more);
+    for (int k = 0; k < more; ++k) {
+        if (at >= utf8.size() || (static_cast<unsigned char>(utf8[at]) & 0xC0) != 0x80)
+            return 0xFFFD;
+        character = (character << 6) | (static_cast<unsigned char>(utf8[at++]) & 0x3F);
+    }
+    return character;
 }

@@ -138,6 +138,19 @@ TEST_CASE("a file whose name begins with a hyphen goes behind two hyphens")
     CHECK(line.Files.size() == 1);
 }
 
+TEST_CASE("a check takes any files, and an option without a word")
+{
+    CommandLine line = ReadCommandLine({"check", "a.BOR", "--all", "b.CRO"});
+    CHECK(line.Wrong == "");
+    CHECK(line.All);
+    CHECK(line.Files.size() == 2);
+    CHECK_FALSE(ReadCommandLine({"check", "a.BOR"}).All);
+    CHECK(ReadCommandLine({"check", "--", "--all"}).Files.size() == 1);
+    CHECK(ReadCommandLine({"check"}).Wrong == "no file given for check");
+    CHECK(ReadCommandLine({"log", "--all", "a.BOR"}).Wrong == "unknown option for log: --all");
+    CHECK(ReadCommandLine({"check", "--pdf", "a.pdf", "a.BOR"}).Wrong == "unknown option for check: --pdf");
+}
+
 TEST_CASE("the help has a usage line for each job")
 {
     CHECK(ReadCommandLine({"log", "--help"}).Help);
@@ -152,6 +165,7 @@ TEST_CASE("the help has a usage line for each job")
     CHECK(text.find("stratavue-batch gis-add --gis FILE [--home DIR] FILE.BOR...\n") != std::string::npos);
     CHECK(text.find("stratavue-batch gis-export --arcview OUT | --evs OUT [--home DIR] FILE.GIS\n") !=
           std::string::npos);
+    CHECK(text.find("stratavue-batch check [--all] [--home DIR] [--project DIR] FILE...\n") != std::string::npos);
     CHECK(text.find("soil             draws the soil analysis tables") != std::string::npos);
     CHECK(text.find("gis-add          adds borings") != std::string::npos);
 }

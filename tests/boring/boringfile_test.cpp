@@ -16,12 +16,12 @@ static void OpenText(const std::string& file)
     OpenBoringFile2();
 }
 
-static void CheckOneMessage(const Text& words)
+static void CheckOneMessage(const Text& words, Icon icon = NoIcon)
 {
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == words);
     CHECK(Messages[0].buttons == OkOnly);
-    CHECK(Messages[0].icon == NoIcon);
+    CHECK(Messages[0].icon == icon);
 }
 
 static BoringLines::Block Cells(int count, const Text& text = "c")
@@ -119,7 +119,7 @@ TEST_CASE("a file of another kind is refused, the record stays empty and the nam
     for (const char* const first : {"hello", "", "4.5", "4.60", " 5.0", "6.0"}) {
         Messages.clear();
         OpenText(Lines({first, "a", "b", "c"}));
-        CheckOneMessage("This boring file has an invalid format.");
+        CheckOneMessage("This boring file has an invalid format.", Exclamation);
         CHECK(BoringData.Name == "");
         CHECK(BoringFileName == Scratch("B.BOR"));
     }
@@ -140,11 +140,11 @@ TEST_CASE("a 4.6 file is told and goes to its own reader")
 TEST_CASE("a form without a reader is refused like a foreign file")
 {
     OpenText(Lines({"4.6", "B-1"}));
-    CheckOneMessage("This boring file has an invalid format.");
+    CheckOneMessage("This boring file has an invalid format.", Exclamation);
     Messages.clear();
     DialogMode = 1;
     OpenBoringFile2();
-    CheckOneMessage("This boring file has an invalid format.");
+    CheckOneMessage("This boring file has an invalid format.", Exclamation);
 }
 
 TEST_CASE("the version chosen in the chooser wins, and the file is not looked at")

@@ -153,3 +153,45 @@ TEST_CASE("an import of a file that is not there is reported and leaves the desc
     CHECK(Messages[0].words == "Error 53 in ImportDesc.  Please contact Norvane");
     CHECK(frmBorinput::MemoDes.text == "as typed");
 }
+
+// A word whose width is above the first number and not above the second.
+static Text WordOfWidth(int64_t above, int64_t most)
+{
+    // Widths of letters are near multiples of one another, and those of these two signs are not.
+    for (int quotes = 0; quotes < 20; ++quotes)
+        for (int bars = 0; bars < 20; ++bars)
+            for (int64_t a = 0; a < 100; ++a) {
+                const int64_t width = quotes * AdvanceWidth('"') + bars * AdvanceWidth('|') + a * AdvanceWidth('a');
+                if (width > above && width <= most)
+                    return Text(size_t(quotes), '"') + Text(size_t(bars), '|') + Text(size_t(a), 'a');
+            }
+    return "";
+}
+
+TEST_CASE("before any boring or layout has set a width, each text box breaks its lines where its designed width does")
+{
+    struct Designed {
+        Memo& box;
+        int kind, twips, twipsPerInch, points;
+    };
+    const Designed boxes[] = {{frmBorinput::MemoDes, 1, 4205, 1550, 8},
+                              {frmBorinput::MemoWcon, 2, 3249, 1750, 7},
+                              {frmBorinput::MemoRemarks, 3, 2223, 1750, 7},
+                              {frmSoil::MemoSoil, 4, 6800, 1550, 8},
+                              {frmBorinput::MemoBottNotes, 5, 8010, 1750, 7}};
+    for (const Designed& one : boxes) {
+        CAPTURE(one.kind);
+        const auto room = [&one](int more) { return BoxRoom(one.twips + more, one.twipsPerInch, one.points); };
+        const auto lines = [&one](const Text& word) {
+            one.box.text = word;
+            Text2Wrap32(one.kind);
+            return int(LineCount);
+        };
+        // What a box of two twips less would not hold, and what only a box of two twips more would.
+        const Text fits = WordOfWidth(room(-2), room(0)), tooWide = WordOfWidth(room(0), room(2));
+        REQUIRE_FALSE(fits.empty());
+        REQUIRE_FALSE(tooWide.empty());
+        CHECK(lines(fits) == 1);
+        CHECK(lines(tooWide) == 2);
+    }
+}

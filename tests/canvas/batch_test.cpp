@@ -3,6 +3,7 @@
 
 #include "testing.h"
 
+#include "canvas/metaugl.h"
 #include "canvas/screenview.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
@@ -225,17 +226,103 @@ TEST_CASE("an empty selection leaves the dialog open and log.mas as it was")
     CHECK(dialogBusy == 0);
 }
 
-TEST_CASE("more than 200 selected files are a subscript failure")
+// So many files of the dialog, all marked.
+static void Mark(int job, int files, const char* name)
 {
-    jobCode = 3;
+    jobCode = static_cast<int16_t>(job);
     DrawPrintLoad();
-    Dialog.FileCount = 201;
-    for (int i = 1; i <= 201; ++i) {
-        Dialog.File1[i] = "a.CRO";
+    Dialog.FileCount = files;
+    for (int i = 1; i <= files; ++i) {
+        Dialog.File1[i] = name;
         Dialog.Selected[i] = true;
     }
+}
+
+static std::vector<int> parts; // the count of log.mas at each start of the job
+static void NotePart()
+{
+    parts.push_back(LineReader(MasFile()).Count());
+    RunPages.pageIndex = RunPages.pageCount;
+}
+
+TEST_CASE("more than 200 files are drawn 200 at a time, and printed in one print run")
+{
+    parts.clear();
+    JobTable[3] = JobTable[4] = NotePart;
+    Mark(3, 305, "a.CRO");
     DrawPrintOk();
-    CheckOneMessage("Error 9 in DrawPrintOk.  Please contact Norvane");
+    CHECK(parts == std::vector<int>{200, 105});
+    parts.clear();
+    Mark(4, 401, "a.CRO");
+    DrawPrintOk();
+    CHECK(parts == std::vector<int>{200, 200, 1});
+    CHECK(PlainRunsEnded == 1);
+    CHECK(Messages.empty());
+}
+
+TEST_CASE("borings of more than 500 pages are drawn in as many parts as their pages need, each boring in one of them")
+{
+    parts.clear();
+    JobTable[1] = NotePart;
+    WriteBoring("a.BOR", "70", "10"); // 7 pages
+    WriteHeading("Page, of");
+    Mark(1, 150, "a.BOR");
+    DrawPrintOk();
+    CHECK(parts == std::vector<int>{71 * 7, 71 * 7, 8 * 7});
+    CHECK(Messages.empty());
+}
+
+TEST_CASE("a run in parts that the user ends, or that breaks off, ends with its part")
+{
+    parts.clear();
+    JobTable[3] = [] {
+        NotePart();
+        ExitRun();
+    };
+    Mark(3, 305, "a.CRO");
+    DrawPrintOk();
+    CHECK(parts.size() == 1);
+    JobTable[3] = [] {
+        NotePart();
+        RunPages.pageCount = 200;
+        RunPages.pageIndex = 7;
+    };
+    Mark(3, 305, "a.CRO");
+    DrawPrintOk();
+    CHECK(parts.size() == 2);
+    CHECK(Messages.empty());
+}
+
+TEST_CASE("a file in a later part that cannot be cut into pages is told before anything is drawn")
+{
+    parts.clear();
+    JobTable[1] = NotePart;
+    WriteBoring("a.BOR", "50", "0");
+    WriteHeading("Page, of");
+    WriteScratch("short.BOR", Lines({"5.0", "short"}));
+    Mark(1, 305, "a.BOR");
+    Dialog.File1[300] = "short.BOR";
+    DrawPrintOk();
+    CheckOneMessage("Error 62 in DrawPrintOk.  Please contact Norvane");
+    CHECK(parts.empty());
+}
+
+TEST_CASE("an export or a conversion of more than 200 files is told in words, and nothing is begun")
+{
+    for (const int job : {10, 11, 12}) {
+        parts.clear();
+        Messages.clear();
+        JobTable[job] = NotePart;
+        Mark(job, 305, "a.BOR");
+        DrawPrintOk();
+        CheckOneMessage("305 chosen, 200 possible");
+        CHECK(Messages[0].icon == Exclamation);
+        CHECK_FALSE(Dialog.Unloaded);
+        CHECK(parts.empty());
+        Mark(job, 200, "a.BOR");
+        DrawPrintOk();
+        CHECK(parts == std::vector<int>{200});
+    }
 }
 
 TEST_CASE("a dialog's failure is told under its own name")
@@ -564,4 +651,20 @@ TEST_CASE("a conversion prints nothing and ends no print run")
     frmDrawPrint::Command1();
     CHECK(RunPages.printing == 0);
     CHECK(PlainRunsEnded == 0);
+}
+
+TEST_CASE("a polygon that an earlier run has left half-way is no part of the next one")
+{
+    static int corners;
+    for (const int job : {1, 9}) {
+        PageCanvas.polyCount = 4;
+        corners = -1;
+        JobTable[job] = [] { corners = PageCanvas.polyCount; };
+        WriteBoring("A.BOR", "50", "20");
+        jobCode = static_cast<int16_t>(job);
+        singleFile = 1;
+        singleFileName = "A.BOR";
+        DrawPrintOk();
+        CHECK(corners == 0);
+    }
 }

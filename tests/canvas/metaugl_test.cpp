@@ -391,6 +391,18 @@ TEST_CASE("a new page resets text, pen width and fill but not the pen, the origi
     CHECK(PageCanvas.fillFile == PageCanvas.fillsDir + "F01.BMP");
 }
 
+TEST_CASE("a new page begins solid, black and not bold, whatever the page before has ended in")
+{
+    StartPage();
+    setlinestyle(5);
+    setcolor(9);
+    textboldon();
+    canvasstart("P");
+    CHECK(PageList.Default.PenStyle == 0);
+    CHECK(PageList.Default.PenColor == 0);
+    CHECK_FALSE(PageList.Default.Bold);
+}
+
 TEST_CASE("moveto takes a target on each edge of the sheet and none beyond it")
 {
     StartPage();

@@ -3,8 +3,21 @@
 #include "convert/gtgsprt.h"
 #include "convert/winlog.h"
 
+#include "boring/boringdata.h"
+#include "logrender/boringtext.h"
 #include "session/files.h"
 #include "session/platform.h"
+
+#include <sys/syscall.h>
+#include <unistd.h>
+
+// Every wait for the disk, counted on its way to the system.
+static int waits;
+extern "C" int fsync(int handle)
+{
+    ++waits;
+    return int(::syscall(SYS_fsync, handle));
+}
 
 static Text Refusal(const Text& name)
 {
@@ -46,4 +59,35 @@ TEST_CASE("a conversion does not write through a link into the file that it read
     CHECK(Told() == std::vector<Text>{Refusal("ordinary.PRT"), "All .PRT Files Converted"});
     CHECK(ReadScratch("ordinary.PRT") == bytes);
     CHECK(ReadScratch("x.bor") == ConvertData("prt/kept/early.bor"));
+}
+
+TEST_CASE("a converted boring has no blank report parts behind its last one, be they empty or of blanks")
+{
+    CopyData("log");
+    WinLogTemplate = Scratch("T.BOR");
+    const auto parts = [](std::vector<std::vector<Text>> given) {
+        BoringText boring;
+        boring.RepParts = given;
+        WriteBoring("T.BOR", boring);
+        Messages.clear();
+        Run(ConvertWinLog, {"ordinary.LOG"});
+        CHECK(Told() == std::vector<Text>{"All .LOG Files Converted"});
+        Open("ordinary.bor");
+        return BoringData.RepPartCount;
+    };
+    CHECK(parts({{"depth scale", "0.4"}, {"uscs", "0.25"}}) == 2);
+    CHECK(parts({{"depth scale", "0.4"}, {"   ", "0.25"}, {"", ""}}) == 1);
+    CHECK(parts({{"", ""}, {"uscs", "0.25"}, {" ", ""}}) == 2);
+    CHECK(parts({{" ", "1"}}) == 0);
+    CHECK(parts({{"", ""}, {"  ", ""}}) == 0);
+}
+
+TEST_CASE("a conversion waits for the disk where it replaces a boring, and does not where it makes one")
+{
+    CopyData("log");
+    waits = 0;
+    Run(ConvertWinLog, {"ordinary.LOG"});
+    CHECK(waits == 0);
+    Run(ConvertWinLog, {"ordinary.LOG"});
+    CHECK(waits > 0);
 }

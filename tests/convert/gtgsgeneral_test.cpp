@@ -67,6 +67,24 @@ TEST_CASE("fields go where the map says, trimmed, and the well information grows
     CHECK(BoringData.WellInfo[1][1] == "");
 }
 
+TEST_CASE("the well information grows to the highest row that a map names, in whatever order it names them")
+{
+    for (const auto& [first, second] : {std::pair<int, int>(7, 3), {3, 7}, {7, 7}}) {
+        OwnMap();
+        GtgsMapping.fixedFields = 0;
+        GtgsMapping.fieldSpec = 1;
+        GtgsMapping.fieldMap[1] = {WellConstInfo, int16_t(first)};
+        GtgsMapping.fieldMap[2] = {WellConstInfo, int16_t(second)};
+        WriteScratch("headers.txt", "one,two");
+        ConvertGTGSGeneral(Scratch("x.bor"));
+        Open("x.bor");
+        CHECK(BoringData.WellInfoCount == 7);
+        CHECK(BoringData.WellInfo[second][2] == "two");
+        std::filesystem::remove_all(ScratchFolder());
+        std::filesystem::create_directories(ScratchFolder());
+    }
+}
+
 TEST_CASE("fill codes are translated by the first row that fits, and others stay; blank lines are skipped")
 {
     UseMap("comma.GCV");
@@ -77,6 +95,20 @@ TEST_CASE("fill codes are translated by the first row that fits, and others stay
     for (int row = 1; row <= 4; ++row)
         CHECK(BoringData.Lith[row][2] == soils[row - 1]);
     CHECK(BoringData.Lith[2][1] == "9.0");
+}
+
+TEST_CASE("a row of the fills without a code fits no contact, not even one that has none either")
+{
+    OwnMap();
+    GtgsMapping.fillMap[1] = {"  ", "XX"};
+    GtgsMapping.fillMap[2] = {"7", "YY"};
+    WriteScratch("lith.txt", "5\r\n9 7\r\n");
+    ConvertGTGSGeneral(Scratch("x.bor"));
+    Open("x.bor");
+    REQUIRE(BoringData.LithCount == 2);
+    CHECK(BoringData.Lith[1][1] == "5");
+    CHECK(BoringData.Lith[1][2] == "");
+    CHECK(BoringData.Lith[2][2] == "YY");
 }
 
 TEST_CASE("well lines begin with cap, case, seal or fseal, and the value takes the rest")
@@ -368,6 +400,33 @@ TEST_CASE("a map that ends early is error 62, and shows what was read of it")
     CHECK(Told() == std::vector<Text>{"Error 62 in OpenGTGSConversionFile.  Please contact Norvane"});
     CHECK(Dialog.Text2 == "/p");
     CHECK(SS1.Cell(1, 1) == "Boring Name");
+}
+
+TEST_CASE("a map saved unchanged behind another one is as in a fresh program, also one that breaks off or is not there")
+{
+    CopyData("general");
+    const std::string second = ReadScratch("fixed.GCV");
+    const auto saved = [](const std::string& bytes) {
+        if (bytes.empty())
+            std::filesystem::remove(Scratch("b.GCV"));
+        else
+            WriteScratch("b.GCV", bytes);
+        Choose(Scratch("b.GCV"));
+        frmGTGSGenEditor::mnuOpenGTGSConvFile();
+        CHECK(frmGTGSGenEditor::mnuSaveGTGSConvFile());
+        return ReadScratch("b.GCV");
+    };
+    for (size_t end = 0; end != Text::npos && end <= second.size();) {
+        const std::string bytes = second.substr(0, end);
+        CAPTURE(bytes);
+        frmGTGSGenEditor::Load();
+        const std::string fresh = saved(bytes);
+        frmGTGSGenEditor::Load();
+        Choose(Scratch("comma.GCV"));
+        frmGTGSGenEditor::mnuOpenGTGSConvFile();
+        CHECK(saved(bytes) == fresh);
+        end = end == second.size() ? Text::npos : second.find("\r\n", end) + 2;
+    }
 }
 
 TEST_CASE("the new file is named by its box, with the ending, in the folder of the tables; GTGS1.BOR when it is blank")
@@ -710,4 +769,26 @@ TEST_CASE("another map is opened once the one in the boxes has been asked about:
     CHECK(ReadScratch("fixed.GCV").starts_with("typed\r\n"));
     CHECK(Dialog.File == Scratch("comma.GCV"));
     CHECK(Dialog.Text1 == "template");
+}
+
+TEST_CASE("a map from outside is opened after the same question, and one that is refused leaves no name to save under")
+{
+    CopyData("general");
+    OpenMap("comma.GCV");
+    Dialog.Text1 = "typed";
+    Answers = {Cancel};
+    frmGTGSGenEditor::OpenNamed(Scratch("fixed.GCV"));
+    CHECK(Told() == std::vector<Text>{opening});
+    CHECK(Dialog.Text1 == "typed");
+    Answers = {No};
+    frmGTGSGenEditor::OpenNamed(Scratch("fixed.GCV"));
+    CHECK(Dialog.File == Scratch("fixed.GCV"));
+    CHECK(Dialog.Title == "GTGS General Conversion Editor - " + Scratch("fixed.GCV"));
+    WriteScratch("cut.GCV", "one line\r\n");
+    frmGTGSGenEditor::OpenNamed(Scratch("cut.GCV"));
+    CHECK(Messages.back().words == "Error 62 in OpenGTGSConversionFile.  Please contact Norvane");
+    CHECK(Dialog.File == "");
+    CHECK(Dialog.Title == "GTGS General Conversion Editor");
+    CHECK(frmGTGSGenEditor::mnuExit()); // nothing has been typed
+    CHECK(ReadScratch("cut.GCV") == "one line\r\n");
 }

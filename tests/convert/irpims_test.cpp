@@ -62,6 +62,17 @@ TEST_CASE("a date without a comma is both dates")
     CHECK(Fields("timbore.txt", 1)[12] == "6/1/99");
 }
 
+TEST_CASE("the depth of a boring is that of its last contact, without the blanks before it")
+{
+    CopyData("irpims");
+    lastDir = ScratchFolder();
+    BoringText boring;
+    boring.Lith = {{"1", "SM"}, {"  12.5", "CL"}};
+    WriteBoring("B-9.BOR", boring);
+    Run(Export2IRPIMS, {"B-9.BOR"});
+    CHECK(Fields("timbore.txt", 1)[9] == "12.5");
+}
+
 TEST_CASE("a boring without contacts has an empty depth and no lines of lithology")
 {
     Export({"B-3.BOR"});
@@ -86,6 +97,34 @@ TEST_CASE("descriptions by depth are found by the number, and the first block th
     CHECK(Fields("timlith.txt", 2)[8] == Text(70, 'w'));
     CHECK(Fields("timlith.txt", 2)[9] == "w");
     CHECK(Fields("timlith.txt", 3)[8] == "");
+}
+
+TEST_CASE("the first line of a description alone decides whether it goes by contacts or by depths")
+{
+    CopyData("irpims");
+    lastDir = ScratchFolder();
+    BoringText boring;
+    boring.Lith = {{"1", "SM"}, {"2", "CL"}};
+    const auto descriptions = [&boring](std::vector<Text> lines) {
+        boring.Des = lines;
+        WriteBoring("B-9.BOR", boring);
+        Run(Export2IRPIMS, {"B-9.BOR"});
+        return std::vector<Text>{Fields("timlith.txt", 1)[8], Fields("timlith.txt", 2)[8]};
+    };
+    const std::vector<Text> contacts{"@1\xB6", "sand\xB6", "@2\xB6", "clay\xB6"};
+    const std::vector<Text> depths{".L=2\xB6", "depth two\xB6", ".l=1\xB6", "depth one\xB6"};
+    const auto joined = [](std::vector<Text> first, const std::vector<Text>& rest) {
+        first.insert(first.end(), rest.begin(), rest.end());
+        return first;
+    };
+    CHECK(descriptions(contacts) == std::vector<Text>{"sand", "clay"});
+    CHECK(descriptions(depths) == std::vector<Text>{"depth one", "depth two"});
+    // Both kinds in one text: what stands first counts, and the lines of the other kind are text.
+    CHECK(descriptions(joined(depths, contacts)) == std::vector<Text>{"depth one@1sand@2clay", "depth two"});
+    CHECK(descriptions(joined(contacts, depths)) == std::vector<Text>{"sand", "clay.L=2depth two.l=1depth one"});
+    // A line of neither kind in front: by depths, although the next one is a contact's.
+    CHECK(descriptions(joined({"remark\xB6"}, contacts)) == std::vector<Text>{"", ""});
+    CHECK(descriptions(joined({"", "@1\xB6", "sand\xB6"}, depths)) == std::vector<Text>{"depth one", "depth two"});
 }
 
 TEST_CASE("the greatest end of the inner layers counts as a number, 0 without layers")

@@ -96,6 +96,7 @@ TEST_CASE("a template of a wrong format is told, and the conversion goes on with
     Write("x.LOG", "ordinary.LOG", {});
     Run(ConvertWinLog, {"x.LOG"});
     CHECK(Told() == std::vector<Text>{"This boring file has an invalid format.", done});
+    CHECK(Messages[0].icon == Exclamation);
     Open("x.bor");
     CHECK(BoringData.Name == "B-21");
 }
@@ -144,6 +145,13 @@ TEST_CASE("a fourth line that is no elevation is itself tested for the page dept
     ConvertChanged("nopage.LOG", {});
     CHECK(BoringData.Name == "B-21");
     CHECK(BoringData.Scale[1] == "");
+}
+
+TEST_CASE("a fourth line is an elevation by its whole key alone")
+{
+    ConvertChanged("ordinary.LOG", {{"Elev=101.5", "Elevation=101.5"}});
+    CHECK(BoringData.Scale[5] == "");
+    CHECK(BoringData.Scale[1] == "50");
 }
 
 TEST_CASE("headers are name, client and information, and the next section goes on behind them")
@@ -218,6 +226,21 @@ TEST_CASE("well layers inside and outside go together, with the fills of their p
     CHECK(BoringData.OuterLayers[1][5] == "F7");
     CHECK(BoringData.OuterLayers[2][5] == "");
     CHECK(BoringData.OuterLayers[3][5] == "F41");
+}
+
+TEST_CASE("lengths under one top add up, each going on where the one before has ended")
+{
+    ConvertChanged("ordinary.LOG", {{"Length2=7.5", "Length2=2.25\r\nLength2=1.5\r\nPipe Code2=1\r\nLength2=3.75"}});
+    CHECK(BoringData.OuterLayers[1][2] == "5");
+    CHECK(BoringData.OuterLayers[2][1] == "5");
+    CHECK(BoringData.OuterLayers[2][2] == "12.5");
+    CHECK(BoringData.InnerLayers[2][2] == "12.5");
+    // The next top is where it says, wherever the one before has come to.
+    CHECK(BoringData.OuterLayers[3][1] == "12.5");
+    CHECK(BoringData.OuterLayers[3][2] == "13.5");
+    ConvertChanged("ordinary.LOG", {{"Length2=7.5", "Length2=0.1\r\nLength2=0.2"}, {"Top3=12.5", "Top3=20"}});
+    CHECK(BoringData.OuterLayers[2][2] == "5.3");
+    CHECK(BoringData.OuterLayers[3][2] == "21");
 }
 
 TEST_CASE("every packing code has its fill, and others none")

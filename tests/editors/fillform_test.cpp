@@ -183,7 +183,10 @@ TEST_CASE("New empties every box and the record, and the flag")
     CHECK_FALSE(Check1);
     CHECK(Option == 0);
     CHECK(lblWidthtot == "       ");
-    CHECK(SSSamp.headings[6] == "");
+    CHECK(SSSamp.headings[6] == "Param. 1");
+    CHECK(SSSamp.headings[21] == "Param. 16");
+    CHECK(SSPar.headings[2] == "Param. 1");
+    CHECK(SSPar.headings[21] == "Param. 20");
     CHECK(BoringData.Name == "");
     CHECK(FileChanged == 0);
 }
@@ -444,4 +447,66 @@ TEST_CASE("a style beyond the four switches no option on")
         FillBoringForm();
         CHECK(Option == option);
     }
+}
+
+TEST_CASE("a boring that was never saved has no page; another one has those of its scale")
+{
+    ClearBoringForm();
+    CHECK(PageWords() == "no page");
+    SSScale.Cell(1, 1) = "40";
+    SSScale.Cell(3, 1) = "20";
+    CHECK(PageWords() == "no page");
+    BoringFileName = "B.BOR";
+    CHECK(PageWords() == "2 pages");
+    SSScale.Cell(3, 1) = "";
+    CHECK(PageWords() == "1 page");
+}
+
+TEST_CASE("behind the layout editor the page of the layout in use counts again, as it is by then")
+{
+    WriteScratch("mine.lay", "1\n10\n");
+    ClearBoringForm();
+    cmbLayFile = Scratch("mine.lay");
+    LayoutFileChange();
+    WidthAfter("REMARKS", "2");
+    CHECK(lblWidthtot == "2/9.2");
+    CHECK(MemoBottNotes.widthTwips == 6200);
+    FileChanged = 0;
+    EditLayouts([] { LayoutData.Orientation = 2; }); // another one was looked at
+    CHECK(lblWidthtot == "2/9.2");
+    EditLayouts([] {
+        LayoutData.Orientation = 2;
+        WriteScratch("mine.lay", "0\n11\n");
+    });
+    CHECK(lblWidthtot == "2/6.8");
+    CHECK(MemoBottNotes.widthTwips == 8010);
+    CHECK(FileChanged == 0);
+}
+
+TEST_CASE("behind the layout editor a boring without a layout file has the page that it had")
+{
+    ClearBoringForm();
+    LayoutData.Orientation = 0;
+    WidthAfter("REMARKS", "2");
+    EditLayouts([] { LayoutData.Orientation = 1; });
+    CHECK(lblWidthtot == "2/6.8");
+    ClearBoringForm();
+    EditLayouts([] { LayoutData.Orientation = 1; });
+    CHECK(lblWidthtot == "       ");
+}
+
+TEST_CASE("a change of the font marks a boring as changed, but not an empty one")
+{
+    Platform.ShowGraphicsSetup = ResetTextBoxes;
+    ClearBoringForm();
+    CHECK(BoringEmpty());
+    SetUpGraphics(BoringEmpty());
+    CHECK(FileChanged == 0);
+    MemoRemarks.text = "x";
+    CHECK_FALSE(BoringEmpty());
+    SetUpGraphics(BoringEmpty());
+    CHECK(FileChanged == 1);
+    MemoRemarks.text = "";
+    SSLegend.Cell(30, 2) = "x";
+    CHECK_FALSE(BoringEmpty());
 }

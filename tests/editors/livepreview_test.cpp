@@ -3,6 +3,7 @@
 
 #include "boring/boringboxes.h"
 #include "canvas/batch.h"
+#include "canvas/pageobjects.h"
 #include "canvas/screenview.h"
 #include "editors/borinput.h"
 #include "logrender/vlog.h"
@@ -129,4 +130,84 @@ TEST_CASE("on upright, landscape and wide pages, with headings turned or not, a 
     }
     CHECK(contacts > 40);
     Messages.clear();
+}
+
+static bool operator==(const PageObject& a, const PageObject& b)
+{
+    return a.Kind == b.Kind && a.X1 == b.X1 && a.Y1 == b.Y1 && a.X2 == b.X2 && a.Y2 == b.Y2 && a.String == b.String;
+}
+
+static std::vector<PageObject> previewed;
+
+static void Preview()
+{
+    previewed.clear();
+    PlainShowPage = [] {
+        previewed = PageList.Objects;
+        ExitRun();
+    };
+    frmBorinput::mnuPreview();
+}
+
+TEST_CASE("the live page prints the name of the document, and not that of the copy that it is drawn from")
+{
+    OpenSample();
+    LivePage page;
+    REQUIRE(DrawLivePage(1, Scratch("live"), page));
+    CHECK(Holds(page, "   " + Text(SOURCE_DIR) + "/samples/TC-101.BOR"));
+    CHECK_FALSE(RunPages.printedName);
+    BoringFileName = "";
+    REQUIRE(DrawLivePage(1, Scratch("live"), page));
+    CHECK_FALSE(Holds(page, ".BOR"));
+}
+
+TEST_CASE("the live page of an unchanged boring has the lines of its file, wherever they were cut")
+{
+    OpenSample();
+    std::string bytes = ReadWholeFile(Text(SOURCE_DIR) + "/samples/TC-101.BOR");
+    // The first word of a line to the end of the line above.
+    const size_t lines = bytes.find("\r\n@1");
+    const size_t end = bytes.find("\r\n", bytes.find("\r\n", lines + 2) + 2);
+    const size_t word = bytes.find(' ', end + 2) + 1;
+    REQUIRE(word - end < 20);
+    bytes = bytes.substr(0, end) + bytes.substr(end + 2, word - end - 2) + "\r\n" + bytes.substr(word);
+    WriteScratch("CUT.BOR", bytes);
+    frmBorinput::OpenNamed(Scratch("CUT.BOR"));
+    LivePage page;
+    REQUIRE(DrawLivePage(1, Scratch("live"), page));
+    Preview();
+    CHECK(page.List.Objects == previewed);
+    const std::vector<PageObject> asInFile = previewed;
+    // Changed, it is what Preview shows behind its save.
+    FileChanged = 1;
+    REQUIRE(DrawLivePage(1, Scratch("live"), page));
+    CHECK_FALSE(page.List.Objects == asInFile);
+    Preview();
+    CHECK(page.List.Objects == previewed);
+    // What is typed is shown also where the flag says nothing of it.
+    frmBorinput::MemoDes.text.insert(4, "purple ");
+    FileChanged = 0;
+    REQUIRE(DrawLivePage(1, Scratch("live"), page));
+    CHECK(Holds(page, "purple"));
+    Messages.clear();
+}
+
+TEST_CASE("the live page of a later page is that of the whole log")
+{
+    OpenSample();
+    for (int number = 1; number <= 3; ++number) {
+        CAPTURE(number);
+        LivePage page;
+        REQUIRE(DrawLivePage(number, Scratch("live"), page));
+        static int wanted;
+        wanted = number;
+        PlainShowPage = [] {
+            previewed = PageList.Objects;
+            RunPages.pageIndex = static_cast<int16_t>(RunPages.pageIndex + 1 == wanted ? RunPages.pageCount + 1
+                                                                                       : RunPages.pageIndex + 1);
+        };
+        frmBorinput::mnuPreview();
+        if (page.Page == number)
+            CHECK(page.List.Objects == previewed);
+    }
 }

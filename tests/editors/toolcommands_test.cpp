@@ -162,7 +162,8 @@ TEST_CASE("a table of the workbench opened without its ending has the whole name
 TEST_CASE("a table of the workbench that is not there keeps its name as typed, and is told with its ending")
 {
     Prepare(GisForm);
-    ToolOpenNamed(GisForm, Folder("NONE"));
+    chosen = Folder("NONE");
+    ToolOpen(GisForm);
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "GIS File Not Found: " + Folder("NONE.gis"));
     CHECK(Messages[0].icon == Exclamation);

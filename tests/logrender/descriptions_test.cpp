@@ -177,14 +177,14 @@ TEST_CASE("carried text stays off a page that its unit fills, and is let out on 
     CHECK(BreakFile() == "N");
 }
 
-TEST_CASE("a flag left by the boring before takes the room of the first text of the next boring, but not the text")
+TEST_CASE("a flag left by the boring before counts for nothing on the first page of the next")
 {
     StartColumn();
     SetContacts({1, 30});
     SetLines({"@1", "a", "b", "c"});
     WriteBreak("Y");
     VLOG::drawdes();
-    CHECK(Drawn(Box)[0] == "line 0,60 1200,60");
+    CHECK(Drawn(Box)[0] == "line 0,60 30,240");
     CHECK(DrawnTexts() == Drawing{" W12 ", "a", "b", "c"});
     CHECK(BreakFile() == "Y");
 }

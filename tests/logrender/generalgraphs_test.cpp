@@ -63,10 +63,27 @@ static void SetFileGraph(std::string_view bytes)
 
 TEST_CASE("a general graph draws circles for the values of a data file too")
 {
-    SetFileGraph(Lines({"1 5", "2 10,0,3", "3"}));
+    SetFileGraph(Lines({"1 5", "2 10", "3"}));
     VLOG::drawgpargraph();
     CHECK(Drawn(12) == Drawing{"circle 180,60 12", "line 180,60 330,120", "circle 330,120 12"});
     CHECK(EndsAtBaseline(0.6f));
+}
+
+TEST_CASE("a general graph draws a value of a data file with its two ends as a dot with a bar")
+{
+    SetFileGraph(Lines({"1 5", "2 6", "4 5,0,10", "5 2", "6 4,9", "7 5"}));
+    VLOG::drawgpargraph();
+    CHECK(Drawn(12) == Drawing{"circle 180,60 12", "line 180,60 210,120", "circle 210,120 12", "dot 180,240 18",
+                               "line 30,210 30,270", "line 30,240 330,240", "line 330,210 330,270", "circle 90,300 12",
+                               "circle 150,360 12", "line 150,360 180,420", "circle 180,420 12"});
+    CHECK(EndsAtBaseline(0.6f));
+}
+
+TEST_CASE("the graphs of a data file of commas join the points on both sides of a field of blanks")
+{
+    SetFileGraph(Lines({"1,5", "2, ", "3,10"}));
+    VLOG::drawgpargraph();
+    CHECK(Drawn(12) == Drawing{"circle 180,60 12", "line 180,60 330,180", "circle 330,180 12"});
 }
 
 TEST_CASE("a general graph without its data file has its heading, axis and box")

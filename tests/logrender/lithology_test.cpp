@@ -152,7 +152,7 @@ TEST_CASE("the label of a unit that ends at the page's start is left out")
     CHECK(Drawn(LettersFront) == Drawing{"line 0,0 150,0", "line 0,600 150,600", "text 75,300 7pt  SP  centred"});
 }
 
-TEST_CASE("a gradational contact is a wave under the fill, for D and for N")
+TEST_CASE("a gradational contact is a wave over the fills on both its sides, for D and for N")
 {
     for (const char* type : {"D", "n"}) {
         StartUnits(true, {"GW", "SP"});
@@ -160,10 +160,27 @@ TEST_CASE("a gradational contact is a wave under the fill, for D and for N")
         VLOG::drawuscs();
         const Drawing drawn = Drawn(GraphicFront);
         REQUIRE(drawn.size() == 4);
-        CHECK(drawn[0] == "arc 38,622 0,600 from 75,600 to 0,600");
-        CHECK(drawn[1] == "arc 112,578 150,600 from 75,600 to 150,600");
-        CHECK(drawn[2] == "polygon 0,600 150,600 150,0 0,0 F21");
+        CHECK(drawn[0] == "polygon 0,600 150,600 150,0 0,0 F21");
+        CHECK(drawn[1] == "polygon 0,1200 150,1200 150,600 0,600 F26");
+        CHECK(drawn[2] == "arc 38,622 0,600 from 75,600 to 0,600");
+        CHECK(drawn[3] == "arc 112,578 150,600 from 75,600 to 150,600");
     }
+}
+
+TEST_CASE("the waves of a graphic column lie on all its fills, contact by contact from the first")
+{
+    StartUnits(true, {"GW", "GW-GM", "", "SP"});
+    LogBoring.Contacts[1].LineType = LogBoring.Contacts[2].LineType = "D";
+    LogBoring.Contacts[2].Color = "red";
+    LogBoring.Contacts[3].LineType = "N";
+    VLOG::drawuscs();
+    CHECK(Drawn(GraphicFront + 4) ==
+          Drawing{"arc 38,622 0,600 from 75,600 to 0,600", "arc 112,578 150,600 from 75,600 to 150,600",
+                  "arc 38,1222 0,1200 from 75,1200 to 0,1200", "arc 112,1178 150,1200 from 75,1200 to 150,1200",
+                  "arc 38,1822 0,1800 from 75,1800 to 0,1800", "arc 112,1778 150,1800 from 75,1800 to 150,1800"});
+    for (size_t i = 0; i < GraphicFront + 4; ++i)
+        CHECK(PageList.Objects[i].Kind != ObjectKind::Arc);
+    CHECK(Messages.empty());
 }
 
 TEST_CASE("the page's last contact gets no wave, nor does any in letters")

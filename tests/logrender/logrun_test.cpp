@@ -4,6 +4,7 @@
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "canvas/screenview.h"
+#include "canvas/viewcommands.h"
 #include "columnpage.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
@@ -249,4 +250,234 @@ TEST_CASE("a run starts with no depth span of the run before")
     VLOG::vlogstart();
     CHECK(LogGeometry.BottomSpan == 0);
     CHECK(LogGeometry.BottomDepth == 0);
+}
+
+// ---- The same page however it is asked for
+
+// A boring in pages of 20 feet. Its second unit reaches over the first break: the text prints on page 1, and on page 2
+// no more. Every unit is thin, so that the boxes show who wants room.
+static BoringText CarryingBoring()
+{
+    BoringText boring = StartRun({{"DEP", ".4"}, {"descriptions", "4"}, {"uscs", ".4"}, {"graphic", ".4"}},
+                                 {{"17", "GW"}, {"22", "SP"}, {"23", "CL"}, {"39", "GW"}, {"60", "SP"}});
+    boring.EndDepth = "60";
+    boring.PageBreak = "20";
+    boring.Des = {"@1", "one", "@2", "two", "and", "more", "@3", "three", "@4", "four", "@5", "five"};
+    WriteBoring("B-1.BOR", boring);
+    return boring;
+}
+
+static void DrawAll(std::initializer_list<const char*> files, const char* page = "")
+{
+    JobTable[1] = VLOG::vlogstart;
+    jobCode = 1;
+    singleFile = 0;
+    DrawPrintLoad();
+    frmDrawPrint::Record& dialog = frmDrawPrint::Dialog;
+    dialog.Dir1 = ScratchFolder();
+    dialog.FileCount = 0;
+    for (const char* file : files) {
+        dialog.File1[++dialog.FileCount] = file;
+        dialog.Selected[dialog.FileCount] = true;
+    }
+    dialog.AllPages = *page == 0;
+    dialog.Text1 = page;
+    Listings.clear();
+    DrawPrintOk();
+}
+
+// Without the first line, whose number counts on.
+static std::string Objects(const std::string& listing)
+{
+    return listing.substr(listing.find('\n'));
+}
+
+static std::vector<std::string> Pages()
+{
+    std::vector<std::string> pages;
+    for (const std::string& listing : Listings)
+        pages.push_back(Objects(listing));
+    return pages;
+}
+
+TEST_CASE("a page drawn alone is the page of the whole log")
+{
+    CarryingBoring();
+    DrawAll({"B-1.BOR"});
+    const std::vector<std::string> pages = Pages();
+    REQUIRE(pages.size() == 3);
+    CHECK(Times(pages[0], "\"text\": \"two\"") == 1);
+    CHECK(Times(pages[1], "\"text\": \"two\"") == 0);
+    for (const char* page : {"1", "2", "3"}) {
+        CAPTURE(page);
+        DrawAll({"B-1.BOR"}, page);
+        REQUIRE(Listings.size() == 1);
+        CHECK(Pages()[0] == pages[size_t(page[0] - '1')]);
+        CHECK(RunPages.pageCount == 1);
+    }
+    CHECK(Messages.empty());
+}
+
+// No text stands for the unit at the first break, so that page 1 tells nothing, and page 2 tells of its own.
+static BoringText UnmarkedBoring()
+{
+    BoringText boring = CarryingBoring();
+    boring.Des = {"@1", "one", "@3", "three", "and", "more", "of", "it", "all", "@4", "four", "@5", "five"};
+    return boring;
+}
+
+TEST_CASE("a page that is paged back or gone to is the page of the whole log, also behind another boring")
+{
+    CarryingBoring();
+    WriteBoring("B-2.BOR", UnmarkedBoring());
+    DrawAll({"B-1.BOR", "B-2.BOR"});
+    const std::vector<std::string> pages = Pages();
+    REQUIRE(pages.size() == 6);
+    static std::vector<int16_t> shown;
+    shown.clear();
+    PlainShowPage = [] {
+        static constexpr int way[] = {1, 2, 1, 5, 4, 2, 0, 4, 4, 3, 5, 1, 7};
+        const size_t step = shown.size();
+        shown.push_back(RunPages.pageIndex);
+        RunPages.pageIndex = static_cast<int16_t>(way[step]);
+    };
+    DrawAll({"B-1.BOR", "B-2.BOR"});
+    REQUIRE(Listings.size() == shown.size());
+    REQUIRE(shown.size() == 13);
+    for (size_t i = 0; i < shown.size(); ++i) {
+        CAPTURE(i);
+        CHECK(Pages()[i] == pages[size_t(shown[i])]);
+    }
+    CHECK(Messages.empty());
+}
+
+TEST_CASE("a boring has the same pages alone and behind any other of the run")
+{
+    CarryingBoring();
+    BoringText ends = CarryingBoring(); // its last page ends with a text, and a unit cut at the page's end
+    ends.EndDepth = "20";
+    WriteBoring("A.BOR", ends);
+    BoringText thin = CarryingBoring(); // the first text wants more room than its unit has
+    thin.Lith[0] = {"1", "GW"};
+    thin.Des.insert(thin.Des.begin() + 1, {"a", "b", "c", "d"});
+    WriteBoring("THIN.BOR", thin);
+    WriteBoring("NONE.BOR", UnmarkedBoring());
+    std::vector<std::string> alone;
+    for (const char* file : {"THIN.BOR", "NONE.BOR"}) {
+        DrawAll({file});
+        for (const std::string& page : Pages())
+            alone.push_back(page);
+    }
+    REQUIRE(alone.size() == 6);
+    DrawAll({"A.BOR", "THIN.BOR", "A.BOR", "NONE.BOR"});
+    std::vector<std::string> pages = Pages();
+    REQUIRE(pages.size() == 8);
+    for (size_t i = 0; i < 3; ++i) {
+        CHECK(pages[1 + i] == alone[i]);
+        CHECK(pages[5 + i] == alone[3 + i]);
+    }
+}
+
+TEST_CASE("a list made by hand hands on from page to page of a boring as it stands there, and not to another boring")
+{
+    CarryingBoring();
+    std::filesystem::copy_file(Scratch("B-1.BOR"), Scratch("B-2.BOR"));
+    WriteMas({{"B-2.BOR", "", "21", "41"}});
+    VLOG::vlogstart();
+    WriteMas({{"B-1.BOR", "", "0", "20"},
+              {"B-1.BOR", "", "21", "41"},
+              {"B-1.BOR", "", "0", "20"},
+              {"B-2.BOR", "", "21", "41"}});
+    VLOG::vlogstart();
+    REQUIRE(Listings.size() == 5);
+    CHECK(Times(Listings[0], "\"text\": \"two\"") == 1);
+    CHECK(Times(Listings[1], "\"text\": \"two\"") == 1);
+    CHECK(Times(Listings[2], "\"text\": \"two\"") == 0);
+    CHECK(Times(Listings[4], "\"text\": \"two\"") == 1);
+}
+
+TEST_CASE("a page drawn alone tells its own messages, and none of the pages drawn unseen before it")
+{
+    BoringText boring = CarryingBoring();
+    boring.RepParts.push_back({"colours", "2"});
+    WriteBoring("B-1.BOR", boring);
+    DrawAll({"B-1.BOR"}, "3");
+    CHECK(OnlyMessage() == "Report Part Unknown: colours");
+    CHECK(Listings.size() == 1);
+    Messages.clear();
+    boring.Version = "4.6";
+    WriteBoring("B-1.BOR", boring);
+    DrawAll({"B-1.BOR"}, "3");
+    CHECK(OnlyMessage() ==
+          "This boring file has the format of a previous version and will be skipped: " + Scratch("B-1.BOR"));
+    CHECK(Listings.empty());
+    CHECK(RunPages.pageIndex == 1);
+}
+
+TEST_CASE("a page drawn alone steps the progress window for itself only")
+{
+    static Text steps;
+    steps = "";
+    CarryingBoring();
+    Platform.ShowProgress = [](bool shown) { steps += shown ? "show " : "hide "; };
+    Platform.StepProgress = [](const Text& words, float) { steps += words == "% Complete: 8" ? "first " : ""; };
+    DrawAll({"B-1.BOR"}, "3");
+    CHECK(steps == "show first hide hide ");
+}
+
+TEST_CASE("a column that fails leaves nothing behind for the next boring of the run")
+{
+    BoringText boring = CarryingBoring();
+    DrawAll({"B-1.BOR"});
+    const std::vector<std::string> good = Pages();
+    BoringText bad = boring;
+    bad.Increment = "0"; // no depth scale
+    WriteBoring("BAD.BOR", bad);
+    LogGeometry = LogGeometryRecord();
+    DrawAll({"BAD.BOR"});
+    const std::vector<std::string> alone = Pages();
+    REQUIRE(alone.size() == 3);
+    BoringText halfPolygon = boring;
+    halfPolygon.EndDepth = "20";
+    halfPolygon.RepParts = {{"DEP", ".4"}, {"graphic", ".4"}};
+    halfPolygon.Lith = {{"10", "GW"}, {"-1E30", "CL"}, {"60", "SP"}}; // its fill fails behind the first side
+    WriteBoring("HALF.BOR", halfPolygon);
+    DrawAll({"HALF.BOR", "B-1.BOR", "BAD.BOR", "B-1.BOR"});
+    const std::vector<std::string> pages = Pages();
+    REQUIRE(pages.size() == 10);
+    for (size_t i = 0; i < 3; ++i) {
+        CHECK(pages[1 + i] == good[i]);
+        CHECK(pages[4 + i] == alone[i]);
+        CHECK(pages[7 + i] == good[i]);
+    }
+    CHECK(Messages[3].words == "Error 6 in drawuscs.  Please contact Norvane");
+}
+
+TEST_CASE("a page exported in the midst of a preview changes no later page on the screen")
+{
+    BoringText boring = CarryingBoring();
+    WriteLayout("HEAD.LAY", " 0 ", {3, 2, 5, 0, 0, 0, 0, 6, 7});
+    WriteLayout("WIDE.LAY", " 2 ", {12, 0, 2});
+    boring.LayoutFile = "HEAD.LAY";
+    WriteBoring("A.BOR", boring);
+    boring.LayoutFile = "NONE.LAY"; // drawn with the title blocks of the boring before
+    WriteBoring("B.BOR", boring);
+    boring.LayoutFile = "WIDE.LAY";
+    WriteBoring("C.BOR", boring);
+    DrawAll({"A.BOR", "B.BOR", "C.BOR"});
+    const std::vector<std::string> pages = Pages();
+    REQUIRE(pages.size() == 9);
+    LogGeometry = LogGeometryRecord();
+    PlainShowPage = [] {
+        const std::vector<std::string> shown = Listings;
+        ExportPdf();
+        Listings = shown;
+        NextPage();
+    };
+    DrawAll({"A.BOR", "B.BOR", "C.BOR"});
+    REQUIRE(Listings.size() == 9);
+    for (size_t i = 0; i < 9; ++i) {
+        CAPTURE(i);
+        CHECK(Pages()[i] == pages[i]);
+    }
 }

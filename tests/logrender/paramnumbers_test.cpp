@@ -143,6 +143,12 @@ TEST_CASE("a data file of blanks has an empty field between two blanks")
     CHECK(GeneralNumbers(1) == Drawing{"text 150,60 7pt  5  centred", "text 150,180 7pt  7,8  centred"});
 }
 
+TEST_CASE("a field of blanks in a data file of commas is a missing value")
+{
+    SetFile("ph.txt", "1", Lines({"1, ,x", "2,   ,x", "3, 8 ,x", "4,0,x", "5, "}));
+    CHECK(GeneralNumbers(1) == Drawing{"text 150,180 7pt   8   centred", "text 150,240 7pt  0  centred"});
+}
+
 TEST_CASE("the first data line alone chooses the separator of a data file")
 {
     SetFile("a.txt", "1", Lines({"1 5", "2,6 4"}));

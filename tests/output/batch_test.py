@@ -70,6 +70,26 @@ class Batch(unittest.TestCase):
         self.assertIn("stratavue-batch log [--home DIR]", done.stdout)
         self.assertEqual(done.stderr, "")
 
+    def test_305_borings_of_more_than_500_pages_are_one_pdf(self):
+        os.mkdir(self.path("many"))
+        names = [self.path(f"many/B-{number}.BOR") for number in range(1, 306)]
+        for name in names:
+            shutil.copy(sample("TC-102.BOR"), name)
+        done = self.run_batch("log", "--pdf", "a.pdf", "--list", "a.jsonl", *names)
+        self.assertEqual(done.stderr, "")
+        with open(self.path("a.jsonl"), encoding="utf-8") as lines:
+            heads = [json.loads(line) for line in lines if '"page":' in line]
+        self.assertGreater(len(heads), 500)
+        self.assertEqual([head["page"] for head in heads], list(range(1, len(heads) + 1)))
+        self.assertEqual(heads[-1]["source"], "B-305.BOR")
+        info = subprocess.run(["pdfinfo", self.path("a.pdf")], capture_output=True, text=True).stdout
+        self.assertIn(f"Pages:           {len(heads)}\n", info)
+
+    def test_an_export_of_too_many_borings_is_told_in_words(self):
+        done = self.run_batch("export-irpims", "--out", "out", *[sample("TC-102.BOR")] * 305, status=1)
+        self.assertEqual(done.stderr, "305 chosen, 200 possible\n")
+        self.assertEqual(os.listdir(self.path("out")), [])
+
     def test_a_wrong_command_line_ends_with_2_and_one_line(self):
         for words in ([], ["draw"], ["log"], ["log", "--colour", "x.BOR"], ["guide", "--page", "1"]):
             done = self.run_batch(*words, status=2)

@@ -304,18 +304,60 @@ TEST_CASE("a heading file of the old form is told, and its words come to their s
         CHECK(HeadingTable[slot] == "");
 }
 
-TEST_CASE("a shorter heading file of either form is error 62")
+TEST_CASE("a shorter heading file of either form is error 62, and the grids show what was read of it alone")
 {
-    WriteScratch("a.hdg", Lines({"5.0", "a"}));
+    WriteScratch("full.hdg", HeadingText());
+    WriteScratch("new.hdg", Lines({"5.0", "a", "b"}));
+    WriteScratch("old.hdg", Lines({"a", "b"}));
+    for (const char* name : {"new.hdg", "old.hdg"}) {
+        CAPTURE(name);
+        DialogResult = Scratch("full.hdg");
+        OpenHeadingFile();
+        Messages.clear();
+        DialogResult = Scratch(name);
+        OpenHeadingFile();
+        CHECK(Messages.back().words == "Error 62 in OpenHeadingFile.  Please contact Norvane");
+        CHECK(HeadingTable[1] == "a");
+        CHECK(frmHeading::SSLog.Cell(1, 2) == "a");
+        CHECK(frmHeading::SSLog.Cell(2, 2) == "b");
+        for (int row = 3; row <= 39; ++row)
+            CHECK(frmHeading::SSLog.Cell(row, 2) == "");
+        CHECK(frmHeading::SSSections.Cell(1, 2) == "");
+        CHECK(frmHeading::SSGraphics.Cell(13, 2) == "");
+    }
+    DialogResult = Scratch("full.hdg");
+    OpenHeadingFile();
+    DialogResult = Scratch("none.hdg");
+    OpenHeadingFile();
+    CHECK(frmHeading::SSLog.Cell(1, 2) == "");
+}
+
+TEST_CASE("Save behind a heading file that breaks off keeps the words that it has")
+{
+    const std::string whole = HeadingText();
+    const std::string cut = whole.substr(0, whole.find("w30"));
+    WriteScratch("a.hdg", cut);
     DialogResult = Scratch("a.hdg");
     OpenHeadingFile();
-    CheckOneMessage("Error 62 in OpenHeadingFile.  Please contact Norvane");
-    CHECK(HeadingTable[1] == "a");
-    Messages.clear();
-    WriteScratch("a.hdg", Lines({"a", "b"}));
+    SaveHeadingFile();
+    const std::string saved = ReadScratch("a.hdg");
+    CHECK(saved.starts_with(cut));
+    for (const char letter : saved.substr(cut.size()))
+        CHECK((letter == '\r' || letter == '\n'));
+}
+
+TEST_CASE("a heading file of the old form that is not closed by its last line keeps the words of its slots")
+{
+    std::string file;
+    for (int line = 1; line <= 60; ++line)
+        file += "o" + std::to_string(line) + "\r\n";
+    WriteScratch("a.hdg", file);
+    DialogResult = Scratch("a.hdg");
     OpenHeadingFile();
-    REQUIRE(Messages.size() == 2);
-    CHECK(Messages[1].words == "Error 62 in OpenHeadingFile.  Please contact Norvane");
+    CHECK(frmHeading::SSLog.Cell(39, 2) == HeadingTable[39]);
+    CHECK(frmHeading::SSSections.Cell(1, 2) == "o50");
+    CHECK(frmHeading::SSGraphics.Cell(1, 2) == "o60");
+    CHECK(frmHeading::SSGraphics.Cell(2, 2) == "");
 }
 
 TEST_CASE("a heading file that cannot be written is told by name")
@@ -335,6 +377,24 @@ TEST_CASE("the four legend boxes keep their usual patterns where no number is to
     const int usual[] = {0, 1, 7, 20, 9};
     for (int box = 0; box <= 4; ++box)
         CHECK(LegendBoxFill[box] == usual[box]);
+}
+
+TEST_CASE("the legend boxes have their usual patterns without a heading file that can be read, too")
+{
+    WriteLogo();
+    const std::string whole = HeadingText({{41, "a,32"}, {44, "b,32"}});
+    const int usual[] = {0, 1, 7, 20, 9};
+    for (const std::string& file : {Text("none"), Text(), Lines({"4.6", "a"}), whole.substr(0, whole.find("w40")),
+                                    whole.substr(0, whole.find("w50"))}) {
+        CAPTURE(file);
+        std::filesystem::remove(Scratch("us.hdg"));
+        if (file != "none")
+            WriteScratch("us.hdg", file);
+        LegendBoxFill.slot.fill(40); // of the run before
+        getclientlogo(1);
+        for (int box = 0; box <= 4; ++box)
+            CHECK(LegendBoxFill[box] == usual[box]);
+    }
 }
 
 TEST_CASE("the first word of a heading table counts among its blanks as the twentieth does")

@@ -72,6 +72,32 @@ TEST_CASE("Open reads the chosen heading file and names it in the title; cancell
     CHECK(Messages.empty());
 }
 
+TEST_CASE("a heading file saved unchanged behind another one is as in a fresh program, also one that breaks off")
+{
+    WriteHeadings("full.hdg", {{28, "Water"}, {45, " 1"}, {84, "last"}});
+    std::string old;
+    for (int line = 1; line <= 72; ++line)
+        old += "o" + std::to_string(line) + "\r\n";
+    for (const std::string& second : {HeadingText({{28, ""}, {40, ""}, {84, ""}}), old}) {
+        const auto saved = [](const std::string& bytes) {
+            WriteScratch("b.hdg", bytes);
+            Choose(Scratch("b.hdg"));
+            frmHeading::mnuOpen();
+            frmHeading::mnuSave();
+            return ReadScratch("b.hdg");
+        };
+        for (size_t end = 0; end != Text::npos && end <= second.size();) {
+            const std::string bytes = second.substr(0, end);
+            frmHeading::Load();
+            const std::string fresh = saved(bytes);
+            Choose(Scratch("full.hdg"));
+            frmHeading::mnuOpen();
+            CHECK(saved(bytes) == fresh);
+            end = end == second.size() ? Text::npos : second.find("\r\n", end) + 2;
+        }
+    }
+}
+
 TEST_CASE("after Open no step of the heading file before can be taken back or done again")
 {
     WriteHeadings("a.hdg");

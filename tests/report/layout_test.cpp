@@ -37,7 +37,14 @@ TEST_CASE("a layout that is missing, short or holds too large a code fails by nu
 {
     CHECK(FailureOf([] { ReadLayoutFile("nothing.lay"); }) == FileNotFound);
     WriteScratch("a.lay", Lines({"1", "2"}));
+    LayoutData.Orientation = 2;
+    LayoutData.Blocks.slot.fill(9);
     CHECK(FailureOf([] { ReadLayoutFile("a.lay"); }) == InputPastEnd);
+    // What was read of it stands there, and nothing of the layout before.
+    CHECK(LayoutData.Orientation == 1);
+    CHECK(LayoutData.Blocks[1] == 2);
+    for (int i = 2; i <= 12; ++i)
+        CHECK(LayoutData.Blocks[i] == 0);
     WriteScratch("a.lay", Lines({"40000"}));
     CHECK(FailureOf([] { ReadLayoutFile("a.lay"); }) == Overflow);
 }

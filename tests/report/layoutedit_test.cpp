@@ -297,6 +297,57 @@ TEST_CASE("a layout that is opened puts no tile of the layout before into the pi
     CHECK(Tile[3] == TilePoint{5400, 1425});
 }
 
+TEST_CASE("a layout saved unchanged behind another one is as in a fresh program, also one that breaks off")
+{
+    std::string full, second;
+    for (int line = 0; line <= 12; ++line) {
+        full += line == 0 ? " 2 \r\n" : IntegerField(13 - line) + "\r\n";
+        second += line == 0 ? " 1 \r\n" : line < 4 ? IntegerField(line) + "\r\n" : " 0 \r\n";
+    }
+    WriteScratch("full.lay", full);
+    const auto saved = [](const std::string& bytes) {
+        WriteScratch("b.lay", bytes);
+        Choose(Scratch("b.lay"));
+        try {
+            frmLayout::mnuOpen();
+        } catch (const RunTimeError& failure) {
+            CHECK(failure.Number == InputPastEnd);
+        }
+        CHECK(frmLayout::Title == "Layout Editor: " + Scratch("b.lay"));
+        for (int code = 1; code <= 12; ++code) {
+            bool placed = false;
+            for (const int16_t block : LayoutData.Blocks.slot)
+                placed = placed || block == code;
+            CHECK(frmLayout::InLayout(code) == placed);
+        }
+        frmLayout::mnuSave();
+        return ReadScratch("b.lay");
+    };
+    for (size_t end = 0; end <= second.size(); end = second.find("\r\n", end) + 2) {
+        const std::string bytes = second.substr(0, end);
+        CAPTURE(bytes);
+        frmLayout::mnuNew();
+        const std::string fresh = saved(bytes);
+        Choose(Scratch("full.lay"));
+        frmLayout::mnuOpen();
+        CHECK(saved(bytes) == fresh);
+        if (end == second.size())
+            break;
+    }
+}
+
+TEST_CASE("the orientation that a layout has already changes nothing when it is chosen")
+{
+    frmLayout::mnuNew();
+    frmLayout::DropTile(1, 5400, 1080);
+    frmLayout::DropTile(2, 5400, 1080); // over the first one
+    FileChanged = 0;
+    const auto tiles = Tile.slot;
+    frmLayout::ChooseOrientation(0);
+    CHECK(FileChanged == 0);
+    CHECK(Tile.slot == tiles);
+}
+
 TEST_CASE("the layouts are listed anew when the layout editor is left")
 {
     frmLayout::mnuNew();

@@ -317,5 +317,6 @@ TEST_CASE("at the start of the program borings are vertical and the page is a le
     CHECK(CrossRun.pageMode == "L");
     CHECK(CrossRun.columnWidth == .1f);
     CHECK(CrossRun.labelSize == 10);
-    CHECK(CrossRun.pageWidth == 0);
+    CHECK(CrossRun.pageWidth == 11);
+    CHECK(CrossRun.pageHeight == 8.5f);
 }

@@ -232,7 +232,7 @@ TEST_CASE("the older form has fifteen rows cut at their commas, and is saved in 
     CHECK(Line(saved, 23) == "lost");
 }
 
-TEST_CASE("a file without its last lines is read as far as it goes, and the rest keeps what it had")
+TEST_CASE("a file without its last lines is read as far as it goes, and the rest is empty")
 {
     const std::string whole = WholeFile();
     WriteScratch("A.CRO", whole.substr(0, whole.find("SITE")));
@@ -242,8 +242,8 @@ TEST_CASE("a file without its last lines is read as far as it goes, and the rest
     CHECK(Messages.empty());
     CHECK(CrossData.reportCells[7] == "T");
     CHECK(CrossData.reportCells[8] == "");
-    CHECK(CrossData.reportCells[10] == "old");
-    CHECK(CrossData.legendCells[30][1] == "old");
+    CHECK(CrossData.reportCells[10] == "");
+    CHECK(CrossData.legendCells[30][1] == "");
 }
 
 TEST_CASE("a file that ends within its borings is told as error 62, and what was read is shown")
@@ -331,8 +331,9 @@ TEST_CASE("rows count by what the form shows, so a last row of hidden cells alon
     CHECK(Line(Saved(), 1) == " 1 ");
 }
 
-TEST_CASE("clearing leaves the options line, later borings and later legend rows, and a new file is saved with them")
+TEST_CASE("clearing empties every cell, also those that the form does not show, and a new file is saved without them")
 {
+    CrossData.rowCount = 50;
     CrossData.reportCells.slot.fill("x");
     CrossData.scaleCells.slot.fill("x");
     for (int row = 1; row <= 50; ++row)
@@ -340,17 +341,21 @@ TEST_CASE("clearing leaves the options line, later borings and later legend rows
     for (int row = 1; row <= 30; ++row)
         CrossData.legendCells[row].slot.fill("x");
     ClearCrossArrays();
-    CHECK(CrossData.reportCells[9] == "");
-    CHECK(CrossData.reportCells[10] == "x");
-    CHECK(CrossData.scaleCells[4] == "");
-    CHECK(CrossData.boringCells[15][9] == "");
-    CHECK(CrossData.boringCells[16][9] == "x");
-    CHECK(CrossData.legendCells[8][2] == "");
-    CHECK(CrossData.legendCells[9][2] == "x");
+    CHECK(CrossData.rowCount == 0);
+    for (int cell = 1; cell <= 10; ++cell)
+        CHECK(CrossData.reportCells[cell] == "");
+    for (int cell = 1; cell <= 4; ++cell)
+        CHECK(CrossData.scaleCells[cell] == "");
+    for (int row = 1; row <= 50; ++row)
+        for (int column = 1; column <= 9; ++column)
+            CHECK(CrossData.boringCells[row][column] == "");
+    for (int row = 1; row <= 30; ++row)
+        for (int column = 1; column <= 2; ++column)
+            CHECK(CrossData.legendCells[row][column] == "");
     TypeBoring("0,500,100", "100");
     const std::string saved = Saved();
-    CHECK(Line(saved, 36) == "x");
-    CHECK(Line(saved, 37) == "x;x");
+    CHECK(Line(saved, 36) == "");
+    CHECK(Line(saved, 37) == ";");
 }
 
 TEST_CASE("units and scale numbers are written trimmed, titles as they stand, legend texts right-trimmed")
@@ -365,6 +370,30 @@ TEST_CASE("units and scale numbers are written trimmed, titles as they stand, le
     CHECK(Line(saved, 13) == "Feet");
     CHECK(Line(saved, 19) == " Main ");
     CHECK(Line(saved, 25) == " SM ; Silty sand");
+}
+
+TEST_CASE("each scale and unit of a section is written trimmed")
+{
+    TypeBoring("0,500,100", "100");
+    SS2.Cell(1, 1) = " 0 , 500 , 100 ";
+    SS2.Cell(2, 1) = " Feet ";
+    SS2.Cell(3, 1) = " 60 , 20 , -10 ";
+    SS2.Cell(4, 1) = "  MSL  ";
+    const std::string saved = Saved();
+    const char* const lines[] = {"0", "500", "100", "Feet", "60", "20", "-10", "MSL", ""};
+    for (int i = 0; i < 9; ++i)
+        CHECK(Line(saved, 1 + 7 + 2 + i) == lines[i]);
+}
+
+TEST_CASE("after Open no step of the section before can be taken back in any of the four grids")
+{
+    WriteScratch("A.CRO", WholeFile());
+    Open("A.CRO");
+    for (Grid* grid : {&SS1, &SS2, &SS3, &SS4})
+        grid->done.push_back(GridStep{{{1, 1, "x", "y"}}, grid->Shape(), grid->Shape(), {}, {}});
+    Open("A.CRO");
+    for (Grid* grid : {&SS1, &SS2, &SS3, &SS4})
+        CHECK(grid->done.empty());
 }
 
 TEST_CASE("a file that cannot be written is told, and the save says so")

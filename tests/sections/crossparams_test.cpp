@@ -208,6 +208,13 @@ TEST_CASE("fields are cut at commas where the first line has one, else at single
     CHECK(Parameters(OneBoring("GPG2")) == WithStrip({"line 480,720 420,960"}));
 }
 
+TEST_CASE("a field of blanks in a data file of commas is a missing value beside a section's column too")
+{
+    WriteGeneral({}, "cpt.txt", "1");
+    WriteScratch("cpt.txt", Lines({"2,30", "3, ,9", "4,   ", "5,45", "6,,9"}));
+    CHECK(Parameters(OneBoring("GPG2")) == WithStrip({"line 480,720 450,900"}));
+}
+
 TEST_CASE("without a field number above 0 a data file has no values")
 {
     for (const char* field : {"", "0", "-1"}) {

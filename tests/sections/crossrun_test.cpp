@@ -7,6 +7,7 @@
 #include "canvas/screenview.h"
 #include "canvas/viewcommands.h"
 #include "sections/crossrun.h"
+#include "sections/sheetrun.h"
 #include "session/platform.h"
 
 using namespace VCROSS;
@@ -293,4 +294,71 @@ TEST_CASE("water marks are the last on a page of layers, one for each boring wit
     CHECK(mark.starts_with("{\"kind\": \"polygon\""));
     CHECK(mark.find("\"color\": \"0 0 0\"") != Text::npos);
     CHECK(Times(Listings[0], mark) == 1);
+}
+
+TEST_CASE("a first file of a run that breaks off is drawn on a letter sheet, whatever the run before has drawn")
+{
+    WriteBorings();
+    SectionText wide = TwoBorings("Wide");
+    wide.Tail = {"T", "", "", ""};
+    WriteSection("W.CRO", wide);
+    WriteScratch("S.CRO", TwoBorings("Short").Bytes().substr(0, 60));
+    WriteRunList({"S.CRO"});
+    vcrossstart();
+    REQUIRE(Listings.size() == 1);
+    CHECK(Listings[0].find("\"mode\": \"L\"") != std::string::npos);
+    // The outer frame of the sheet: 9.6 by 7.1 inches.
+    CHECK(Times(Listings[0], "\"x1\": 270, \"y1\": 270, \"x2\": 6030, \"y2\": 4530") == 1);
+    WriteRunList({"W.CRO"});
+    vcrossstart();
+    WriteRunList({"S.CRO"});
+    vcrossstart();
+    REQUIRE(Listings.size() == 3);
+    CHECK(Listings[2].find("\"mode\": \"L\"") != std::string::npos);
+    CHECK(Times(Listings[2], "\"x1\": 270, \"y1\": 270, \"x2\": 6030, \"y2\": 4530") == 1);
+}
+
+TEST_CASE("a section exported in the midst of a preview changes no later section of the run")
+{
+    WriteBorings();
+    SectionText slanted = TwoBorings("Third");
+    slanted.Borings[0] = {"100", "B-1.BOR", "3", "B", "", "", "x|90|30"};
+    slanted.Tail = {"T", "", "P1", ".4,12"};
+    WriteSection("A.CRO", TwoBorings("First"));
+    WriteScratch("B.CRO", TwoBorings("Second").Bytes().substr(0, 60)); // the rest of it is of the section before
+    WriteSection("C.CRO", slanted);
+    JobTable[3] = vcrossstart;
+    jobCode = 3;
+    WriteRunList({"A.CRO", "B.CRO", "C.CRO"});
+    vcrossstart();
+    const std::vector<std::string> pages = Listings;
+    REQUIRE(pages.size() == 3);
+    ResetCrossRun();
+    Listings.clear();
+    PlainShowPage = [] {
+        const std::vector<std::string> shown = Listings;
+        ExportPdf();
+        Listings = shown;
+        NextPage();
+    };
+    vcrossstart();
+    REQUIRE(Listings.size() == 3);
+    for (size_t i = 0; i < 3; ++i)
+        CHECK(Listings[i] == pages[i]);
+}
+
+TEST_CASE("a polygon that failed half-way is no part of the next page of a run")
+{
+    static std::vector<int> vertices;
+    vertices.clear();
+    WriteBorings();
+    WriteSection("A.CRO", TwoBorings("A"));
+    WriteRunList({"A.CRO", "A.CRO"});
+    RunSheets(2, getcrossdata, [] {
+        vertices.push_back(PageCanvas.polyCount / 2);
+        canvasstart("L");
+        setscalex(1);
+        polyright(1);
+    });
+    CHECK(vertices == std::vector<int>{0, 0});
 }

@@ -7,6 +7,7 @@
 #include "canvas/screenview.h"
 #include "editors/livepreview.h"
 #include "gis/gistool.h"
+#include "report/prompts.h"
 #include "sections/crossrun.h"
 #include "sections/fencerun.h"
 #include "sections/fencetool.h"
@@ -151,6 +152,7 @@ TEST_CASE("the live page of a tool shows what stands in its boxes, and leaves se
         LivePage page;
         REQUIRE(DrawLiveTool(one.tool, Scratch("live"), page));
         CHECK(Shows(page, "A title being typed"));
+        CHECK_FALSE(Shows(page, Scratch("live"))); // the name of the document, which has none yet
         CHECK(page.Pages == 1);
         CHECK(page.List.ExtentWidth > page.List.ExtentHeight);
         CHECK(Messages.empty());
@@ -164,6 +166,9 @@ TEST_CASE("the live page of a tool shows what stands in its boxes, and leaves se
         CHECK(CrossData.boringCells[1][7] == "joined at a save");
         CHECK(RunFolder == ScratchFolder());
         CHECK_FALSE(FileExists(Scratch("log.mas")));
+        one.tool.FileName = Scratch("SITE" + Text(one.tool.ending));
+        REQUIRE(DrawLiveTool(one.tool, Scratch("live"), page));
+        CHECK(Shows(page, "   " + one.tool.FileName));
         FileChanged = 0;
     }
 }
@@ -197,4 +202,38 @@ TEST_CASE("the workbench draws nothing, and notes that a save refuses give no li
     CHECK_FALSE(DrawLiveTool(SoilForm, Scratch("live"), page));
     CHECK(page.Page == 7);
     CHECK(Messages.empty());
+}
+
+TEST_CASE(
+    "the fifth column of a section's borings has its designed word whatever the prompts say, and the others theirs")
+{
+    for (int slot = 131; slot <= 137; ++slot)
+        PromptSlot[slot] = "prompt " + std::to_string(slot);
+    frmCross::LabelBoxes();
+    CHECK(frmCross::SS1.headings ==
+          std::vector<Text>{"", "prompt 132", "prompt 133", "prompt 134", "prompt 135", "Label T/B"});
+    CHECK(frmCross::SS3.title == "prompt 136");
+}
+
+TEST_CASE(
+    "each of the five columns of a section's borings goes from the file into the form and from there into the file")
+{
+    LoadTool(CrossForm);
+    for (int row = 1; row <= 15; ++row)
+        for (int column = 1; column <= 5; ++column)
+            frmCross::SS1.Cell(row, column) = std::to_string(row) + "/" + std::to_string(column);
+    frmCross::SS2.Cell(1, 1) = "0,100,10";
+    frmCross::FileName = Scratch("F.CRO");
+    CHECK(frmCross::mnuSave());
+    LineReader in(Scratch("F.CRO"));
+    in.Skip(1);
+    for (int row = 1; row <= 15; ++row) {
+        for (int column = 1; column <= 5; ++column)
+            CHECK(in.Line() == std::to_string(row) + "/" + std::to_string(column));
+        in.Skip(2);
+    }
+    ToolOpenNamed(CrossForm, Scratch("F.CRO"));
+    for (int row = 1; row <= 15; ++row)
+        for (int column = 1; column <= 5; ++column)
+            CHECK(frmCross::SS1.Cell(row, column) == std::to_string(row) + "/" + std::to_string(column));
 }

@@ -3,6 +3,7 @@
 
 #include "testing.h"
 
+#include "places.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"
@@ -56,25 +57,140 @@ TEST_CASE("a soil table opened and saved is the same, byte by byte, where its no
     }
 }
 
-TEST_CASE("notes are loaded with a line end between them; a closing mark goes, and so do empty ones at the end")
+// What the notes of a file are after they have been opened and saved.
+static std::string SavedNotes(const std::string& notes)
 {
-    Open(cells + Lines({"wrapped", "here\xB6", "", "last\xB6", "", " ", "", "", "", ""}));
-    CHECK(MemoSoil.text == "wrapped\r\nhere\r\n\r\nlast");
-    // Saved, every line but the last ends a paragraph, and a second save changes no more.
+    Open(cells + notes);
+    return Saved().substr(cells.size());
+}
+
+TEST_CASE("a note with the closing mark ends a paragraph, and one without runs on into the next")
+{
+    Open(cells + Lines({"wrapped ", "here\xB6", "\xB6", "last\xB6", "\xB6", " ", "", "", "", ""}));
+    CHECK(MemoSoil.text == "wrapped here\r\n\r\nlast\r\n\r\n");
+    Open(cells + Lines({"one\xB6", "two", "", "", "", "", "", "", "", ""}));
+    CHECK(MemoSoil.text == "one\r\ntwo");
+    Open(cells + Lines({"one", "", "two\xB6", "", "", "", "", "", "", ""}));
+    CHECK(MemoSoil.text == "one two\r\n");
+}
+
+TEST_CASE("notes that were wrapped get back the blank that their file has dropped")
+{
+    const Text first = "Limits: sulphate classes DS-1 and DS-2 of the 2:1 extract, lead for housing and";
+    const std::string notes = Lines({first, "for commercial use.\xB6", "", "", "", "", "", "", "", ""});
+    Open(cells + notes);
+    CHECK(MemoSoil.text == first + " for commercial use.\r\n");
+    CHECK(Saved() == cells + notes);
+}
+
+TEST_CASE("notes that were cut for another box stay so until they or the box are changed")
+{
+    const std::string notes = Lines({"short", "and longer", "end \xB6", "last", "", "", "", "", "", ""});
+    Open(cells + notes);
+    CHECK(MemoSoil.text == "short and longer end \r\nlast");
+    SS1.Cell(SoilMainTitle, 1) = "Another";
+    CHECK(Saved().ends_with(notes));
+    CHECK(Saved().ends_with(notes));
+    const std::string cut = Lines({"short and longer end \xB6", "last", "", "", "", "", "", "", "", ""});
+    cmdAdj6();
+    CHECK(Saved().ends_with(cut));
+    Open(cells + notes);
+    MemoSoil.text += "!";
+    CHECK(Saved().ends_with(Lines({"short and longer end \xB6", "last!", "", "", "", "", "", "", "", ""})));
+}
+
+TEST_CASE("every soil table among the samples is saved as it was opened")
+{
+    int tables = 0;
+    for (const auto& file : std::filesystem::directory_iterator(Text(SOURCE_DIR) + "/samples"))
+        if (file.path().extension() == ".SOI") {
+            CAPTURE(file.path());
+            ++tables;
+            const std::string bytes = ReadWholeFile(file.path().string());
+            Open(bytes);
+            CHECK(Saved() == bytes);
+        }
+    CHECK(tables > 0);
+}
+
+TEST_CASE("notes that were cut for one width of their box are cut anew for each other one, back again too")
+{
+    Open(cells + Lines({"", "", "", "", "", "", "", "", "", ""}));
+    const int designed = MemoSoil.widthTwips;
+    MemoSoil.text = "several words that go into one line of the box as it is designed\r\n";
+    MemoSoil.widthTwips = 2000;
+    const std::string narrow = Saved();
+    CHECK(SoilData.notes[2] != "");
+    CHECK(Saved() == narrow);
+    MemoSoil.widthTwips = designed;
+    CHECK(Saved() != narrow);
+    CHECK(SoilData.notes[2] == "");
+}
+
+TEST_CASE("a note without a mark that is wider than its box is cut by the next save, as what is typed is")
+{
+    const Text word(100, 'w');
+    Open(cells + Lines({word, "", "", "", "", "", "", "", "", ""}));
+    Saved();
+    CHECK(SoilData.notes[1].size() < 100);
+    CHECK(SoilData.notes[1] + SoilData.notes[2] == word);
+}
+
+TEST_CASE("notes are written without the blanks at which they were cut")
+{
+    Open(cells + Lines({"", "", "", "", "", "", "", "", "", ""}));
+    MemoSoil.widthTwips = 2000;
+    MemoSoil.text = "several words that do not fit in one line of so narrow a box";
+    CHECK(Saved().find(" \r\n") == Text::npos);
+    CHECK(SoilData.notes[1].ends_with(' '));
+}
+
+TEST_CASE("a word of the notes that is wider than their box is cut without a blank, and joined without one")
+{
+    const std::string none = Lines({"", "", "", "", "", "", "", "", "", ""});
+    Open(cells + none);
+    const Text word(200, 'w');
+    MemoSoil.text = "a line\r\n" + word + " end\r\n";
     const std::string saved = Saved();
-    CHECK(saved == cells + Lines({"wrapped\xB6", "here\xB6", "\xB6", "last", "", "", "", "", "", ""}));
+    CHECK(SoilData.notes[2].size() < 200);
     Open(saved);
+    CHECK(MemoSoil.text == "a line\r\n" + word + " end\r\n");
     CHECK(Saved() == saved);
 }
 
-TEST_CASE("empty paragraphs at the end of the notes are gone with the next opening, all at once")
+TEST_CASE("notes none of which has a mark are lines of their own, but for empty ones at the end")
+{
+    Open(cells + Lines({"one", "", "two", "last", "", " ", "", "", "", ""}));
+    CHECK(MemoSoil.text == "one\r\n\r\ntwo\r\nlast");
+    // Saved, every line but the last ends a paragraph, and a second save changes no more.
+    const std::string saved = Saved();
+    CHECK(saved == cells + Lines({"one\xB6", "\xB6", "two\xB6", "last", "", "", "", "", "", ""}));
+    Open(saved);
+    CHECK(Saved() == saved);
+    // A mark within a line closes nothing.
+    Open(cells + Lines({"1\xB6 2", "3", "", "", "", "", "", "", "", ""}));
+    CHECK(MemoSoil.text == "1\xB6 2\r\n3");
+}
+
+TEST_CASE("a mark behind the last note stays there")
+{
+    for (const std::string& notes :
+         {Lines({"one\xB6", "", "", "", "", "", "", "", "", ""}),
+          Lines({"one\xB6", "two\xB6", "\xB6", "", "", "", "", "", "", ""}),
+          Lines({"1\xB6", "2", "", "", "", "", "", "", "", ""}), Lines({"1", "", "", "", "", "", "", "", "", ""}),
+          Lines({"1\xB6", "2\xB6", "3\xB6", "4\xB6", "5\xB6", "6\xB6", "7\xB6", "8\xB6", "9\xB6", "10\xB6"})}) {
+        CAPTURE(notes);
+        CHECK(SavedNotes(notes) == notes);
+    }
+}
+
+TEST_CASE("empty paragraphs at the end of the notes are there again with the next opening")
 {
     Open(cells + Lines({"", "", "", "", "", "", "", "", "", ""}));
     MemoSoil.text = "one\r\n\r\ntwo\r\n\r\n\r\n";
-    Open(Saved());
-    CHECK(MemoSoil.text == "one\r\n\r\ntwo");
     const std::string saved = Saved();
     Open(saved);
+    CHECK(MemoSoil.text == "one\r\n\r\ntwo\r\n\r\n\r\n");
     CHECK(Saved() == saved);
 }
 

@@ -4,6 +4,7 @@
 #include "testing.h"
 
 #include "session/failure.h"
+#include "session/machine.h"
 #include "session/session.h"
 
 #include <csignal>
@@ -14,21 +15,21 @@
 TEST_CASE("a file that is written anew is in another state, also as large as it was, and one that is gone has none")
 {
     const std::string path = Scratch("a.txt");
-    CHECK(StateOf(path) == FileState());
+    CHECK(Machine::StateOf(path) == FileState());
     WriteWholeFile("a.txt", "one", Durability::Scratch);
-    const FileState first = StateOf(path);
+    const FileState first = Machine::StateOf(path);
     CHECK(first.Size == 3);
-    CHECK(StateOf(path) == first);
+    CHECK(Machine::StateOf(path) == first);
     std::filesystem::permissions(path, std::filesystem::perms::owner_read);
-    CHECK(StateOf(path) == first); // its bytes are what they were
+    CHECK(Machine::StateOf(path) == first); // its bytes are what they were
     std::filesystem::permissions(path, std::filesystem::perms::owner_all);
     WriteWholeFile("a.txt", "two", Durability::Scratch);
-    CHECK_FALSE(StateOf(path) == first);
-    const FileState second = StateOf(path);
+    CHECK_FALSE(Machine::StateOf(path) == first);
+    const FileState second = Machine::StateOf(path);
     std::filesystem::last_write_time(path, std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
-    CHECK_FALSE(StateOf(path) == second);
+    CHECK_FALSE(Machine::StateOf(path) == second);
     std::filesystem::remove(path);
-    CHECK(StateOf(path) == FileState());
+    CHECK(Machine::StateOf(path) == FileState());
 }
 
 TEST_CASE("CR LF, a lone CR and a lone LF each end a line, and byte 26 ends the file")

@@ -80,7 +80,7 @@ TEST_CASE("a changed document is copied, and the next start offers it after a cr
     Answers = {Yes};
     OfferCopies();
     REQUIRE(Messages.size() == 1);
-    CHECK(Messages[0].buttons == YesNo);
+    CHECK(Messages[0].buttons == YesNoCancel);
     CHECK(Messages[0].icon == Question);
     CHECK(Messages[0].words.starts_with("The program ended before /site/B-1.BOR was saved.  A copy of "));
     CHECK(Messages[0].words.ends_with(" was kept.  Would you like to open it?"));
@@ -147,6 +147,34 @@ TEST_CASE("No takes the copy away, with what the tool has put beside it")
     CHECK(opened.empty());
     EndRecovery();
     CHECK(FilesIn(Folder(), "").empty());
+}
+
+TEST_CASE(
+    "only No takes a copy away: at Cancel, which is Escape too, it waits for the next start, and the next is asked")
+{
+    CrashedRun([] {
+        Type("a section", "/site/A.CRO");
+        LeaveDocument();
+        FileChanged = 1;
+        WatchTool(CrossTool);
+        Type("half", "B-1.BOR");
+    });
+    StartRun();
+    const size_t left = Copies();
+    REQUIRE(left >= 1);
+    Answers.assign(left, Cancel);
+    OfferCopies();
+    CHECK(Messages.size() == left);
+    CHECK(opened.empty());
+    EndRecovery();
+    CHECK(Copies() == left);
+    Messages.clear();
+    StartRun();
+    Answers.assign(left, Yes);
+    OfferCopies();
+    CHECK(Messages.size() == 1);
+    CHECK(opened.size() == 1);
+    CHECK(document == "half");
 }
 
 TEST_CASE("nothing is kept of a document that is not changed, nor after a clean end")

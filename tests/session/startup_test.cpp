@@ -22,6 +22,21 @@ static void Watch()
     };
 }
 
+TEST_CASE("--help and --version are answered, and nothing else is")
+{
+    CHECK(ShellAnswer({}) == "");
+    CHECK(ShellAnswer({"X.CRO"}) == "");
+    CHECK(ShellAnswer({"-platform", "offscreen", "X.BOR"}) == "");
+    for (const char* help : {"--help", "-h"}) {
+        CHECK(ShellAnswer({help}).starts_with("Usage: stratavue [FILE]\n"));
+        CHECK(ShellAnswer({"X.CRO", help}).find(".GCV") != std::string::npos);
+    }
+    const std::string version = ShellAnswer({"--version"});
+    CHECK(version.starts_with("Stratavue "));
+    CHECK(version.find_first_of("0123456789") == std::string("Stratavue ").size());
+    CHECK(version.ends_with("\n"));
+}
+
 TEST_CASE("the title box comes first, then the log window, the title box again to be clicked, and the welcome")
 {
     Watch();

@@ -7,6 +7,9 @@
 #include "session/session.h"
 #include "windows/driver.h"
 
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,6 +19,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTableWidget>
 #include <QTest>
 
 TEST_CASE("an empty selection leaves the dialog open and log.mas as it was")
@@ -225,4 +229,70 @@ TEST_CASE("a run over a file that cannot be read brings its message round after 
     CheckAllDone();
     CHECK(rounds == 3);
     CHECK(QApplication::activeModalWidget() == nullptr);
+}
+
+TEST_CASE("a message of a run of several files offers a list; then the run goes on, and the list comes at its end")
+{
+    QMainWindow* log = LogWindow();
+    const std::string whole = ReadScratch("samples/TC-103.BOR");
+    WriteScratch("samples/TC-103A.BOR", whole.substr(0, whole.size() / 2));
+    WriteScratch("samples/TC-103B.BOR", whole.substr(0, whole.size() / 3));
+    Then("frmDrawPrint", [](QWidget* window) {
+        auto* files = Find<QListWidget>(window, "File1");
+        for (const char* name : {"TC-103A.BOR", "TC-103B.BOR", "TC-104.BOR"})
+            files->findItems(name, Qt::MatchExactly).first()->setSelected(true);
+        ClickButton(window, "Command1");
+    });
+    Then("MsgBox", [](QWidget* window) {
+        auto* box = qobject_cast<QMessageBox*>(window);
+        CHECK(box->text() == "Error 62 in getvlogdata.  Please contact Norvane");
+        REQUIRE(box->checkBox());
+        CHECK(box->checkBox()->text() == "Collect further messages in a list");
+        LookAt(window, "collect");
+        box->checkBox()->setChecked(true);
+        Key(window, Qt::Key_Return);
+    });
+    Then("DrawArea", [](QWidget* window) {
+        CHECK(BaseName(RunPages.pageFile) == "TC-104.BOR");
+        ClickMenu(window, "mnuFile", "mnuExit");
+    });
+    Then("frmRunMessages", [](QWidget* window) {
+        auto* table = Find<QTableWidget>(window, "Messages");
+        REQUIRE(table->rowCount() >= 1);
+        CHECK(table->item(0, 0)->text().toStdString() == Scratch("samples/TC-103B.BOR"));
+        CHECK(table->item(0, 1)->text() == "1");
+        CHECK(table->item(0, 2)->text() == "Error 62 in getvlogdata.  Please contact Norvane");
+        LookAt(window, "runmessages");
+        ClickButton(window, "Command1");
+        CHECK(QApplication::clipboard()->text().toStdString().starts_with(
+            Scratch("samples/TC-103B.BOR") + "\t1\tError 62 in getvlogdata.  Please contact Norvane"));
+        // Enter on an entry opens its file behind the list.
+        table->setFocus();
+        table->setCurrentCell(0, 0);
+        Key(window, Qt::Key_Return);
+    });
+    ThenAnswer("Error 62 in OpenBoringFile2.  Please contact Norvane", "OK");
+    ClickMenu(log, "mnuFile", "mnuBatchDraw");
+    Settle(100);
+    CheckAllDone();
+    CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-103");
+    CHECK(BoringFileName == "");
+}
+
+TEST_CASE("a message of a run of one file offers no list")
+{
+    QMainWindow* log = LogWindow();
+    const std::string whole = ReadScratch("samples/TC-103.BOR");
+    WriteScratch("samples/CUT.BOR", whole.substr(0, whole.size() / 2));
+    Then("frmDrawPrint", [](QWidget* window) {
+        auto* files = Find<QListWidget>(window, "File1");
+        files->findItems("CUT.BOR", Qt::MatchExactly).first()->setSelected(true);
+        ClickButton(window, "Command1");
+    });
+    Then("MsgBox", [](QWidget* window) {
+        CHECK(qobject_cast<QMessageBox*>(window)->checkBox() == nullptr);
+        Key(window, Qt::Key_Escape);
+    });
+    ClickMenu(log, "mnuFile", "mnuBatchDraw");
+    CheckAllDone();
 }

@@ -170,6 +170,15 @@ void TypeWords(QWidget* window, const Text& words)
         QTest::keyClicks(window->focusWidget() ? window->focusWidget() : window, QString(letter));
 }
 
+// Menus and the like go with their windows. What a window writes when it goes is written before the next test begins.
+static void TakeDownWindows()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    std::vector<QPointer<QWidget>> old(windows.begin(), windows.end());
+    for (const QPointer<QWidget>& window : old)
+        delete window;
+}
+
 void UseDesktop()
 {
     // One application for the run of the tests; it is never taken down, since Qt's statics go in no order.
@@ -185,11 +194,8 @@ void UseDesktop()
         // What the program remembers of its user goes with the scratch folder.
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QString::fromStdString(ScratchFolder()));
     }
-    // The windows of the test before. Menus and the like go with their windows.
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    std::vector<QPointer<QWidget>> old(windows.begin(), windows.end());
-    for (const QPointer<QWidget>& window : old)
-        delete window;
+    TakeDownWindows();
+    CloseWindows = TakeDownWindows;
     UseDesktopPlatform();
     FillJobTable();
     Platform.ExecutableFolder = [] { return ScratchFolder(); };

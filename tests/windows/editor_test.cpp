@@ -27,10 +27,12 @@
 #include <QListWidget>
 #include <QMainWindow>
 #include <QMimeData>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextLayout>
+#include <QWindow>
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
@@ -67,10 +69,11 @@ TEST_CASE("typing starts an edit, Tab goes right, Enter goes down, and the title
     CHECK(frmBorinput::SSLith.Cell(1, 1) == "5.5");
     CHECK(frmBorinput::SSLith.Cell(1, 2) == "cl");
     CHECK(frmBorinput::SSLith.row == 2);
-    CHECK(frmBorinput::SSLith.column == 2);
+    CHECK(frmBorinput::SSLith.column == 1); // where the Tab was pressed
     CHECK(FileChanged == 1);
     CHECK(log->isWindowModified());
     Press(Qt::Key_Up);
+    Press(Qt::Key_Right);
     Press(Qt::Key_F2);
     TypeText("x");
     Press(Qt::Key_Escape);
@@ -265,17 +268,17 @@ TEST_CASE("Tab leaves a text box, and a click on a description item writes it at
     CHECK(frmBorinput::MemoDes.text == "very dense" + before);
 }
 
-TEST_CASE("a letter that the code page lacks is typed and pasted as a question mark")
+TEST_CASE("letters that the code page lacks are typed and pasted as their nearest, a line sign as a line end")
 {
     QMainWindow* log = LogWindow();
     auto* view = static_cast<QPlainTextEdit*>(Bring(log, "MemoRemarks"));
     Click(view->viewport());
     QApplication::clipboard()->setText(QString::fromUtf8("π≈3\u2028\U0001F600é\u00a0\tz"));
     Press(Qt::Key_V, Qt::ControlModifier);
-    CHECK(frmBorinput::MemoRemarks.text == "??3??\xE9\xA0\tz");
+    CHECK(frmBorinput::MemoRemarks.text == "pi~3\r\n?\xE9\xA0\tz");
     QKeyEvent pi(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString::fromUtf8("π"));
     QApplication::sendEvent(view, &pi);
-    CHECK(frmBorinput::MemoRemarks.text == "??3??\xE9\xA0\tz?");
+    CHECK(frmBorinput::MemoRemarks.text == "pi~3\r\n?\xE9\xA0\tzpi");
 }
 
 TEST_CASE("typing into a description of 1000 lines puts each letter at the caret, and the figures say what it costs")
@@ -385,9 +388,10 @@ TEST_CASE("a whole boring is typed, saved as the kept file, previewed, printed a
     TypeRows(log, "SSCuttings", {{"5", "40", "40", "20"}});
     TypeRows(log, "SSLegend", {{"CL", "lean clay"}, {"SM", "silty sand"}});
     CHECK(log->isWindowModified());
-    CHECK(Find<QLabel>(log, "lblState")->text() == "2 pages");
+    CHECK(Find<QLabel>(log, "lblState")->text() == "no page");
     CHECK(Find<QLabel>(log, "lblWidthtot")->text() == "Total Width: " + ToUi(frmBorinput::lblWidthtot));
     SaveAs(log, "TYPED");
+    CHECK(Find<QLabel>(log, "lblState")->text() == "2 pages");
     CHECK_FALSE(log->isWindowModified());
     CHECK(log->windowTitle().toStdString() == Scratch("samples/TYPED.BOR") + " - VeskLog - Boring Log Diagram[*]");
     if (std::getenv("STRATAVUE_ACCEPT"))
@@ -702,4 +706,221 @@ TEST_CASE("pictures of the tabs")
         tabs->setCurrentIndex(i);
         LookAt(log, "tab" + std::to_string(i));
     }
+}
+
+// ---- Enter behind Tabs
+
+static void CheckAt(const Grid& grid, int row, int column)
+{
+    CHECK(grid.row == row);
+    CHECK(grid.column == column);
+}
+
+TEST_CASE("Enter behind a run of Tabs goes to the column where the run began, one row down, and Shift+Enter one row up")
+{
+    QMainWindow* log = LogWindow();
+    const Grid& lith = frmBorinput::SSLith;
+    ClickCell(log, "SSLith", 2, 2);
+    TypeText("cl\ts\tbrown\n");
+    CheckAt(lith, 3, 2);
+    CHECK(lith.Cell(2, 4) == "brown");
+    TypeText("sm\t\t\n"); // Tabs with nothing typed
+    CheckAt(lith, 4, 2);
+    Press(Qt::Key_Tab);
+    Press(Qt::Key_Tab);
+    Press(Qt::Key_Return, Qt::ShiftModifier);
+    CheckAt(lith, 3, 2);
+    TypeText("x\ty"); // and from the box of a cell
+    Press(Qt::Key_Return, Qt::ShiftModifier);
+    CheckAt(lith, 2, 2);
+    CHECK(lith.Cell(3, 2) == "x");
+    CHECK(lith.Cell(3, 3) == "y");
+    TypeText("\n");
+    CheckAt(lith, 3, 2);
+    TypeText("a\n"); // Enter alone stays in its column
+    CheckAt(lith, 4, 2);
+    ClickCell(log, "SSLith", 3, 3);
+    TypeText("\t\t5\t\n"); // over the end of the row
+    CheckAt(lith, 5, 3);
+    CHECK(lith.Cell(4, 1) == "5");
+}
+
+TEST_CASE("a click, an arrow and leaving the grid end a run of Tabs, and going back takes its beginning along")
+{
+    QMainWindow* log = LogWindow();
+    const Grid& lith = frmBorinput::SSLith;
+    ClickCell(log, "SSLith", 1, 1);
+    TypeText("\t\t");
+    Press(Qt::Key_Right);
+    TypeText("\n");
+    CheckAt(lith, 2, 4);
+    ClickCell(log, "SSLith", 1, 1);
+    TypeText("\t\t");
+    ClickCell(log, "SSLith", 1, 3); // where it is
+    TypeText("\n");
+    CheckAt(lith, 2, 3);
+    ClickCell(log, "SSLith", 1, 1);
+    TypeText("\t\tx");
+    Press(Qt::Key_Down); // ends the edit
+    TypeText("\n");
+    CheckAt(lith, 3, 3);
+    ClickCell(log, "SSLith", 1, 3);
+    TypeText("\t");
+    for (int i = 0; i < 2; ++i)
+        Press(Qt::Key_Backtab, Qt::ShiftModifier);
+    CheckAt(lith, 1, 2);
+    TypeText("\t\t\n");
+    CheckAt(lith, 2, 2);
+    ClickCell(log, "SSLith", 1, 2);
+    TypeText("\t");
+    Press(Qt::Key_F6);
+    Find<QWidget>(log, "SSLith")->setFocus(Qt::TabFocusReason);
+    TypeText("\n");
+    CheckAt(lith, 2, 3);
+    // Below the last row there is nowhere to go.
+    ClickCell(log, "SSLith", 100, 2);
+    TypeText("\t\n");
+    CheckAt(lith, 100, 3);
+}
+
+// ---- Markers
+
+static Text StatusWords(QMainWindow* log)
+{
+    return FromUi(log->statusBar()->currentMessage());
+}
+
+TEST_CASE("a row put in takes the markers along: the status line says so, the caret stays, and each box's Undo works")
+{
+    QMainWindow* log = LogWindow();
+    ClickCell(log, "SSLith", 1, 1);
+    TypeText("5\n10\n15\n");
+    auto* box = static_cast<QPlainTextEdit*>(Bring(log, "MemoDes"));
+    box->setFocus();
+    TypeText("@1\nsand\n@2\nclay\n@3\ntill");
+    for (int i = 0; i < 2; ++i)
+        Press(Qt::Key_Left); // inside the word
+    ClickCell(log, "SSLith", 2, 1);
+    ClickMenu(log, "mnuEdit", "mnuInsertRow");
+    CHECK(frmBorinput::MemoDes.text == "@1\r\nsand\r\n@2\r\n@3\r\nclay\r\n@4\r\ntill");
+    CHECK(box->toPlainText() == "@1\nsand\n@2\n@3\nclay\n@4\ntill");
+    CHECK(StatusWords(log) == "Markers @2 to @3 are now @3 to @4. @2 is new, and empty.");
+    CHECK(box->textCursor().position() == box->toPlainText().size() - 2);
+    LookAt(log, "markers-moved");
+    Settle();
+    Press(Qt::Key_Z, Qt::ControlModifier); // in the grid
+    CHECK(frmBorinput::SSLith.Cell(2, 1) == "10");
+    CHECK(box->toPlainText() == "@1\nsand\n@2\nclay\n@3\ntill");
+    CHECK(StatusWords(log) == "Taken back: Markers @2 to @3 are now @3 to @4. @2 is new, and empty.");
+    Press(Qt::Key_Y, Qt::ControlModifier);
+    CHECK(box->toPlainText() == "@1\nsand\n@2\n@3\nclay\n@4\ntill");
+    // In the box the move is a step as well, and what was typed before it is not lost.
+    box->setFocus();
+    box->undo();
+    CHECK(frmBorinput::MemoDes.text == "@1\r\nsand\r\n@2\r\nclay\r\n@3\r\ntill");
+    CHECK(frmBorinput::SSLith.Cell(3, 1) == "10");
+    CHECK(box->document()->isUndoAvailable());
+    FileChanged = 0;
+    // Another boring takes nothing back.
+    ClickMenu(log, "mnuFile", "mnuNew");
+    CHECK(box->toPlainText() == "");
+    CHECK_FALSE(box->document()->isUndoAvailable());
+}
+
+// ---- The entries of the Edit menu in texts
+
+TEST_CASE("Edit > Cut, Copy and Paste act on the text that is typed in, and on no grid's block")
+{
+    QMainWindow* log = LogWindow();
+    ClickCell(log, "SSInfo", 1, 1);
+    TypeText("keep\n");
+    ClickCell(log, "SSInfo", 1, 1);
+    auto* line = Find<QLineEdit>(log, "Text1");
+    auto* layout = Find<QComboBox>(log, "cmbLayFile");
+    line->setFocus();
+    TypeText("MW-1");
+    line->selectAll();
+    ClickMenu(log, "mnuEdit", "mnuCut");
+    CHECK(frmBorinput::Text1 == "");
+    CHECK(QApplication::clipboard()->text() == "MW-1");
+    CHECK(frmBorinput::SSInfo.Cell(1, 1) == "keep");
+    ClickMenu(log, "mnuEdit", "mnuPaste");
+    CHECK(frmBorinput::Text1 == "MW-1");
+    line->setSelection(0, 2);
+    ClickMenu(log, "mnuEdit", "mnuCopy");
+    CHECK(QApplication::clipboard()->text() == "MW");
+    layout->setFocus();
+    ClickMenu(log, "mnuEdit", "mnuPaste");
+    CHECK(frmBorinput::cmbLayFile == "MW");
+    ClickMenu(log, "mnuEdit", "mnuUndo");
+    CHECK(frmBorinput::cmbLayFile == "");
+    for (const char* name : {"MemoDes", "txtClient"}) {
+        auto* box = static_cast<QPlainTextEdit*>(Bring(log, name));
+        box->setFocus();
+        TypeText("word");
+        box->selectAll();
+        ClickMenu(log, "mnuEdit", "mnuCut"); // no message
+        CHECK(box->toPlainText() == "");
+        ClickMenu(log, "mnuEdit", "mnuPaste");
+        CHECK(box->toPlainText() == "word");
+    }
+    CHECK(frmBorinput::MemoDes.text == "word");
+    // In the box of a cell too: the cell's letters, not the cell.
+    log->activateWindow();
+    Settle();
+    ClickCell(log, "SSInfo", 1, 1);
+    Press(Qt::Key_F2);
+    auto* cell = qobject_cast<QLineEdit*>(Focus());
+    REQUIRE(cell);
+    cell->setSelection(0, 2);
+    ClickMenu(log, "mnuEdit", "mnuCut");
+    Press(Qt::Key_Return);
+    CHECK(frmBorinput::SSInfo.Cell(1, 1) == "ep");
+    FileChanged = 0;
+}
+
+// ---- Titles and lists
+
+TEST_CASE("a name with the sign of unsaved changes in it stands in the title as it is")
+{
+    QMainWindow* log = LogWindow();
+    for (const char* name : {"a[*]b", "c[*][*]"}) {
+        frmBorinput::Title = name;
+        FileChanged = 0;
+        ClickMenu(log, "mnuEdit", "mnuFillDown"); // any command shows the title
+        CHECK(log->windowHandle()->title() == name);
+        FileChanged = 1;
+        ClickMenu(log, "mnuEdit", "mnuFillDown");
+        CHECK(log->windowHandle()->title().toStdString() == std::string(name) + "*");
+    }
+    FileChanged = 0;
+}
+
+TEST_CASE("at the start and after New the Layout File list begins at its first layout")
+{
+    QMainWindow* log = LogWindow();
+    auto* box = Find<QComboBox>(log, "cmbLayFile");
+    REQUIRE(box->count() > 2);
+    CHECK(box->currentIndex() == -1);
+    CHECK(box->currentText() == "");
+    OpenSample("MW-109.BOR");
+    box->setCurrentIndex(2);
+    emit box->textActivated(box->itemText(2));
+    CHECK(FromUi(box->itemText(2)) == frmBorinput::cmbLayFile);
+    FileChanged = 0;
+    ClickMenu(log, "mnuFile", "mnuNew");
+    CHECK(box->currentIndex() == -1);
+    CHECK(box->currentText() == "");
+    CHECK(frmBorinput::cmbLayFile == "");
+    box->setFocus();
+    Press(Qt::Key_Down);
+    CHECK(box->currentIndex() == 0);
+    CHECK(frmBorinput::cmbLayFile == FromUi(box->itemText(0)));
+    // Typing in the middle of a name keeps the caret there.
+    box->lineEdit()->setCursorPosition(1);
+    TypeText("xy");
+    CHECK(box->lineEdit()->cursorPosition() == 3);
+    CHECK(frmBorinput::cmbLayFile == FromUi(box->currentText()));
+    CHECK(box->currentIndex() == -1);
+    FileChanged = 0;
 }

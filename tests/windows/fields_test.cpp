@@ -4,6 +4,8 @@
 #include "windows/hands.h"
 
 #include "boring/boringboxes.h"
+#include "editors/checklist.h"
+#include "platform/qt/checkdock.h"
 #include "platform/qt/uitext.h"
 #include "report/prompts.h"
 #include "session/files.h"
@@ -25,6 +27,7 @@
 #include <QTableView>
 #include <QTest>
 #include <QTextBlock>
+#include <algorithm>
 #include <functional>
 #include <set>
 
@@ -198,7 +201,7 @@ static void ClickCheck(QMainWindow* log, const QString& words)
 {
     auto* list = Find<QListWidget>(log, "lstCheck");
     for (int row = 0; row < list->count(); ++row)
-        if (list->item(row)->text().startsWith(words)) {
+        if (list->item(row)->text().contains(words)) {
             list->scrollToItem(list->item(row));
             QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(row)).center());
             return;
@@ -239,7 +242,7 @@ TEST_CASE("the check list follows what is typed, and each entry leads to its cel
     Bring(log, "SSSamp");
     list->setFocus();
     for (int row = 0; row < list->count(); ++row)
-        if (list->item(row)->text().startsWith("Descriptions, line"))
+        if (list->item(row)->text().contains("Descriptions, line"))
             list->setCurrentRow(row);
     Press(Qt::Key_Return);
     CHECK(QApplication::focusWidget() == des);
@@ -249,6 +252,44 @@ TEST_CASE("the check list follows what is typed, and each entry leads to its cel
     CHECK(ReadScratch("samples/TC-103.BOR") == file);
     Press(Qt::Key_F7, Qt::ControlModifier);
     CHECK_FALSE(dock->isVisible());
+    FileChanged = 0;
+}
+
+TEST_CASE("an entry of the check list tells its weight by word and by sign, and a line above counts them")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-103.BOR");
+    Press(Qt::Key_F7, Qt::ControlModifier);
+    ClickCell(log, "SSLith", 2, 1);
+    TypeText("0.1\n");
+    Settle(300);
+    auto* list = Find<QListWidget>(log, "lstCheck");
+    REQUIRE(list->count() >= 1);
+    int weight = 0;
+    for (int row = 0; row < list->count(); ++row) {
+        const QListWidgetItem* item = list->item(row);
+        const QStringList words = {"Error: ", "Warning: ", "Remark: "};
+        int told = -1;
+        for (int i = 0; i < words.size(); ++i)
+            if (item->text().startsWith(words[i]))
+                told = i;
+        CHECK_MESSAGE(told >= weight, item->text().toStdString()); // the gravest first
+        weight = told;
+        CHECK_FALSE(item->icon().isNull());
+        CHECK(item->data(Qt::AccessibleTextRole).toString() == item->text());
+    }
+    CHECK(Find<QLabel>(log, "lblCheckHead")->text() == QString::fromStdString(CountsInWords(CheckBoring())));
+    // The three signs differ by their outline, in black and white too.
+    for (const QColor base : {QColor(Qt::white), QColor(30, 30, 30)}) {
+        QPalette palette;
+        palette.setColor(QPalette::Base, base);
+        QList<QImage> shapes;
+        for (const CheckWeight one : {CheckWeight::Error, CheckWeight::Warning, CheckWeight::Remark})
+            shapes << WeightSign(one, palette).pixmap(16).toImage().createAlphaMask();
+        CHECK(shapes[0] != shapes[1]);
+        CHECK(shapes[1] != shapes[2]);
+        CHECK(shapes[0] != shapes[2]);
+    }
     FileChanged = 0;
 }
 

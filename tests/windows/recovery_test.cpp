@@ -9,6 +9,7 @@
 #include "session/platform.h"
 #include "session/recovery.h"
 #include "session/session.h"
+#include "windows/hands.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -18,6 +19,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTabWidget>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 #include <atomic>
@@ -163,6 +165,86 @@ TEST_CASE(
     CHECK(typed > 0);
     CHECK(told->offered > 0);
     ::munmap(told, sizeof(Told));
+}
+
+TEST_CASE("Escape and the closing of the box at the question about a copy keep it for the next start; No takes it away")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("MW-108.BOR");
+    Find<QLineEdit>(log, "Text1")->setFocus();
+    QTest::keyClicks(Find<QLineEdit>(log, "Text1"), "!");
+    KeepCopy();
+    const Text folder = Scratch("userdata/Stratavue/recovery");
+    std::filesystem::copy(folder, Scratch("left"));
+    FileChanged = 0;
+    EndRecovery();
+    std::filesystem::remove_all(folder);
+    std::filesystem::copy(Scratch("left"), folder);
+    const std::function<void(QWidget*)> ways[] = {[](QWidget* box) {
+                                                      LookAt(box, "copy-question");
+                                                      Key(box, Qt::Key_Escape);
+                                                  },
+                                                  [](QWidget* box) { box->close(); },
+                                                  [](QWidget* box) {
+                                                      for (QAbstractButton* button :
+                                                           box->findChildren<QAbstractButton*>())
+                                                          if (button->text().remove('&') == "No")
+                                                              button->click();
+                                                  }};
+    for (const auto& way : ways) {
+        StartRecovery(folder);
+        WatchTool(LogTool);
+        CHECK(FilesIn(folder, ".copy").size() == 1);
+        Then("MsgBox", way);
+        OfferRecovery();
+        CheckAllDone();
+        EndRecovery();
+    }
+    CHECK(FilesIn(folder, "").empty());
+}
+
+// A copy of what stands in the boxes is made within an interval, while a cell is being typed in.
+static Text CopyWhileTyping(const char* window)
+{
+    Text copy;
+    const Text folder = Scratch("userdata/Stratavue/recovery");
+    for (int wait = 0; wait < 40 && copy.find("4711.25") == Text::npos; ++wait) {
+        Settle(50);
+        for (const Text& name : FilesIn(folder, ".copy"))
+            copy = ReadWholeFile(JoinPath(folder, name));
+    }
+    CHECK_MESSAGE((Focus() && Focus()->inherits("QLineEdit")), window); // it is typed in still
+    return copy;
+}
+
+TEST_CASE(
+    "a copy holds what is being typed in a cell, which goes on being typed and is no change before it is taken in")
+{
+    const int interval = RecoveryInterval;
+    RecoveryInterval = 600;
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-101.BOR");
+    ClickCell(log, "SSLith", 1, 1);
+    TypeText("4711.25");
+    CHECK(CopyWhileTyping("frmBorinput").find("\r\n4711.25\r\n") != Text::npos);
+    CHECK(FileChanged == 0);
+    CHECK(frmBorinput::SSLith.Cell(1, 1) != "4711.25");
+    Press(Qt::Key_Escape);
+    CHECK(frmBorinput::SSLith.Cell(1, 1) != "4711.25");
+    Then("frmCross", [](QWidget* cross) {
+        cross->activateWindow();
+        Settle();
+        auto* view = Find<QTableView>(cross, "SS1");
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(view->model()->index(0, 0)).center());
+        TypeText("4711.25");
+        CHECK(CopyWhileTyping("frmCross").find("\r\n4711.25\r\n") != Text::npos);
+        CHECK(FileChanged == 0);
+        Press(Qt::Key_Escape);
+        cross->close();
+    });
+    ClickMenu(log, "mnuTools", "mnuvcross");
+    CheckAllDone();
+    RecoveryInterval = interval;
 }
 
 TEST_CASE("after a crash the copy is offered in a box, Yes shows it in the window, and a clean end leaves none")

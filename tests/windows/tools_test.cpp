@@ -18,6 +18,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QDragEnterEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -441,12 +442,11 @@ TEST_CASE("rows go in and out of the grid that was entered last, a boring's row 
     });
 }
 
-TEST_CASE("a definition dropped on a tool's window opens; files of other kinds are not taken")
+TEST_CASE("a definition dropped on a tool's window opens, and one that ends early shows what was read")
 {
     QMainWindow* log = LogWindow();
     WriteScratch("samples/D.CRO", Lines({" 1 ", "5", "DROPPED", "", "", "", "", ""}));
     Visit(log, cases[0], [&](QWidget* tool) {
-        CHECK_FALSE(Drop(tool, Scratch("samples/TC-101.BOR")));
         ThenAnswer("Error 62 in OpenCrossFile.  Please contact Norvane", "OK");
         CHECK(Drop(tool, Scratch("samples/D.CRO")));
         Settle(50);
@@ -654,7 +654,11 @@ TEST_CASE("the workbench's check list follows the table, and an entry leads to i
     Visit(LogWindow(), cases[3], [](QWidget* tool) {
         for (const auto& [row, layer] : {std::pair(1, "A"), {2, "B"}, {3, "C"}})
             frmGIS::SSGISLayers.Cell(row, 1) = layer;
+        for (int row = 1; row <= 3; ++row)
+            frmGIS::SSGISLayers.Cell(row, 2) = "Tan1";
         frmGIS::Command2();
+        for (const auto& [column, cell] : {std::pair(1, "B"), {2, "1"}, {3, "2"}, {4, "3"}, {5, "TC-101"}})
+            frmGIS::SSGISInfo.Cell(2, column) = cell;
         for (const auto& [column, cell] : {std::pair(6, "5"), {7, "10"}, {8, "20"}})
             frmGIS::SSGISInfo.Cell(2, column) = cell;
         ClickMenu(tool, "mnuView", "mnuCheckList");
@@ -667,12 +671,119 @@ TEST_CASE("the workbench's check list follows the table, and an entry leads to i
         TypeText(tool, "x\n");
         Settle(300);
         REQUIRE(list->count() == 1);
-        CHECK(list->item(0)->text().startsWith("Row 2"));
+        CHECK(list->item(0)->text().startsWith("Warning: Row 2"));
         ClickCell(tool, "SSGISLayers", 1, 1);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(0)).center());
         CHECK(frmGIS::SSGISInfo.row == 2);
         CHECK(frmGIS::SSGISInfo.column == 8);
         CHECK(QApplication::focusWidget() == Find<QTableView>(tool, "SSGISInfo"));
+        Leave(tool);
+    });
+}
+
+TEST_CASE("a kind of the check list can be switched off for the project, which is told, and on again")
+{
+    const Text before = ProjectPath;
+    Visit(LogWindow(), cases[3], [](QWidget* tool) {
+        ProjectPath = Scratch("samples");
+        frmGIS::SSGISLayers.Cell(1, 1) = "SM";
+        frmGIS::Command2();
+        for (const auto& [column, cell] : {std::pair(1, "B"), {2, "1"}, {5, "NONE"}, {6, "five"}})
+            frmGIS::SSGISInfo.Cell(1, column) = cell;
+        ClickMenu(tool, "mnuView", "mnuCheckList");
+        Settle(300);
+        auto* list = Find<QListWidget>(tool, "lstCheck");
+        auto* head = Find<QLabel>(tool, "lblCheckHead");
+        auto* foot = Find<QLabel>(tool, "lblCheckFoot");
+        REQUIRE(list->count() == 4);
+        CHECK(head->text() == "1 error, 3 warnings");
+        CHECK(foot->text().isEmpty());
+        CHECK(list->item(0)->text().startsWith("Error: Row 1, B: SM \"five\""));
+
+        const QPoint place = list->visualItemRect(list->item(1)).center();
+        QContextMenuEvent context(QContextMenuEvent::Mouse, place, list->viewport()->mapToGlobal(place));
+        QApplication::sendEvent(list->viewport(), &context);
+        auto* menu = tool->findChild<QMenu*>("mnuCheckEntry");
+        REQUIRE(menu);
+        CHECK(menu->actions()[0]->text() == "Do not show: Borings of a layer table without coordinates or elevation");
+        menu->actions()[0]->trigger();
+        menu->close();
+        CHECK(list->count() == 2);
+        CHECK(head->text() == "1 error, 1 warning");
+        CHECK(foot->text() == "2 more are not shown, by the project's choice");
+        CHECK(ReadScratch("samples/project.cfg") == "check.off = gis-place\r\n");
+
+        auto* kinds = Find<QMenu>(tool, "mnuCheckKinds");
+        emit kinds->aboutToShow();
+        CHECK(Find<QAction>(tool, "kind.gis-boring")->isChecked());
+        Find<QAction>(tool, "kind.gis-boring")->trigger();
+        Find<QAction>(tool, "kind.gis-number")->trigger();
+        REQUIRE(list->count() == 1);
+        CHECK(list->item(0)->text() == "Nothing to remark");
+        CHECK_FALSE(head->isVisible());
+        CHECK(foot->text() == "4 more are not shown, by the project's choice");
+        emit kinds->aboutToShow();
+        for (const char* key : {"kind.gis-place", "kind.gis-boring", "kind.gis-number"}) {
+            CHECK_FALSE(Find<QAction>(tool, key)->isChecked());
+            Find<QAction>(tool, key)->trigger();
+        }
+        CHECK(list->count() == 4);
+        CHECK(foot->text().isEmpty());
+        CHECK(ReadScratch("samples/project.cfg") == "check.off =\r\n");
+        Leave(tool);
+    });
+    ProjectPath = before;
+}
+
+TEST_CASE("sections, fences and soil tables have a check list, and an entry leads to its cell or its text")
+{
+    QMainWindow* log = LogWindow();
+    const auto look = [](QWidget* tool) {
+        ClickMenu(tool, "mnuView", "mnuCheckList");
+        Settle(300);
+        tool->activateWindow(); // as behind any menu
+        Settle();
+        return Find<QListWidget>(tool, "lstCheck");
+    };
+    const auto click = [](QListWidget* list, const char* words) {
+        for (int row = 0; row < list->count(); ++row)
+            if (list->item(row)->text().contains(words)) {
+                list->scrollToItem(list->item(row));
+                QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(row)).center());
+                return;
+            }
+        FAIL(words);
+    };
+    Visit(log, cases[0], [&](QWidget* tool) {
+        ClickCell(tool, "SS1", 1, 2);
+        TypeText(tool, "NONE\n");
+        ClickCell(tool, "SS3", 1, 1);
+        click(look(tool), "NONE.bor is not found");
+        CHECK(QApplication::focusWidget() == Find<QTableView>(tool, "SS1"));
+        CHECK(frmCross::SS1.column == 2);
+        FileChanged = 0;
+        Leave(tool);
+    });
+    Visit(log, cases[1], [&](QWidget* tool) {
+        ClickCell(tool, "SS5", 3, 1);
+        TypeText(tool, "1,2\n");
+        ClickCell(tool, "SS3", 1, 1);
+        click(look(tool), "Panel 3 names 1");
+        CHECK(QApplication::focusWidget() == Find<QTableView>(tool, "SS5"));
+        CHECK(frmFence::SS5.row == 3);
+        FileChanged = 0;
+        Leave(tool);
+    });
+    Visit(log, cases[2], [&](QWidget* tool) {
+        auto* notes = Find<QPlainTextEdit>(tool, "MemoSoil");
+        notes->setFocus();
+        for (int line = 1; line <= 12; ++line)
+            TypeText(tool, "n\n");
+        ClickCell(tool, "SS1", 1, 1);
+        click(look(tool), "The notes exceed 10 lines");
+        CHECK(QApplication::focusWidget() == notes);
+        CHECK(notes->textCursor().atEnd());
+        FileChanged = 0;
         Leave(tool);
     });
 }
@@ -860,4 +971,39 @@ TEST_CASE(
         Settle();
     }
     CHECK(Find<QLineEdit>(log, "Text1")->text() == "TC-103xxx");
+}
+
+TEST_CASE("Enter behind a run of Tabs goes back to where it began in a tool's grid too")
+{
+    QMainWindow* log = LogWindow();
+    Visit(log, cases[0], [](QWidget* tool) {
+        ClickCell(tool, "SS1", 1, 1);
+        TypeText(tool, "A.BOR\t0\n");
+        CHECK(frmCross::SS1.row == 2);
+        CHECK(frmCross::SS1.column == 1);
+        Leave(tool);
+    });
+}
+
+TEST_CASE("a change of the font from a tool marks no empty document as changed")
+{
+    QMainWindow* log = LogWindow();
+    for (const ToolCase& one : cases)
+        Visit(log, one, [&](QWidget* tool) {
+            CAPTURE(one.window);
+            const auto otherFont = [](QWidget* window) {
+                auto* font = Find<QLineEdit>(window, "Text1");
+                font->selectAll();
+                QTest::keyClicks(font, DeviceConfig.FontName == "Arial" ? "DejaVu Sans" : "Arial");
+                ClickButton(window, "Command1");
+            };
+            const Text before = DeviceConfig.FontName;
+            Then("frmPrinterSetup", otherFont);
+            ClickMenu(tool, "mnuUtilities", "mnuGraphicSetup");
+            CheckAllDone();
+            CHECK(DeviceConfig.FontName != before);
+            CHECK(FileChanged == 0);
+            CHECK_FALSE(tool->isWindowModified());
+            Leave(tool);
+        });
 }

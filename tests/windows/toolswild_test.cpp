@@ -1,4 +1,5 @@
 // toolswild_test.cpp -- the tools beside the log tool under events that nobody planned.
+#include "windows/campaign.h"
 #include "windows/driver.h"
 
 #include "session/session.h"
@@ -11,7 +12,6 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
-#include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -99,13 +99,11 @@ static void DisturbTool(QWidget* tool)
 
 TEST_CASE("random events in the tools and from tool to tool end with no failure, and write no file that was not saved")
 {
-    const char* asked = std::getenv("STRATAVUE_WILD");
-    const int rounds = asked ? std::atoi(asked) : 4;
-    for (int round = 0; round < rounds; ++round) {
+    const Campaign campaign("tools", 4, 200);
+    for (const int round : campaign) {
         seed = unsigned(round) * 6131u + 29u;
         CAPTURE(round);
-        std::filesystem::remove_all(ScratchFolder());
-        std::filesystem::create_directories(ScratchFolder());
+        StartAfresh();
         QMainWindow* log = LogWindow();
         const auto before = FilesOf(Scratch("samples"));
         QStringList told;

@@ -1,4 +1,5 @@
 // wild_test.cpp -- the windows under events that nobody planned: they must neither fail nor write what was not saved.
+#include "windows/campaign.h"
 #include "windows/driver.h"
 
 #include "canvas/batch.h"
@@ -19,12 +20,12 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
-#include <cstdlib>
 #include <filesystem>
 #include <map>
+#include <memory>
 #include <set>
 
-static constexpr int sequencesPerWindow = 25, eventsPerSequence = 30;
+static constexpr int sequencesPerRound = 25, eventsPerSequence = 30;
 
 static unsigned seed;
 
@@ -222,34 +223,51 @@ static void RandomEvent(QMainWindow* log)
     QApplication::processEvents();
 }
 
-TEST_CASE("random clicks, keys, menu entries and answers end with no failure, and write no file that was not saved")
+// A window with a boring in it, and what looks after the boxes that its events open.
+namespace
 {
-    const char* asked = std::getenv("STRATAVUE_WILD"); // so many windows; 25 sequences are played in each
-    const int rounds = asked ? std::atoi(asked) : std::getenv("STRATAVUE_SOAK") ? 10000 / sequencesPerWindow : 3;
-    const char* from = std::getenv("STRATAVUE_WILD_FROM"); // to come back to a round that failed
-    for (int round = from ? std::atoi(from) : 0; round < rounds; ++round) {
-        CAPTURE(round);
-        seed = unsigned(round) * 7919u + 17u;
-        std::filesystem::remove_all(ScratchFolder());
-        std::filesystem::create_directories(ScratchFolder());
+struct Disturbed {
+    Disturbed(const char* sample, Done& done)
+    {
+        StartAfresh();
         RecoveryInterval = 200;
-        QPointer<QMainWindow> log = LogWindow();
-        OpenSample(round % 2 ? "TC-101.BOR" : "MW-108.BOR");
-        Done done;
+        log = LogWindow();
+        OpenSample(sample);
         // From the menu, by key or by the bar.
         for (const char* name : {"mnuSave", "mnuPreview"})
             QObject::connect(log->findChild<QAction*>(name), &QAction::triggered, [&done] {
                 done.saved.insert(OpenBoring());
                 done.drawn = true;
             });
-        QObject answering; // the looks end with it
         Look(answering, done);
-        for (int sequence = 0; sequence < sequencesPerWindow && log && log->isVisible(); ++sequence) {
+    }
+    bool Open() const
+    {
+        return log && log->isVisible();
+    }
+    QPointer<QMainWindow> log;
+    QObject answering; // the looks end with it
+};
+} // namespace
+
+TEST_CASE("random clicks, keys, menu entries and answers end with no failure, and write no file that was not saved")
+{
+    const Campaign campaign("log", 3, 10000 / sequencesPerRound);
+    for (const int round : campaign) {
+        CAPTURE(round);
+        seed = unsigned(round) * 7919u + 17u;
+        Done done;
+        std::unique_ptr<Disturbed> window;
+        for (int sequence = 0; sequence < sequencesPerRound; ++sequence) {
             CAPTURE(sequence);
+            if (!window || !window->Open()) { // the events may have left the program
+                window.reset();
+                window = std::make_unique<Disturbed>(round % 2 ? "TC-101.BOR" : "MW-108.BOR", done);
+            }
             const auto before = Files();
             done = Done();
-            for (int i = 0; i < eventsPerSequence && log && log->isVisible(); ++i)
-                RandomEvent(log);
+            for (int i = 0; i < eventsPerSequence && window->Open(); ++i)
+                RandomEvent(window->log);
             CheckFiles(before, done);
             for (const QString& words : done.told) {
                 // A description of more lines than a boring holds, after some imports, is refused so.

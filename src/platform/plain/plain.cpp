@@ -87,6 +87,7 @@ void UsePlainPlatform()
     Platform.ShowPrinting = [] {};
     Platform.ShowProgress = [](bool) {};
     Platform.StepProgress = [](const Text&, float) {};
+    Platform.ShowRunMessages = [] {};
     Platform.ShowChooser = [] {};
     Platform.ShowHelp = [] {};
     Platform.ShowProjEdit = [] {};
@@ -105,7 +106,7 @@ void UsePlainPlatform()
     Platform.ShowTool = [](Tool) {};
     Platform.ClipboardText = [] { return PlainClipboard; };
     Platform.SetClipboardText = [](const Text& text) { PlainClipboard = text; };
-    Platform.Notice = [](const Text& words) { Notices.push_back(words); };
+    Platform.Notice = Platform.Tell = [](const Text& words) { Notices.push_back(words); };
     Platform.Breathe = [] {};
     Platform.ShortDate = [] { return Text("1/2/2026"); };
     Platform.Unattended = false;

@@ -1,15 +1,21 @@
 // application.cpp -- the program as Qt sees it.
 #include "platform/qt/application.h"
 
+#include "platform/qt/uitext.h"
+#include "platform/qt/windowparts.h"
 #include "session/failure.h"
 #include "session/platform.h"
 #include "session/text.h"
 
+#include <QDropEvent>
 #include <QFile>
 #include <QIcon>
+#include <QMimeData>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QUrl>
+#include <QWidget>
 #include <cstdlib>
 
 bool StartDone = false;
@@ -68,9 +74,33 @@ void Application::ShowIcon()
     setWindowIcon(QFile::exists(icon) ? QIcon(icon) : QIcon::fromTheme("stratavue"));
 }
 
+// A file of the program that is dragged over a window or dropped there is for the window, and for no box on it. False:
+// it is not, and the box may take it.
+static bool DropOnWindow(QWidget* box, QDropEvent& event)
+{
+    const QUrl file = event.mimeData()->urls().value(0); // of several the first one
+    const Text name = FromUi(file.toLocalFile());
+    const QWidget* const modal = QApplication::activeModalWidget();
+    for (QWidget* at = box; at && !name.empty(); at = at->parentWidget())
+        if (auto* window = dynamic_cast<TakesFiles*>(at)) {
+            if (!window->Takes(name) || (modal && modal != at))
+                return false;
+            event.acceptProposedAction();
+            if (event.type() == QEvent::Drop)
+                window->OpenSoon(name);
+            return true;
+        }
+    return false;
+}
+
 bool Application::notify(QObject* receiver, QEvent* event)
 {
+    const QEvent::Type type = event->type();
+    const bool drop = type == QEvent::DragEnter || type == QEvent::DragMove || type == QEvent::Drop;
     try {
+        if (drop && receiver->isWidgetType() &&
+            DropOnWindow(static_cast<QWidget*>(receiver), *static_cast<QDropEvent*>(event)))
+            return true;
         return QApplication::notify(receiver, event);
     } catch (...) {
         TellRunTimeError();

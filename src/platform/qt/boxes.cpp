@@ -2,10 +2,14 @@
 #include "platform/qt/boxes.h"
 
 #include "canvas/batch.h"
+#include "canvas/runmessages.h"
+#include "platform/qt/typedtext.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
+#include "session/gridedit.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -46,6 +50,8 @@ static QMessageBox::StandardButtons Offered(Buttons buttons)
 
 int ShowMessageBox(const Text& words, Buttons buttons, Icon icon)
 {
+    if (CollectMessage(words, buttons, icon))
+        return Ok;
     Box box(QApplication::activeWindow());
     box.setObjectName("MsgBox");
     box.setWindowTitle("Stratavue");
@@ -55,7 +61,11 @@ int ShowMessageBox(const Text& words, Buttons buttons, Icon icon)
                 : icon == Exclamation ? QMessageBox::Warning
                                       : QMessageBox::NoIcon);
     box.setStandardButtons(Offered(buttons));
+    auto* collect = OffersList(buttons, icon) ? new QCheckBox("Collect further messages in a list", &box) : nullptr;
+    box.setCheckBox(collect);
     const int chosen = box.exec();
+    if (collect && collect->isChecked())
+        RunMessages.Collecting = true;
     RunPaused();
     switch (chosen) {
     case QMessageBox::Ok:
@@ -76,5 +86,5 @@ Text ShowInputBox(const Text& prompt, const Text& title, const Text& answer)
     box.setWindowTitle(ToUi(title));
     box.setLabelText(ToUi(prompt));
     box.setTextValue(ToUi(answer));
-    return box.exec() == QDialog::Accepted ? LineFromUi(box.textValue()) : Text();
+    return box.exec() == QDialog::Accepted ? OneLine(Typed(box.textValue())) : Text();
 }

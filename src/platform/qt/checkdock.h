@@ -2,7 +2,7 @@
 // where it is to be mended.
 #pragma once
 
-#include "editors/checklist.h"
+#include "editors/checkview.h"
 
 #include <QDockWidget>
 #include <QTimer>
@@ -10,9 +10,15 @@
 #include <vector>
 
 class ItemList;
+class QLabel;
 class QListWidget;
+class QListWidgetItem;
 class QMainWindow;
 class QMenu;
+class QToolButton;
+
+// The sign of a weight, told by its shape: a disc with a cross, a triangle with an exclamation mark, a ring with an i.
+QIcon WeightSign(CheckWeight weight, const QPalette& palette);
 
 class CheckDock : public QDockWidget
 {
@@ -23,10 +29,24 @@ public:
     std::function<void(const CheckEntry&)> GoTo;
     void Soon(); // something has changed: looked at anew when the user pauses
     QListWidget* List() const;
+    QWidget* Kinds() const; // the button with the kinds, for the way of the Tab key
+
+protected:
+    void changeEvent(QEvent* event) override;
 
 private:
+    QWidget* MakeContent();
     void Look();
+    void Show(const CheckList& list);
+    void Choose(const QListWidgetItem& item);
+    void FillKinds();
+    void ListMenu(const QPoint& place);
+    void Switch(const Text& key, bool off);
 
+    QLabel* head;
     ItemList* entries;
+    QLabel* foot;
+    QToolButton* kinds;
+    QMenu* kindsMenu;
     QTimer soon;
 };

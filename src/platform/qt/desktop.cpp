@@ -12,6 +12,7 @@
 #include "platform/qt/helpwindow.h"
 #include "platform/qt/pagepainter.h"
 #include "platform/qt/printers.h"
+#include "platform/qt/typedtext.h"
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
 #include "report/desitems.h"
@@ -28,17 +29,7 @@
 #include <QClipboard>
 #include <QDate>
 #include <QLocale>
-#include <QMainWindow>
-#include <QScreen>
-#include <QStatusBar>
 #include <QWidget>
-
-void CentreOnScreen(QWidget& window)
-{
-    const QRect room = window.screen()->availableGeometry();
-    const QSize size = window.isVisible() || window.testAttribute(Qt::WA_Resized) ? window.size() : window.sizeHint();
-    window.move(room.center() - QPoint(size.width() / 2, size.height() / 2));
-}
 
 static Text ExecutableFolder()
 {
@@ -52,7 +43,7 @@ static Text Today()
 
 static Text ClipboardText()
 {
-    return FromUi(QApplication::clipboard()->text());
+    return Typed(QApplication::clipboard()->text());
 }
 
 static void SetClipboardText(const Text& text)
@@ -60,12 +51,16 @@ static void SetClipboardText(const Text& text)
     QApplication::clipboard()->setText(ToUi(text));
 }
 
+static void Tell(const Text& words)
+{
+    TellWords(ToUi(words));
+}
+
 // A beep, and the words in the status bar of the window in front.
 static void Notice(const Text& words)
 {
     QApplication::beep();
-    if (auto* window = qobject_cast<QMainWindow*>(QApplication::activeWindow()))
-        window->statusBar()->showMessage(ToUi(words), 10000);
+    Tell(words);
 }
 
 // The commands of the log tool that belong to other windows.
@@ -143,6 +138,7 @@ void UseDesktopPlatform()
     Platform.ShowPrinting = ShowPrintingNotice;
     Platform.ShowProgress = ShowProgressWindow;
     Platform.StepProgress = StepProgressWindow;
+    Platform.ShowRunMessages = ShowRunMessagesWindow;
     Platform.ShowChooser = ShowOpenSave;
     Platform.ShowProjEdit = ShowProjEdit;
     Platform.ShowGraphicsSetup = ShowGraphicsSetup;
@@ -162,6 +158,7 @@ void UseDesktopPlatform()
     Platform.ClipboardText = ClipboardText;
     Platform.SetClipboardText = SetClipboardText;
     Platform.Notice = Notice;
+    Platform.Tell = Tell;
     Platform.Breathe = Breathe;
     Platform.ShortDate = Today;
     Platform.Unattended = false;

@@ -1,17 +1,21 @@
 // editorwindow.cpp -- what the small editors with a menu have in common.
 #include "platform/qt/editorwindow.h"
 
+#include "editors/nextfile.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 EditorWindow::EditorWindow(const char* name) : QDialog(QApplication::activeWindow())
 {
     setObjectName(name);
+    setAcceptDrops(true);
     content = new QVBoxLayout(this);
     content->setContentsMargins(14, 12, 14, 14);
     content->setSpacing(8);
@@ -55,6 +59,27 @@ void EditorWindow::reject()
         before();
     if (!mayClose || mayClose())
         QDialog::reject();
+}
+
+bool EditorWindow::Takes(const Text& name) const
+{
+    return mayClose && OpensFile(name);
+}
+
+void EditorWindow::OpenSoon(const Text& name)
+{
+    QTimer::singleShot(0, this, [this, name] {
+        if (before)
+            before();
+        if (opens && opens(name)) {
+            if (refresh)
+                refresh();
+            return;
+        }
+        close();
+        if (!isVisible())
+            NextFile = name;
+    });
 }
 
 void EditorWindow::closeEvent(QCloseEvent* event)

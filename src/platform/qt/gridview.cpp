@@ -1,8 +1,10 @@
 // gridview.cpp -- a grid record on the screen.
 #include "platform/qt/gridview.h"
 
+#include "platform/qt/typedtext.h"
 #include "platform/qt/uitext.h"
 #include "session/gridedit.h"
+#include "session/session.h"
 
 #include <QAbstractTableModel>
 #include <QComboBox>
@@ -54,7 +56,7 @@ public:
         typed = QModelIndex();
         if (at.row() >= grid.rows || at.column() >= grid.columns) // the cell has gone meanwhile
             return {};
-        TypeCell(grid, at.row() + 1, at.column() + 1, FromUi(typedText));
+        TypeCell(grid, at.row() + 1, at.column() + 1, Typed(typedText));
         return at;
     }
     int rowCount(const QModelIndex& parent) const override
@@ -152,11 +154,12 @@ static QRect OfferArrow(const QRect& cell)
 
 namespace
 {
-// The current row is tinted, and its number is bold. An edit ends at the arrows up and down too.
+// The current row is tinted, and its number is bold. An edit ends at Shift+Enter and the arrows up and down too.
 class CellDelegate : public QStyledItemDelegate
 {
 public:
-    CellDelegate(const Grid& shown, bool& goUp, QObject* parent) : QStyledItemDelegate(parent), grid(shown), up(goUp)
+    CellDelegate(const Grid& shown, EditEnd& end, QObject* parent)
+        : QStyledItemDelegate(parent), grid(shown), ended(end)
     {
     }
     std::function<bool()> offer; // the list of what the cell offers, also while it is edited; false: it has none
@@ -164,8 +167,12 @@ public:
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         const size_t column = size_t(index.column()) + 1;
-        if (column >= grid.choices.size() || grid.choices[column].empty())
-            return QStyledItemDelegate::createEditor(parent, option, index);
+        if (column >= grid.choices.size() || grid.choices[column].empty()) {
+            QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+            if (auto* line = qobject_cast<QLineEdit*>(editor))
+                CleanAsTyped(line);
+            return editor;
+        }
         auto* list = new QComboBox(parent);
         for (const Text& choice : grid.choices[column])
             list->addItem(ToUi(choice));
@@ -220,9 +227,12 @@ protected:
             const bool list = qobject_cast<QComboBox*>(editor); // they move in it
             if (key == Qt::Key_Down && static_cast<QKeyEvent*>(event)->modifiers() == Qt::AltModifier && offer())
                 return true;
-            if (!list && (key == Qt::Key_Up || key == Qt::Key_Down)) {
+            const bool arrow = !list && (key == Qt::Key_Up || key == Qt::Key_Down);
+            const bool back = (key == Qt::Key_Return || key == Qt::Key_Enter) &&
+                              static_cast<QKeyEvent*>(event)->modifiers().testFlag(Qt::ShiftModifier);
+            if (arrow || back) {
                 auto* box = static_cast<QWidget*>(editor);
-                up = key == Qt::Key_Up;
+                ended = back ? EditEnd::ShiftEnter : key == Qt::Key_Up ? EditEnd::ArrowUp : EditEnd::ArrowDown;
                 emit commitData(box);
                 emit closeEditor(box, SubmitModelCache);
                 return true;
@@ -233,7 +243,7 @@ protected:
 
 private:
     const Grid& grid;
-    bool& up; // the edit ended by the arrow up
+    EditEnd& ended;
 };
 } // namespace
 
@@ -276,7 +286,7 @@ GridView::GridView(const char* name, Grid& shown, QWidget* parent, const QString
     setHorizontalHeader(new Headings(Qt::Horizontal, this));
     setVerticalHeader(new Headings(Qt::Vertical, this));
     setModel(model);
-    auto* delegate = new CellDelegate(grid, up, this);
+    auto* delegate = new CellDelegate(grid, ended, this);
     delegate->offer = [this] {
         if (!Offered())
             return false;
@@ -433,9 +443,13 @@ void GridView::AsTyped(void (*work)())
         return work();
     const int row = currentIndex().row() + 1, column = currentIndex().column() + 1;
     const Text before = grid.Cell(row, column);
+    const int16_t flag = FileChanged;
     grid.Cell(row, column) = LineFromUi(box->text());
+    if (grid.Cell(row, column) != before)
+        FileChanged = 1;
     work();
     grid.Cell(row, column) = before;
+    FileChanged = flag;
 }
 
 // Enter, Tab and the arrows take what was typed and go on.
@@ -444,14 +458,26 @@ void GridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint h
     QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
     switch (hint) {
     case QAbstractItemDelegate::EditNextItem:
-        Step(0, 1);
+        Tab(1);
         break;
     case QAbstractItemDelegate::EditPreviousItem:
-        Step(0, -1);
+        Tab(-1);
         break;
     case QAbstractItemDelegate::SubmitModelCache:
-        Step(up ? -1 : 1, 0);
-        up = false;
+        switch (std::exchange(ended, EditEnd::Enter)) {
+        case EditEnd::Enter:
+            Enter(1);
+            break;
+        case EditEnd::ShiftEnter:
+            Enter(-1);
+            break;
+        case EditEnd::ArrowUp:
+            Step(-1, 0);
+            break;
+        case EditEnd::ArrowDown:
+            Step(1, 0);
+            break;
+        }
         break;
     case QAbstractItemDelegate::RevertModelCache: // Escape: nothing was typed
         break;
@@ -482,6 +508,27 @@ void GridView::Step(int rows, int columns)
     setCurrentIndex(model->index(std::clamp(row, 0, lastRow), std::clamp(column, 0, lastColumn)));
 }
 
+// A run of Tabs begins where the first one is pressed; going back beyond that takes its beginning along.
+void GridView::Tab(int columns)
+{
+    if (columns > 0 && tabbedFrom < 0)
+        tabbedFrom = currentIndex().column();
+    inRun = true;
+    Step(0, columns);
+    inRun = false;
+    if (columns < 0 && tabbedFrom >= 0)
+        tabbedFrom = std::min(tabbedFrom, currentIndex().column());
+}
+
+// Down a row, or up; behind a run of Tabs in the column where it began, so that row after row is typed in.
+void GridView::Enter(int rows)
+{
+    const int row = currentIndex().row() + rows;
+    const int column = std::exchange(tabbedFrom, -1);
+    if (row >= 0 && row < model->rowCount({}))
+        setCurrentIndex(model->index(row, column < 0 ? currentIndex().column() : column));
+}
+
 // To change what is there, the caret stands behind it; what is typed over a cell begins anew.
 bool GridView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
 {
@@ -500,7 +547,7 @@ bool GridView::focusNextPrevChild(bool next)
                            : at.row() == 0 && at.column() == 0;
     if (edge || !at.isValid())
         return QAbstractScrollArea::focusNextPrevChild(next);
-    Step(0, next ? 1 : -1);
+    Tab(next ? 1 : -1);
     return true;
 }
 
@@ -528,13 +575,16 @@ void GridView::keyPressEvent(QKeyEvent* event)
              (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace))
         ClearSelected(grid);
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        Step(event->modifiers() & Qt::ShiftModifier ? -1 : 1, 0);
+        Enter(event->modifiers() & Qt::ShiftModifier ? -1 : 1);
     else if (event->key() == Qt::Key_Down && event->modifiers() == Qt::AltModifier)
         Offer();
     else if (event->key() == Qt::Key_F6) // out of the grid, to the next box or the one before
         QAbstractScrollArea::focusNextPrevChild(!(event->modifiers() & Qt::ShiftModifier));
-    else
+    else {
+        if (event->key() >= Qt::Key_Home && event->key() <= Qt::Key_PageDown) // at an edge they move nowhere
+            tabbedFrom = -1;
         return QTableView::keyPressEvent(event);
+    }
     event->accept();
     Done();
     if (pasted)
@@ -581,6 +631,9 @@ void GridView::Offer()
 void GridView::focusInEvent(QFocusEvent* event)
 {
     entered = event->reason() == Qt::MouseFocusReason;
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
+        event->reason() == Qt::ShortcutFocusReason)
+        tabbedFrom = -1;
     QTableView::focusInEvent(event);
 }
 
@@ -590,6 +643,7 @@ void GridView::mousePressEvent(QMouseEvent* event)
     const bool onArrow = !std::exchange(entered, false) && event->button() == Qt::LeftButton &&
                          event->modifiers() == Qt::NoModifier && Offered() &&
                          OfferArrow(visualRect(currentIndex())).contains(event->pos());
+    tabbedFrom = -1;
     QTableView::mousePressEvent(event);
     if (onArrow)
         Offer();
@@ -607,6 +661,8 @@ void GridView::contextMenuEvent(QContextMenuEvent* event)
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
     QTableView::currentChanged(current, previous);
+    if (!inRun)
+        tabbedFrom = -1;
     viewport()->update(); // the tint of the row
     TakeSelection();
 }

@@ -11,6 +11,9 @@
 
 class GridModel;
 
+// The key that has ended an edit.
+enum class EditEnd { Enter, ShiftEnter, ArrowUp, ArrowDown };
+
 class GridView : public QTableView
 {
 public:
@@ -39,6 +42,8 @@ protected:
 private:
     void Done(); // a procedure has worked on the record
     void Step(int rows, int columns);
+    void Tab(int columns);
+    void Enter(int rows);
     void TakeSelection();
     void KeepWidths() const;
     void Stretch();
@@ -52,7 +57,9 @@ private:
     QString widthsKept;
     bool showing = false; // the view follows the record, not the user
     bool fitting = false;
-    bool up = false;            // an edit has ended by the arrow up
+    EditEnd ended = EditEnd::Enter;
+    int tabbedFrom = -1;        // the first column of a run of Tabs, which Enter goes back to; -1: there is no run
+    bool inRun = false;         // the step under way belongs to it
     bool entered = false;       // by a press that is still to come
     QTimer keepSoon;            // while a column is dragged its width changes at every step
     std::vector<bool> widthSet; // columns whose width is the user's own

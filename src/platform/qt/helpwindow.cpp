@@ -29,9 +29,21 @@ description that belongs to a contact begins with a line **@** and the number of
 depth with **-** and the depth.
 
 **View** has two helpers: *Page beside the Boxes* (Ctrl+F5) draws the page while you type, and a click on a layer leads
-to its row; the *Check List* points at what a reviewer would flag, and leads to it.
+to its row; the *Check List* (Ctrl+F7) points at what a reviewer would flag.
 
 A star in the title tells of changes that are not saved. They are copied each minute, and offered again after a crash.
+
+## The check list
+
+Every tool has one in its **View** menu. It follows what is typed; a click on an entry, or Enter, leads to its cell. An
+entry is an **error** (a page would be wrong or incomplete, or data lost), a **warning** (most likely a slip) or a
+**remark** (worth a look); the gravest come first, and the line above the list counts them.
+
+What a project does on purpose need not be told again and again: *Do not show* in the context menu of an entry, or
+*Kinds* below the list, switches a kind off for the project, and on again. The line below the list tells how many entries
+are hidden so. The choice stands in the file *project.cfg* of the project folder, in the line *check.off*.
+
+The command `stratavue-batch check FILE...` prints the same lists for any number of files.
 
 ## The log
 

@@ -1,4 +1,4 @@
-// main.cpp -- the desktop program: Qt, the seam, the jobs, the start, and then the boring of the command line, which is
+// main.cpp -- the desktop program: Qt, the seam, the jobs, the start, and then the file of the command line, which is
 // how a desktop opens one.
 #include "batch/jobtable.h"
 #include "platform/qt/application.h"
@@ -7,20 +7,34 @@
 #include "session/startup.h"
 
 #include <QFileInfo>
+#include <QTimer>
+
+#include <cstdio>
 
 int main(int argc, char** argv)
 {
+    // Before Qt, which needs a display.
+    if (const std::string answer = ShellAnswer({argv + 1, argv + argc}); !answer.empty()) {
+        std::fputs(answer.c_str(), stdout);
+        return 0;
+    }
     Application application(argc, argv);
-    // Before the start, which leaves the folder that a relative name counts from.
+    // Before the start, which leaves the folder that a relative name counts from. Qt has taken its own options out.
     const QString file = Application::arguments().value(1);
-    const Text boring = file.isEmpty() ? Text() : FromUi(QFileInfo(file).absoluteFilePath());
+    if (file.startsWith("-")) {
+        std::fprintf(stderr, "stratavue: unknown option %s (see stratavue --help)\n", qPrintable(file));
+        return 2;
+    }
+    const Text name = file.isEmpty() ? Text() : FromUi(QFileInfo(file).absoluteFilePath());
     UseDesktopPlatform();
     FillJobTable();
     Main();
     if (!StartDone)
         return 1;
-    OfferRecovery();
-    if (!boring.empty())
-        OpenInLogWindow(boring);
+    QTimer::singleShot(0, [name] {
+        OfferRecovery();
+        if (!name.empty())
+            OpenInLogWindow(name);
+    });
     return Application::exec();
 }

@@ -3,8 +3,9 @@
 
 #include "platform/qt/uitext.h"
 #include "session/linebreaks.h"
+#include "session/textedits.h"
 
-#include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
 #include <QTextBlock>
@@ -32,19 +33,6 @@ static Text FromDocument(QString shown)
         if (letter.unicode() >= firstSign && letter.unicode() < firstSign + controlCharacters)
             letter = QChar(ushort(letter.unicode() - firstSign));
     return FromUi(shown);
-}
-
-// What comes from outside, in letters of the code page.
-static QString Clean(const QString& text)
-{
-    Text inside = FromUi(text);
-    Text lines; // every kind of line end is a paragraph's
-    for (size_t i = 0; i < inside.size(); ++i) {
-        if (inside[i] == '\r' && i + 1 < inside.size() && inside[i + 1] == '\n')
-            continue;
-        lines += inside[i] == '\r' || inside[i] == '\n' ? "\r\n" : Text(1, inside[i]);
-    }
-    return ToDocument(lines);
 }
 
 // ---- The lines
@@ -118,7 +106,7 @@ private:
 
 // ---- The box
 
-MemoView::MemoView(const char* name, Memo& shown, QWidget* parent) : QPlainTextEdit(parent), memo(shown)
+MemoView::MemoView(const char* name, Memo& shown, QWidget* parent) : TypedTextEdit(parent), memo(shown)
 {
     setObjectName(name);
     setTabChangesFocus(true);
@@ -172,13 +160,30 @@ void MemoView::Refresh()
     layout->width = wanted;
     if (now != memo.text) {
         showing = true;
-        setPlainText(ToDocument(memo.text));
+        if (memo.edited)
+            Follow(now);
+        else
+            setPlainText(ToDocument(memo.text));
         showing = false;
     }
+    memo.edited = false;
     if (sized) {
         layout->LayOutAll();
         viewport()->update();
     }
+}
+
+// What a command has changed is a step of this box's Undo too, and the caret stays at its words.
+void MemoView::Follow(const Text& shown)
+{
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    for (const TextEdit& edit : EditsBetween(shown, memo.text)) {
+        cursor.setPosition(edit.from);
+        cursor.setPosition(edit.from + edit.removed, QTextCursor::KeepAnchor);
+        cursor.insertText(ToDocument(edit.put));
+    }
+    cursor.endEditBlock();
 }
 
 void MemoView::Insert(const Text& text)
@@ -197,7 +202,19 @@ QSize MemoView::sizeHint() const
     return QSize(TextWidth() + 40, 200);
 }
 
-// A letter that the code page lacks comes as "?" from the keyboard too.
+// Every kind of line end is a paragraph's.
+QString MemoView::Clean(const QString& typed) const
+{
+    const Text inside = Typed(typed);
+    Text lines;
+    for (size_t i = 0; i < inside.size(); ++i) {
+        if (inside[i] == '\r' && i + 1 < inside.size() && inside[i + 1] == '\n')
+            continue;
+        lines += inside[i] == '\r' || inside[i] == '\n' ? "\r\n" : Text(1, inside[i]);
+    }
+    return ToDocument(lines);
+}
+
 void MemoView::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Redo) ||
@@ -211,32 +228,13 @@ void MemoView::keyPressEvent(QKeyEvent* event)
         QPlainTextEdit::keyPressEvent(&plain);
         return;
     }
-    const QString text = event->text();
-    if (text.isEmpty() || !text[0].isPrint() || Clean(text) == text) {
-        QPlainTextEdit::keyPressEvent(event);
-        return;
-    }
-    QKeyEvent clean(event->type(), event->key(), event->modifiers(), Clean(text));
-    QPlainTextEdit::keyPressEvent(&clean);
-}
-
-void MemoView::inputMethodEvent(QInputMethodEvent* event)
-{
-    QInputMethodEvent clean(event->preeditString(), event->attributes());
-    clean.setCommitString(Clean(event->commitString()), event->replacementStart(), event->replacementLength());
-    QPlainTextEdit::inputMethodEvent(&clean);
+    TypedTextEdit::keyPressEvent(event);
 }
 
 // Files are for the window.
 bool MemoView::canInsertFromMimeData(const QMimeData* source) const
 {
     return !source->hasUrls() && source->hasText();
-}
-
-void MemoView::insertFromMimeData(const QMimeData* source)
-{
-    textCursor().insertText(Clean(source->text()));
-    ensureCursorVisible();
 }
 
 // Qt's own layout forgets all lines when the width of the window changes.

@@ -2,14 +2,14 @@
 // (session/linebreaks.h), which are the lines that are stored and printed.
 #pragma once
 
+#include "platform/qt/typedtext.h"
 #include "session/controls.h"
 
-#include <QPlainTextEdit>
 #include <functional>
 
 class MemoLayout;
 
-class MemoView : public QPlainTextEdit
+class MemoView : public TypedTextEdit
 {
 public:
     MemoView(const char* name, Memo& shown, QWidget* parent);
@@ -18,16 +18,16 @@ public:
     std::function<void()> OnChange; // after every change by the user, which the record has taken
 
 protected:
+    QString Clean(const QString& typed) const override;
     void keyPressEvent(QKeyEvent* event) override;
-    void inputMethodEvent(QInputMethodEvent* event) override;
     bool canInsertFromMimeData(const QMimeData* source) const override;
-    void insertFromMimeData(const QMimeData* source) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     QSize sizeHint() const override;
 
 private:
     int TextWidth() const; // of the widest line that fits, in pixels
+    void Follow(const Text& shown);
 
     Memo& memo;
     MemoLayout* layout;

@@ -5,10 +5,12 @@
 // gets a tenth of the style changes that way, and one tiling pattern where there were a hundred.
 #include "platform/qt/pagepainter.h"
 
+#include "canvas/colors.h"
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
 #include "session/failure.h"
 #include "session/files.h"
+#include "session/machine.h"
 
 #include <QGlyphRun>
 #include <QImage>
@@ -199,7 +201,7 @@ static std::map<std::string, LoadedPicture>& AllPictures() // by path
 static LoadedPicture Loaded(const std::string& path)
 {
     LoadedPicture picture;
-    picture.state = StateOf(path);
+    picture.state = Machine::StateOf(path);
     QImageReader::setAllocationLimit(1024); // megabytes: site maps are large
     QImageReader reader(QString::fromStdString(path));
     reader.setDecideFormatFromContent(true);
@@ -237,7 +239,7 @@ bool PictureLoads(const Text& name)
 
 void DropChangedPictures()
 {
-    std::erase_if(AllPictures(), [](const auto& entry) { return entry.second.state != StateOf(entry.first); });
+    std::erase_if(AllPictures(), [](const auto& entry) { return entry.second.state != Machine::StateOf(entry.first); });
 }
 
 // ---- The page

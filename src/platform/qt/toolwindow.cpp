@@ -2,7 +2,9 @@
 #include "platform/qt/toolwindow.h"
 
 #include "editors/borinput.h"
+#include "editors/fillform.h"
 #include "editors/livepreview.h"
+#include "editors/nextfile.h"
 #include "platform/qt/checkdock.h"
 #include "platform/qt/gridview.h"
 #include "platform/qt/livepane.h"
@@ -10,6 +12,7 @@
 #include "platform/qt/uitext.h"
 #include "platform/qt/windows.h"
 #include "session/gridedit.h"
+#include "session/recovery.h"
 #include "session/session.h"
 
 #include <QAction>
@@ -20,11 +23,11 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTableView>
+#include <QTextCursor>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -84,13 +87,19 @@ QMenu* ToolWindow::Menu(const char* name) const
     return findChild<QAction*>(name)->menu();
 }
 
-QAction* ToolWindow::Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
-                           std::function<void()> command)
+QAction* ToolWindow::Action(QMenu* menu, const char* name, const char* caption, QKeySequence keys)
 {
     auto* action = new QAction(caption, this);
     action->setObjectName(name);
     action->setShortcut(keys);
     menu->addAction(action);
+    return action;
+}
+
+QAction* ToolWindow::Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
+                           std::function<void()> command)
+{
+    QAction* action = Action(menu, name, caption, keys);
     connect(action, &QAction::triggered, this, [this, command] { Run(command); });
     return action;
 }
@@ -126,7 +135,8 @@ void ToolWindow::FillMenus()
     if (tool.drawJob != 0 || tool.Check)
         AddMenu(menuBar(), "mnuView", "&View");
     QMenu* utilities = AddMenu(menuBar(), "mnuUtilities", "&Utilities");
-    Entry(utilities, "mnuGraphicSetup", "Graphics/System &Set-Up...", {}, [] { Platform.ShowGraphicsSetup(); });
+    Entry(utilities, "mnuGraphicSetup", "Graphics/System &Set-Up...", {},
+          [this] { SetUpGraphics(tool.FileName.empty() && FileChanged == 0); });
     Entry(utilities, "mnuCreateLogo", "&Logo Set-Up...", {}, [] { Platform.ShowLogo(); });
     Entry(utilities, "mnuFillPatt", "Fill Pattern &Guide", {}, frmBorinput::mnuFillPatt);
     FillToolsMenu();
@@ -147,32 +157,31 @@ void ToolWindow::FillMenus()
     }
 }
 
-// In the text box, where it has the focus; else in the grid last entered.
-void ToolWindow::OnText(void (QPlainTextEdit::*text)(), void (*command)(Grid&))
-{
-    auto* box = qobject_cast<QPlainTextEdit*>(focusWidget());
-    if (box && text)
-        (box->*text)();
-    else if (!box)
-        command(ActiveGrid(tool));
-}
-
 void ToolWindow::FillEditMenu()
 {
     QMenu* edit = AddMenu(menuBar(), "mnuEdit", "&Edit");
-    const auto entry = [&](const char* name, const char* caption, QKeySequence keys, void (QPlainTextEdit::*text)(),
+    // In the text that has the focus; else in the grid last entered.
+    const auto entry = [&](const char* name, const char* caption, QKeySequence keys, TextCommand text,
                            void (*command)(Grid&)) {
-        return Entry(edit, name, caption, keys, [this, text, command] { OnText(text, command); });
+        QAction* action = Action(edit, name, caption, keys);
+        connect(action, &QAction::triggered, this, [this, text, command] {
+            if (!DoInText(focusWidget(), text))
+                Run([&] { command(ActiveGrid(tool)); });
+        });
+        return action;
     };
-    entry("mnuUndo", "&Undo", QKeySequence("Ctrl+Z"), &QPlainTextEdit::undo, [](Grid& grid) { UndoGrid(grid); });
-    entry("mnuRedo", "&Redo", {}, &QPlainTextEdit::redo, [](Grid& grid) {
+    entry("mnuUndo", "&Undo", QKeySequence("Ctrl+Z"), TextCommand::Undo, [](Grid& grid) { UndoGrid(grid); });
+    entry("mnuRedo", "&Redo", {}, TextCommand::Redo, [](Grid& grid) {
         RedoGrid(grid);
     })->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});
     edit->addSeparator();
-    entry("mnuCut", "Cu&t", QKeySequence("Ctrl+X"), &QPlainTextEdit::cut, CutSelected);
-    entry("mnuCopy", "&Copy", QKeySequence("Ctrl+C"), &QPlainTextEdit::copy, [](Grid& grid) { CopySelected(grid); });
-    entry("mnuPaste", "&Paste", QKeySequence("Ctrl+V"), &QPlainTextEdit::paste, PasteSelected);
-    entry("mnuFillDown", "&Fill Down", QKeySequence("Ctrl+D"), nullptr, FillDown);
+    entry("mnuCut", "Cu&t", QKeySequence("Ctrl+X"), TextCommand::Cut, CutSelected);
+    entry("mnuCopy", "&Copy", QKeySequence("Ctrl+C"), TextCommand::Copy, [](Grid& grid) { CopySelected(grid); });
+    entry("mnuPaste", "&Paste", QKeySequence("Ctrl+V"), TextCommand::Paste, PasteSelected);
+    Entry(edit, "mnuFillDown", "&Fill Down", QKeySequence("Ctrl+D"), [this] {
+        if (!qobject_cast<QPlainTextEdit*>(focusWidget()))
+            FillDown(ActiveGrid(tool));
+    });
     edit->addSeparator();
     Entry(edit, "mnuInsertRow", "&Insert Row", QKeySequence("Ctrl++"), [this] { ToolInsertRow(tool); });
     Entry(edit, "mnuDeleteRow", "&Delete Row", QKeySequence("Ctrl+-"), [this] { ToolDeleteRow(tool); });
@@ -199,27 +208,24 @@ void ToolWindow::Run(const std::function<void()>& command)
         ~Afterwards()
         {
             ShowProgressWindow(false);
-            if (!window.leaving)
-                window.Refresh();
+            if (window.leaving)
+                return;
+            window.Refresh();
+            if (!NextFile.empty()) // for which another window was left
+                window.OpenSoon(TakeNextFile());
         }
     } afterwards{*this};
     command();
 }
 
-// Files on the window: the first one is opened.
-void ToolWindow::dragEnterEvent(QDragEnterEvent* event)
+bool ToolWindow::Takes(const Text& name) const
 {
-    const QList<QUrl> files = event->mimeData()->urls();
-    if (!files.isEmpty() && files[0].toLocalFile().endsWith(tool.ending, Qt::CaseInsensitive))
-        event->acceptProposedAction();
+    return OpensFile(name);
 }
 
-void ToolWindow::dropEvent(QDropEvent* event)
+void ToolWindow::OpenSoon(const Text& name)
 {
-    const Text name = FromUi(event->mimeData()->urls().value(0).toLocalFile());
-    event->acceptProposedAction();
-    // The program that the file comes from waits for the end of the drop, and not for the user's answers.
-    QTimer::singleShot(0, this, [this, name] { Run([&] { ToolOpenNamed(tool, name); }); });
+    QTimer::singleShot(0, this, [this, name] { Run([&] { ToolOpenFromOutside(tool, name); }); });
 }
 
 // ---- Boxes
@@ -305,16 +311,29 @@ void ToolWindow::AddCheckList()
     checks->Check = tool.Check;
     checks->GoTo = [this](const CheckEntry& entry) { GoTo(entry); };
     Own(checks->List());
+    Own(checks->Kinds());
 }
 
 void ToolWindow::GoTo(const CheckEntry& entry)
 {
-    auto* view = findChild<QTableView*>(entry.GridName);
-    const QModelIndex cell = view->model()->index(entry.Row - 1, entry.Column - 1);
-    view->setCurrentIndex(cell);
-    view->scrollTo(cell);
+    QWidget* box = entry.TextBox[0] ? findChild<QWidget*>(entry.TextBox) : nullptr;
+    for (const auto& [known, grid] : gridOf)
+        if (!box && grid == entry.InGrid)
+            box = qobject_cast<QWidget*>(known);
+    if (!box)
+        return;
+    if (auto* view = qobject_cast<QTableView*>(box)) {
+        const QModelIndex cell = view->model()->index(entry.Row - 1, entry.Column - 1);
+        view->setCurrentIndex(cell);
+        view->scrollTo(cell);
+    } else if (auto* text = qobject_cast<QPlainTextEdit*>(box)) {
+        QTextCursor caret = text->textCursor();
+        caret.setPosition(std::min(entry.Place, int(text->toPlainText().size())));
+        text->setTextCursor(caret);
+        text->ensureCursorVisible();
+    }
     activateWindow(); // the list may float in a window of its own
-    view->setFocus();
+    box->setFocus();
 }
 
 void ToolWindow::AddStatusBar()
@@ -326,7 +345,7 @@ void ToolWindow::AddStatusBar()
 
 void ToolWindow::ShowState()
 {
-    setWindowModified(FileChanged == 1);
+    setWindowModified(FileChanged == 1 || SaveOwed());
     if (live)
         live->Soon();
     if (checks)
@@ -343,7 +362,7 @@ void ToolWindow::Typed()
 
 void ToolWindow::Refresh()
 {
-    setWindowTitle(ToUi(tool.Title) + "[*]");
+    setWindowTitle(MarkedTitle(tool.Title));
     Typed();
     int rows = 0;
     for (const Grid* grid : tool.grids)
@@ -357,7 +376,7 @@ void ToolWindow::Refresh()
         shownFile = tool.FileName;
     }
     fittedRows = rows;
-    recent->Show(tool.FileName);
+    recent->Show(tool.RecentFile);
     project->setText("Project folder: " + ToUi(ProjectPath));
 }
 
@@ -382,6 +401,8 @@ void ToolWindow::Blocking(QWidget* content)
     if (!order.empty())
         order.front()->setFocus();
     tool.active = nullptr; // no grid has been entered by the user yet
+    if (!NextFile.empty())
+        OpenSoon(TakeNextFile());
     loop.exec();
 }
 

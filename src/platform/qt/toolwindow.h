@@ -17,7 +17,7 @@ class LivePane;
 class QLabel;
 class QPlainTextEdit;
 
-class ToolWindow : public QMainWindow
+class ToolWindow : public QMainWindow, public TakesFiles
 {
 public:
     explicit ToolWindow(ToolRecord& shown);
@@ -30,16 +30,17 @@ public:
     void Own(QWidget* widget, std::function<void()> shows = nullptr);
     QAction* Entry(QMenu* menu, const char* name, const char* caption, QKeySequence keys,
                    std::function<void()> command);
+    QAction* Action(QMenu* menu, const char* name, const char* caption, QKeySequence keys);
     QMenu* Menu(const char* name) const;
     void Run(const std::function<void()>& command); // and what it has done is shown
     void Blocking(QWidget* content);                // shown until it is left
+    bool Takes(const Text& name) const override;
+    void OpenSoon(const Text& name) override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* box, QEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
 
 private:
     void FillMenus();
@@ -49,7 +50,6 @@ private:
     void AddCheckList();
     void GoTo(const CheckEntry& entry);
     void AddStatusBar();
-    void OnText(void (QPlainTextEdit::*text)(), void (*command)(Grid&));
     void ShowState();
     void Refresh();
     void Typed();

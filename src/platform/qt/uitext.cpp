@@ -2,6 +2,7 @@
 #include "platform/qt/uitext.h"
 
 #include "session/gridedit.h"
+#include "session/nearest.h"
 
 #include <QPlainTextEdit>
 #include <QTextBlock>
@@ -24,12 +25,14 @@ QString ToUi(std::string_view text)
     return shown;
 }
 
-Text FromUi(const QString& text)
+// The pieces between the signs that stand for codes of our own, each by its own conversion.
+template <class Convert>
+static Text ByPieces(const QString& text, Convert convert)
 {
     Text inside;
     qsizetype from = 0;
     const auto takeTo = [&](qsizetype end) {
-        inside += FromUtf8(text.mid(from, end - from).toStdString());
+        inside += convert(text.mid(from, end - from).toStdString());
         from = end + 1;
     };
     for (qsizetype i = 0; i < text.size(); ++i)
@@ -40,6 +43,21 @@ Text FromUi(const QString& text)
             takeTo(i);
     takeTo(text.size());
     return inside;
+}
+
+Text FromUi(const QString& text)
+{
+    return ByPieces(text, [](const std::string& utf8) { return FromUtf8(utf8); });
+}
+
+TypedText FromTyped(const QString& text)
+{
+    std::string all;
+    const Text inside = ByPieces(text, [&all](const std::string& utf8) {
+        all += utf8;
+        return NearestOf(utf8).text;
+    });
+    return {inside, QString::fromStdString(ReplacedCharacters(all))};
 }
 
 Text LineFromUi(const QString& text)

@@ -16,5 +16,12 @@ Text FromUi(const QString& text);
 // Of a box of one line: blanks for line ends, which such a box takes from the clipboard and shows as blanks. A line of
 // a file cannot hold them.
 Text LineFromUi(const QString& text);
+// What the user types, pastes or drops: for a character that the code page lacks the nearest stands, and the words say
+// which became what, empty for none.
+struct TypedText {
+    Text text;
+    QString words;
+};
+TypedText FromTyped(const QString& text);
 // Paragraphs ended by CR LF. The box's own way to ask for its text makes blanks of the blanks that do not break.
 Text TextOf(const QPlainTextEdit& box);

@@ -6,12 +6,23 @@
 #include "session/platform.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
+#include <QPlainTextEdit>
+#include <QScreen>
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
 #include <utility>
+
+void CentreOnScreen(QWidget& window)
+{
+    const QRect room = window.screen()->availableGeometry();
+    const QSize size = window.isVisible() || window.testAttribute(Qt::WA_Resized) ? window.size() : window.sizeHint();
+    window.move(room.center() - QPoint(size.width() / 2, size.height() / 2));
+}
 
 QSplitter* Split(Qt::Orientation orientation, std::initializer_list<QWidget*> boxes, std::initializer_list<int> shares)
 {
@@ -40,6 +51,40 @@ void AddStatusWords(QStatusBar* bar, QLabel*& project, QLabel*& state)
     state->setContentsMargins(8, 0, 8, 0);
     bar->addWidget(project, 1);
     bar->addPermanentWidget(state);
+}
+
+template <class Box>
+static void Do(Box& box, TextCommand command)
+{
+    switch (command) {
+    case TextCommand::Undo:
+        return box.undo();
+    case TextCommand::Redo:
+        return box.redo();
+    case TextCommand::Cut:
+        return box.cut();
+    case TextCommand::Copy:
+        return box.copy();
+    case TextCommand::Paste:
+        return box.paste();
+    }
+}
+
+bool DoInText(QWidget* focus, TextCommand command)
+{
+    const auto* list = qobject_cast<QComboBox*>(focus); // it has the focus for its field
+    auto* line = list ? list->lineEdit() : qobject_cast<QLineEdit*>(focus);
+    auto* text = qobject_cast<QPlainTextEdit*>(focus);
+    if (text)
+        Do(*text, command);
+    else if (line)
+        Do(*line, command);
+    return text || line;
+}
+
+QString MarkedTitle(const Text& title)
+{
+    return ToUi(title).replace("[*]", "[*][*]") + "[*]";
 }
 
 static constexpr int maxRecent = 9;

@@ -18,8 +18,28 @@ class QWidget;
 // Boxes beside or above one another, with movable borders between them; shares of the room.
 QSplitter* Split(Qt::Orientation orientation, std::initializer_list<QWidget*> boxes, std::initializer_list<int> shares);
 
+// Puts the window into the middle of its screen.
+void CentreOnScreen(QWidget& window);
+
+// A window that opens files from outside, by the command line or dropped on it.
+struct TakesFiles {
+    virtual ~TakesFiles() = default;
+    virtual bool Takes(const Text& name) const = 0; // whether it opens this one
+    // By a turn of the event loop, as a command of the window: the program that the file comes from waits for the end
+    // of a drop, and not for the user's answers.
+    virtual void OpenSoon(const Text& name) = 0;
+};
+
 // The two labels of a status bar: the project folder on the left, what is on hand on the right.
 void AddStatusWords(QStatusBar* bar, QLabel*& project, QLabel*& state);
+
+// An entry of the Edit menu in the text that has the focus: a text box, a field of one line, the box of a cell that is
+// being typed in. False: none has it.
+enum class TextCommand { Undo, Redo, Cut, Copy, Paste };
+bool DoInText(QWidget* focus, TextCommand command);
+
+// The title of a window, with the place of the mark of unsaved changes: a name may hold the same signs.
+QString MarkedTitle(const Text& title);
 
 // The files opened or saved lately, as entries of a menu.
 class RecentFiles

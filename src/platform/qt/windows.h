@@ -30,13 +30,12 @@ void ShowGTGSGenEditor();               // frmGTGSGenEditor
 void ShowDrawArea();                    // frmDrawArea
 void ShowDrawPrintDialog();             // frmDrawPrint
 void ShowPrintingNotice();              // frmPrinting
+void ShowRunMessagesWindow();           // frmRunMessages
 void ShowProgressWindow(bool shown);    // frmProgress
 void StepProgressWindow(const Text& words, float percent);
 void Breathe();     // a turn for the window system
 bool RunUnderWay(); // a page is being made: the progress window is asked for
 void RunPaused();   // a box was up meanwhile: what the user took to read it does not count as a slow page
-
-void CentreOnScreen(QWidget& window);
 
 // Fills in Platform for the desktop program.
 void UseDesktopPlatform();

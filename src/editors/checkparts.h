@@ -1,0 +1,100 @@
+// checkparts.h -- what the parts of a boring's check list share. Each looks at one side of the boring as it stands in
+// the boxes, and flags what the page would show wrongly or not at all. They read files where a run looks for them, show
+// nothing and change nothing; CheckBoring calls them in its hush.
+#pragma once
+
+#include "editors/checkentry.h"
+#include "report/layout.h"
+
+namespace BoringChecks
+{
+// The numbers of the boxes, as ActiveBox. The text boxes share one.
+enum Box {
+    ScaleBox = 2,
+    PartsBox = 3,
+    SampleSetupBox = 4,
+    GeneralSetupBox = 5,
+    ParamBox = 6,
+    SampleBox = 7,
+    LithBox = 8,
+    TextBoxes = 9,
+    WellBox = 10,
+    OuterBox = 11,
+    InnerBox = 12,
+    CuttingBox = 14,
+    FormationBox = 15,
+    LegendBox = 16
+};
+
+// ---- The list
+
+void Flag(const char* kind, const Text& words, int box, int row, int column = 1);
+void FlagText(const char* kind, const Text& words, const char* textBox, int place = 0);
+
+// ---- The boxes
+
+int Rows(int box);                       // up to the last one with data
+Text Cell(int box, int row, int column); // as the file will hold it: without blanks at its ends
+double Number(int box, int row, int column);
+bool Empty(int box, int row, int column);
+bool EmptyRow(int box, int row);
+Text WhereIs(int box,
+             int row); // "Soil Sample Data, row 3", or the row's own name: "General Well Information, Stick-Up"
+Text Quoted(const Text& words);
+
+// The descriptions, or the remarks, as the file holds them or will hold them: a stored line each without the mark that
+// ends a paragraph, and where it begins in the text of its box, line ends as one character. Leaves them in LineBuffer.
+struct StoredLine {
+    Text Words;
+    int Place;
+};
+std::vector<StoredLine> StoredLines(int kind); // 1 descriptions, 3 remarks
+
+// ---- The page
+
+// The depths of a page of the log, by the scale that is typed in, as a run cuts them.
+struct PageDepths {
+    float Start, End;
+};
+std::vector<PageDepths> LogPages();
+float EndOfLog();    // of the last page; 0 for a log without pages
+float LastContact(); // the deepest; 0 without contacts
+struct DrawnPart {
+    Text Name; // in upper case
+    double Width;
+    int Row;
+};
+std::vector<DrawnPart> DrawnParts(); // the report parts up to the first empty one, where a run ends
+bool Draws(const char* front);       // one of them begins so
+bool DrawsGraphic();                 // patterns of the soil codes
+bool DrawsWell();
+Text LayoutFilePath();                 // where a run looks for the layout
+bool ReadLayout(LayoutRecord& layout); // false: it is not there
+double PageLength();                   // the inches that a page has for its depths, by the layout
+
+void LookForPatterns(); // in their folder, if it has changed; before codes are held against them
+
+// ---- The parts of the list
+
+void CheckScale(); // what a save warns of
+void CheckPages();
+void CheckDepthCells();
+void CheckContacts();
+void CheckSamples();
+void CheckDepths();
+void CheckWater();
+void CheckMarkers();
+void CheckNouns();
+void CheckLostText();
+void CheckLines();
+void CheckRoom();
+void CheckLetters();
+void CheckCodes();
+void CheckSampleKeys();
+void CheckWellFills();
+void CheckLegend();
+void CheckReportParts();
+void CheckWidth();
+void CheckGraphs();
+void CheckFiles();
+} // namespace BoringChecks

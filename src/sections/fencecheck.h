@@ -1,0 +1,10 @@
+// fencecheck.h -- what a reviewer of a fence diagram would flag, as it stands in its boxes. It warns and never blocks:
+// the boxes, the session and every record of a drawing stay as they are.
+#pragma once
+
+#include "editors/checkentry.h"
+
+// Borings and files that are not found, panels that are not drawn, stakes beyond the base plane or the sheet, scales,
+// codes that draw blank, fills that the legend lacks, and cells that are not read as they look. A form with nothing in
+// it has no entry.
+std::vector<CheckEntry> CheckFence();

@@ -1,0 +1,61 @@
+// machine.h -- the calls of the machine's own system, behind one header: files, locks, folders, the process. One file
+// for each system answers it (machine_posix.cpp), and no other file includes a system's header.
+//
+// Paths are the machine's own, in UTF-8, as NativePath returns them; "/" separates. An error is a number of <cerrno>,
+// 0 for none, which RaiseSystemError turns into the program's failure.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// What tells a file from what it was when it was read: its size, when it was written in nanoseconds, its number on the
+// disk. A file that is not there has the start values.
+struct FileState {
+    int64_t Size = -1, Written = 0, Number = 0;
+    bool operator==(const FileState&) const = default;
+};
+
+namespace Machine
+{
+bool Exists(const std::string& path);
+bool IsFolder(const std::string& path);
+bool Readable(const std::string& path); // by this user; a folder too
+bool Writable(const std::string& path);
+bool SameFile(const std::string& a, const std::string& b); // both are there, and are one file, links followed
+FileState StateOf(const std::string& path);
+
+// Changes whenever an entry of the folder is added, removed or renamed; 0 for no folder, or for one that has changed
+// within the last second, when a further change might not show.
+int64_t FolderStamp(const std::string& folder);
+std::vector<std::string> Entries(const std::string& folder); // names of files and folders, unsorted; empty if unread
+
+// The file that a link stands for, so that a save goes through the link and does not replace it. The path itself where
+// nothing is there.
+std::string BehindLinks(const std::string& path);
+
+// Reads the whole file into bytes. A folder is EACCES.
+int Read(const std::string& path, std::string& bytes);
+// Writes a file that is not there yet, which is gone again after an error. like: a file whose rights it is to have, or
+// "". flushed: the bytes are on the disk when this returns.
+int WriteNew(const std::string& path, std::string_view bytes, const std::string& like, bool flushed);
+// Moves a file over another one in one step: at every moment the old or the new one is there. flushed: the move is on
+// the disk too when this returns, where the system can tell.
+int Replace(const std::string& from, const std::string& to, bool flushed);
+int Flush(int handle); // an open file's bytes to the disk
+void Remove(const std::string& path);
+// Writes and removes a small file: the only test of a folder that counts on every kind of disk.
+bool ProbeFolder(const std::string& folder);
+void KeepPrivate(const std::string& folder); // for this user alone from now on
+
+// A lock that the system drops with the program, however it ends. -1: it is held elsewhere, or cannot be opened.
+int Lock(const std::string& path, bool make);
+void Unlock(int lock);
+
+int ProcessNumber();
+std::string CurrentFolder(); // "" where it cannot be told
+std::string ProgramFolder(); // of the program that runs; "" where it cannot be told
+// Makes a new folder for this user alone, for files of passing use. Its path, or "" with the error.
+std::string MakePrivateFolder(int& error);
+} // namespace Machine
