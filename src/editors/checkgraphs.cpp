@@ -6,6 +6,7 @@
 #include "logrender/generalvalues.h"
 #include "logrender/graph.h"
 #include "session/files.h"
+#include "session/machine.h"
 
 #include <algorithm>
 #include <cmath>
@@ -157,7 +158,7 @@ static const FileValues& ValuesOf(int n, const LogParamSetup& setup, float end)
 {
     static std::map<std::pair<Text, float>, FileValues> kept;
     const Text path = JoinPath(ProjectPath, setup.File);
-    const FileState state = StateOf(NativePath(path));
+    const FileState state = Machine::StateOf(NativePath(path));
     if (kept.size() > mostKept)
         kept.clear();
     FileValues& file = kept[{path + "|" + setup.Field, end}];
