@@ -17,6 +17,7 @@
 #include "canvas/hatchlines.h"
 #include "canvas/hatchstrokes.h"
 #include "canvas/metaugl.h"
+#include "canvas/outputmark.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "session/failure.h"
@@ -108,6 +109,7 @@ public:
             sheet.UnitsPerInch = double(PageCanvas.unitsPerInch);
         sheet.InchesWide = double(PageCanvas.pageWidthInches);
         sheet.InchesHigh = double(PageCanvas.pageHeightInches);
+        sheet.Mark = DrawingMark();
         const auto bounds = PageBounds();
         const bool empty = PageList.Objects.empty();
         sheet.Left = empty ? 0 : bounds[0];

@@ -41,6 +41,8 @@ enum Handle {
     LayerZero
 };
 
+constexpr char MarkWords[] = "Drawing of ";
+
 constexpr const char* layerNames[] = {"LINES", "RECTANGLES", "ELLIPSES", "ARCS",  "OUTLINES",
                                       "FILLS", "PATTERNS",   "STROKES",  "TEXTS", "PICTURES"};
 
@@ -304,6 +306,17 @@ void DxfTags::AddPoint(int code, double x, double y)
 
 // ---- Words
 
+Text MarkOfDxf(std::string_view drawing)
+{
+    const std::string_view head = drawing.substr(0, drawing.find("\r\n0\r\n"));
+    const std::string begin = "\r\n999\r\n" + Text(MarkWords);
+    const size_t at = head.find(begin);
+    if (at == std::string_view::npos)
+        return "";
+    const std::string_view mark = head.substr(at + begin.size());
+    return Text(mark.substr(0, mark.find("\r\n")));
+}
+
 std::string DxfString(std::string_view text)
 {
     std::string value;
@@ -433,6 +446,8 @@ void DxfDrawing::Header(DxfTags& out, const DxfSheet& sheet) const
 {
     out.Add(999, "One drawing unit is one device unit of the page: " + PlainNumber(sheet.UnitsPerInch) +
                      " units to the inch");
+    if (!sheet.Mark.empty())
+        out.Add(999, MarkWords + DxfString(sheet.Mark));
     Section(out, "HEADER");
     const auto name = [&](const char* variable) { out.Add(9, variable); };
     const auto number = [&](const char* variable, int code, double value) {

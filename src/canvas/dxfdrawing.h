@@ -31,6 +31,7 @@ public:
 };
 
 struct DxfSheet {
+    Text Mark;                                                       // what the drawing is of, for its second line
     double Width = 0, Height = 0;                                    // drawing units
     double UnitsPerInch = 600;                                       // drawing units to the inch of paper
     double Left = 0, Bottom = 0, Right = 0, Top = 0;                 // what the entities fill
@@ -95,6 +96,8 @@ private:
     std::vector<BlockOfEntities> blocks;
 };
 
+// The mark of a drawing by its bytes; "" where it has none.
+Text MarkOfDxf(std::string_view drawing);
 // A text as the value of a group: control characters and "^" by the caret, "%%" and "\U+" so that they stay what they
 // are, codes without a character as the replacement sign.
 std::string DxfString(std::string_view text);
