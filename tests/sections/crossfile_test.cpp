@@ -389,8 +389,12 @@ TEST_CASE("after Open no step of the section before can be taken back in any of 
 {
     WriteScratch("A.CRO", WholeFile());
     Open("A.CRO");
-    for (Grid* grid : {&SS1, &SS2, &SS3, &SS4})
-        grid->done.push_back(GridStep{{{1, 1, "x", "y"}}, grid->Shape(), grid->Shape(), {}, {}});
+    for (Grid* grid : {&SS1, &SS2, &SS3, &SS4}) {
+        GridStep step{};
+        step.cells = {{1, 1, "x", "y"}};
+        step.before = step.after = grid->Shape();
+        grid->done.push_back(step);
+    }
     Open("A.CRO");
     for (Grid* grid : {&SS1, &SS2, &SS3, &SS4})
         CHECK(grid->done.empty());
