@@ -98,7 +98,7 @@ static std::string MissingOption(const CommandLine& line)
 }
 
 // A slip that would cost a source: an output that is one of the files given, or that would take the place of a file
-// that this program reads and the output is not. "" for none.
+// that this program reads and the output is not, or of another output. "" for none.
 static std::string LostFile(const CommandLine& line)
 {
     struct Output {
@@ -119,6 +119,8 @@ static std::string LostFile(const CommandLine& line)
         if (lost)
             return std::string(output.option) + " would replace " + ToUtf8(output.name);
     }
+    if (!line.Pdf.empty() && (SameText(line.Pdf, line.List) || SameFile(line.Pdf, line.List)))
+        return "--list would replace " + ToUtf8(line.Pdf);
     return "";
 }
 
@@ -246,8 +248,9 @@ std::string UsageText()
         "  --page N         only page N of each boring; any other job's page is a single one\n"
         "  --date TEXT      the text of the date line (today)\n"
         "  --pdf FILE       all pages as one PDF\n"
-        "  --png DIR        each page as a picture, --dpi N dots to the inch (150)\n"
-        "  --dxf DIR        each page as a drawing\n"
+        "  --png DIR        each page as a picture, --dpi N dots to the inch (150), named\n"
+        "                   NAME-PAGE.png for a log and NAME-JOB-PAGE.png for other jobs\n"
+        "  --dxf DIR        each page as a drawing, named likewise\n"
         "  --list FILE      the objects of all pages as lines of text\n"
         "  --gis FILE       the table that borings are added to\n"
         "  --arcview OUT    the table as ArcView reads it\n"

@@ -3,6 +3,7 @@
 #include "batch/checkjob.h"
 #include "batch/commandline.h"
 #include "batch/jobtable.h"
+#include "batch/outputnames.h"
 #include "canvas/batch.h"
 #include "canvas/dxf.h"
 #include "canvas/pagelisting.h"
@@ -24,12 +25,13 @@
 #include "session/session.h"
 #include "session/stockfiles.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <memory>
 #include <set>
 #include <system_error>
@@ -42,7 +44,6 @@ static int MessageCount = 0; // but for announcements
 static int AnnouncementCount = 0;
 static int PageCount = 0;           // pages drawn in this run
 static Text PageName;               // "B-1-2": names the files of the page in hand
-static std::map<Text, int> PagesOf; // pages drawn of each base name
 static std::unique_ptr<PdfRun> Pdf; // from the first page on
 
 // ---- Messages
@@ -96,15 +97,27 @@ static int Box(const Text& words, Buttons buttons, Icon icon)
 
 // ---- The page
 
-// The page in hand by name, numbered within the files of one base name, so that no page takes the place of another.
+// The word of the job in the names of its pages. Those of a log have none, nor have those of the guide, which has no
+// source.
+static Text WordInNames()
+{
+    const Text job = Asked.Job->Name;
+    return job == "log" || job == "guide" ? "" : job;
+}
+
+// The number of the page in hand in its boring, where one page of each is drawn; 0 where all are, or a file has one.
+static int NumberInBoring()
+{
+    if (Asked.Page.empty() || Asked.Job->Name != Text("log"))
+        return 0;
+    const int last = BoringPages(RunPages.pageFile).Count;
+    return static_cast<int>(std::clamp(std::nearbyint(TextNumber(Asked.Page)), 1.0, std::max(double(last), 1.0)));
+}
+
 static void NamePage()
 {
-    Text name = BaseName(RunPages.pageFile);
-    if (name.empty())
-        name = Asked.Job->Name;
-    else if (HasEnding(name))
-        name.resize(name.rfind('.'));
-    PageName = name + "-" + PlainNumber(++PagesOf[UpperCase(name)]);
+    static OutputNames names(WordInNames());
+    PageName = names.Next(RunPages.pageFile.empty() ? Text(Asked.Job->Name) : RunPages.pageFile, NumberInBoring());
 }
 
 static std::ofstream Listing;   // grows beside its place

@@ -5,13 +5,19 @@
 //     arc         ARC                     text        TEXT
 //     picture     IMAGE
 // A fill comes before its outline: HATCH in one colour, HATCH of lines, or for a tinted pattern one of each. A pattern
-// without ink has no hatch. An ellipse or arc without a height or width is a LINE, since no round entity may be flat.
+// without ink has no hatch. Behind each HATCH of lines stands an INSERT of a block that holds its strokes as LINEs
+// and LWPOLYLINEs: some
+// drawing programs know patterns only by names of their own and show nothing of a hatch that brings its lines along.
+// The two lie on each other, on layers of their own. An ellipse or arc without a height or width is a LINE, since no
+// round entity may be flat.
 #include "canvas/dxf.h"
 
 #include "canvas/colors.h"
 #include "canvas/dxfdrawing.h"
 #include "canvas/hatchlines.h"
+#include "canvas/hatchstrokes.h"
 #include "canvas/metaugl.h"
+#include "canvas/outputmark.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "session/failure.h"
@@ -25,11 +31,11 @@ namespace
 {
 constexpr double CapitalHeight = 0.716; // of the font height: Arial's capitals
 constexpr double BaselineDrop = 0.248;  // of the font height: from the point of a text to its baseline
+// Of one page. It is some hundred full sheets of the densest pattern; a damaged file may ask for more, and has the
+// hatches alone then.
+constexpr size_t MostStrokes = 500000;
 
-struct Place {
-    double X, Y;
-    bool operator==(const Place&) const = default;
-};
+using Place = HatchPoint;
 
 // A pen width as the nearest line weight that a drawing knows, in 1/100 mm.
 int LineWeight(double units, double unitsPerInch)
@@ -103,6 +109,7 @@ public:
             sheet.UnitsPerInch = double(PageCanvas.unitsPerInch);
         sheet.InchesWide = double(PageCanvas.pageWidthInches);
         sheet.InchesHigh = double(PageCanvas.pageHeightInches);
+        sheet.Mark = DrawingMark();
         const auto bounds = PageBounds();
         const bool empty = PageList.Objects.empty();
         sheet.Left = empty ? 0 : bounds[0];
@@ -297,6 +304,15 @@ private:
 
     // ---- Fills
 
+    // A pattern as a hatch: its lines as groups, and how they are drawn out.
+    struct Definition {
+        Text Name;
+        bool Solid = false;
+        int Lines = 0, Weight = 0;
+        DxfTags Tags;
+        HatchPattern Pattern;
+    };
+
     void Fill(const PageObject& object, std::vector<Place> corners, const PageObject* before)
     {
         corners.erase(std::unique(corners.begin(), corners.end()), corners.end());
@@ -322,7 +338,11 @@ private:
         // On a ground of its own the ink stays black whatever the screen's colour is.
         const bool onGround = tinted || (before && before->Kind == ObjectKind::Polygon &&
                                          before->Brush == BrushStyle::Solid && before->Vertices == object.Vertices);
-        PatternHatch(PatternOf(object), onGround, border);
+        const Definition& definition = DefinitionOf(PatternOf(object));
+        if (definition.Lines == 0 && !definition.Solid)
+            return;
+        PatternHatch(definition, onGround, border);
+        Strokes(definition, onGround, corners);
     }
 
     // The bitmap behind a brush picture: the print form, of a tinted copy the one that was tinted.
@@ -375,11 +395,8 @@ private:
     }
 
     template <class Border>
-    void PatternHatch(const Text& picture, bool onGround, const Border& border)
+    void PatternHatch(const Definition& definition, bool onGround, const Border& border)
     {
-        const Definition& definition = DefinitionOf(picture);
-        if (definition.Lines == 0 && !definition.Solid)
-            return;
         drawing.Entity("HATCH", DxfLayer::Patterns);
         if (onGround)
             out.Add(420, 0);
@@ -400,22 +417,59 @@ private:
         out.Add(98, 0);
     }
 
-    // The lines of a pattern as groups, once for the page. Tiles are anchored at the upper left corner of the page, a
+    // The strokes of an area's pattern, told from its lower left corner, which is where their block is put.
+    void Strokes(const Definition& definition, bool onGround, const std::vector<Place>& corners)
+    {
+        const double pixel = sheet.UnitsPerInch / 600;
+        const std::vector<HatchStroke> strokes =
+            HatchStrokes(definition.Pattern, {{0, sheet.Height}, pixel}, corners, {0, 0, sheet.Width, sheet.Height},
+                         MostStrokes - strokeCount);
+        if (strokes.empty() || strokes.size() > MostStrokes - strokeCount)
+            return;
+        strokeCount += strokes.size();
+        Place corner = corners[0];
+        for (const Place& other : corners)
+            corner = {std::min(corner.X, other.X), std::min(corner.Y, other.Y)};
+        // To a six-hundredth of an inch, a pixel of the pattern, or a unit where that is finer.
+        const double parts = std::max(1.0, std::ceil(1 / pixel));
+        const auto places = [&](double value) { return std::round(value * parts) / parts; };
+        DxfTags block;
+        block.bytes.reserve(strokes.size() * 64);
+        for (const std::vector<HatchPoint>& chain : JoinedStrokes(strokes, definition.Pattern.PenWidth * pixel)) {
+            const bool line = chain.size() == 2;
+            drawing.BlockEntity(block, line ? "LINE" : "LWPOLYLINE");
+            if (onGround)
+                block.Add(420, 0);
+            block.Add(100, line ? "AcDbLine" : "AcDbPolyline");
+            if (!line) {
+                block.Add(90, static_cast<int>(chain.size()));
+                block.Add(70, 0);
+            }
+            for (size_t i = 0; i < chain.size(); ++i) {
+                const int code = line && i == 1 ? 11 : 10;
+                block.Add(code, places(chain[i].X - corner.X));
+                block.Add(code + 10, places(chain[i].Y - corner.Y));
+            }
+        }
+        const Text name = drawing.Block(definition.Name, std::move(block));
+        drawing.Entity("INSERT", DxfLayer::Strokes);
+        out.Add(100, "AcDbBlockReference");
+        out.Add(2, name);
+        out.AddPoint(10, corner.X, corner.Y);
+        out.Add(30, 0);
+    }
+
+    // The definition of a pattern, made once for the page. Tiles are anchored at the upper left corner of the page, a
     // pixel 1/600 inch.
-    struct Definition {
-        Text Name;
-        bool Solid = false;
-        int Lines = 0, Weight = 0;
-        DxfTags Tags;
-    };
     const Definition& DefinitionOf(const Text& picture)
     {
         const auto known = definitions.find(picture);
         if (known != definitions.end())
             return known->second;
         const Bitmap& tile = PatternPicture(picture);
-        const HatchPattern pattern = HatchLines(tile);
         Definition& definition = definitions[picture];
+        definition.Pattern = HatchLines(tile);
+        const HatchPattern& pattern = definition.Pattern;
         definition.Solid = pattern.Solid;
         definition.Lines = static_cast<int>(pattern.Lines.size());
         const double pixel = sheet.UnitsPerInch / 600;
@@ -507,6 +561,7 @@ private:
     DxfDrawing drawing;
     DxfTags& out = drawing.Entities;
     std::map<Text, Definition> definitions;
+    size_t strokeCount = 0;
 };
 } // namespace
 

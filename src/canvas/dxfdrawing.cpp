@@ -41,8 +41,10 @@ enum Handle {
     LayerZero
 };
 
-constexpr const char* layerNames[] = {"LINES", "RECTANGLES", "ELLIPSES", "ARCS",    "OUTLINES",
-                                      "FILLS", "PATTERNS",   "TEXTS",    "PICTURES"};
+constexpr char MarkWords[] = "Drawing of ";
+
+constexpr const char* layerNames[] = {"LINES", "RECTANGLES", "ELLIPSES", "ARCS",  "OUTLINES",
+                                      "FILLS", "PATTERNS",   "STROKES",  "TEXTS", "PICTURES"};
 
 // Dashes in inches of the page: pen down, and gaps as negative lengths. The names are those that a drawing program
 // without types of its own in the file knows.
@@ -122,6 +124,12 @@ void Dictionary(DxfTags& out, int handle, int owner, const std::vector<std::pair
     }
 }
 
+// A length of paper in millimetres: what can be printed on, and the margins on both sides.
+double PaperLength(double inches, const DxfSheet& sheet)
+{
+    return (inches + 2 * sheet.UnprintableInches) * 25.4;
+}
+
 void Layout(DxfTags& out, int handle, const char* name, int order, int space, const DxfSheet& sheet)
 {
     Object(out, "LAYOUT", handle, LayoutDictionary, "AcDbPlotSettings");
@@ -132,8 +140,8 @@ void Layout(DxfTags& out, int handle, const char* name, int order, int space, co
     const double margin = sheet.UnprintableInches * 25.4;
     for (int code = 40; code <= 43; ++code)
         out.Add(code, margin);
-    out.Add(44, sheet.InchesWide * 25.4 + 2 * margin);
-    out.Add(45, sheet.InchesHigh * 25.4 + 2 * margin);
+    out.Add(44, PaperLength(sheet.InchesWide, sheet));
+    out.Add(45, PaperLength(sheet.InchesHigh, sheet));
     for (const int code : {46, 47, 48, 49, 140, 141})
         out.Add(code, 0);
     // An inch of paper for so many drawing units, so that a plot of the limits is the page in its size.
@@ -171,7 +179,8 @@ void Layout(DxfTags& out, int handle, const char* name, int order, int space, co
     out.AddHandle(330, space);
 }
 
-void Block(DxfTags& out, int handle, int end, int record, const char* name, bool paper)
+void Block(DxfTags& out, int handle, int end, int record, std::string_view name, bool paper,
+           const DxfTags& entities = {})
 {
     const auto head = [&](const char* type, int own) {
         out.Add(0, type);
@@ -190,6 +199,7 @@ void Block(DxfTags& out, int handle, int end, int record, const char* name, bool
     out.Add(30, 0);
     out.Add(3, name);
     out.Add(1, "");
+    out.Append(entities);
     head("ENDBLK", end);
     out.Add(100, "AcDbBlockEnd");
 }
@@ -261,6 +271,24 @@ void DxfTags::Add(int code, double value)
     Add(code, text == "-0" ? std::string_view("0") : text);
 }
 
+void DxfTags::AddTenths(int code, double value)
+{
+    const auto tenths = static_cast<long long>(std::llround(value * 10));
+    if (tenths % 10 == 0)
+        return Add(code, static_cast<int>(tenths / 10));
+    char buffer[24];
+    char* end = std::to_chars(buffer, buffer + sizeof buffer, tenths).ptr;
+    char* digits = buffer + (tenths < 0);
+    if (end - digits == 1) { // 0.5, not .5
+        digits[1] = digits[0];
+        digits[0] = '0';
+        ++end;
+    }
+    end[0] = end[-1];
+    end[-1] = '.';
+    Add(code, std::string_view(buffer, end + 1));
+}
+
 void DxfTags::AddHandle(int code, int handle)
 {
     static constexpr char digits[] = "0123456789ABCDEF";
@@ -277,6 +305,17 @@ void DxfTags::AddPoint(int code, double x, double y)
 }
 
 // ---- Words
+
+Text MarkOfDxf(std::string_view drawing)
+{
+    const std::string_view head = drawing.substr(0, drawing.find("\r\n0\r\n"));
+    const std::string begin = "\r\n999\r\n" + Text(MarkWords);
+    const size_t at = head.find(begin);
+    if (at == std::string_view::npos)
+        return "";
+    const std::string_view mark = head.substr(at + begin.size());
+    return Text(mark.substr(0, mark.find("\r\n")));
+}
 
 std::string DxfString(std::string_view text)
 {
@@ -354,6 +393,23 @@ int DxfDrawing::Entity(const char* type, DxfLayer layer)
     return handle;
 }
 
+void DxfDrawing::BlockEntity(DxfTags& block, const char* type)
+{
+    block.Add(0, type);
+    block.AddHandle(5, NewHandle());
+    block.Add(100, "AcDbEntity");
+    block.Add(8, "0");
+}
+
+Text DxfDrawing::Block(std::string_view name, DxfTags entities)
+{
+    // The number keeps two apart whatever they are named after.
+    const Text whole = DxfName(name) + "-" + PlainNumber(static_cast<int>(blocks.size()) + 1);
+    const int record = NewHandle(), begin = NewHandle(), end = NewHandle();
+    blocks.push_back({whole, record, begin, end, std::move(entities)});
+    return whole;
+}
+
 const Text& DxfDrawing::Style(const Text& font, bool bold)
 {
     for (const FontStyle& style : styles)
@@ -390,6 +446,8 @@ void DxfDrawing::Header(DxfTags& out, const DxfSheet& sheet) const
 {
     out.Add(999, "One drawing unit is one device unit of the page: " + PlainNumber(sheet.UnitsPerInch) +
                      " units to the inch");
+    if (!sheet.Mark.empty())
+        out.Add(999, MarkWords + DxfString(sheet.Mark));
     Section(out, "HEADER");
     const auto name = [&](const char* variable) { out.Add(9, variable); };
     const auto number = [&](const char* variable, int code, double value) {
@@ -416,6 +474,10 @@ void DxfDrawing::Header(DxfTags& out, const DxfSheet& sheet) const
     point("$EXTMAX", sheet.Right, sheet.Top);
     corner("$LIMMIN", 0, 0);
     corner("$LIMMAX", sheet.Width, sheet.Height);
+    // The sheet of paper, in millimetres as in the layouts: a program that fits the drawing to its paper takes this
+    // one.
+    corner("$PLIMMIN", 0, 0);
+    corner("$PLIMMAX", PaperLength(sheet.InchesWide, sheet), PaperLength(sheet.InchesHigh, sheet));
     number("$ORTHOMODE", 70, 0);
     number("$REGENMODE", 70, 1);
     number("$FILLMODE", 70, 1);
@@ -442,7 +504,7 @@ void DxfDrawing::Header(DxfTags& out, const DxfSheet& sheet) const
     number("$MEASUREMENT", 70, 0);
     number("$CELWEIGHT", 370, -1);
     number("$ENDCAPS", 280, 0);
-    number("$JOINSTYLE", 280, 2);
+    number("$JOINSTYLE", 280, 1);
     number("$LWDISPLAY", 290, 1);
     // The page's unit is none of the units that a drawing can name: hence no unit here and the first line above.
     number("$INSUNITS", 70, 0);
@@ -499,16 +561,18 @@ void DxfDrawing::Tables(DxfTags& out, const DxfSheet& sheet)
     end();
 
     Table(out, "LAYER", LayerTable, std::size(layerNames) + 1);
-    const auto layer = [&](int handle, const char* name) {
+    // Strokes have no pens of their own: those of patterns are all about this wide, in 1/100 mm.
+    constexpr int strokes = 15, standard = -3;
+    const auto layer = [&](int handle, const char* name, bool thin = false) {
         Record(out, "LAYER", handle, LayerTable, "AcDbLayerTableRecord", name);
         out.Add(62, 7);
         out.Add(6, "Continuous");
-        out.Add(370, -3);
+        out.Add(370, thin ? strokes : standard);
         out.AddHandle(390, NormalPlotStyle);
     };
     layer(LayerZero, "0");
     for (const char* name : layerNames)
-        layer(NewHandle(), name);
+        layer(NewHandle(), name, name == layerNames[static_cast<int>(DxfLayer::Strokes)]);
     end();
 
     const auto style = [&](const Text& name, const Text& font, bool bold) {
@@ -546,8 +610,8 @@ void DxfDrawing::Tables(DxfTags& out, const DxfSheet& sheet)
     out.Add(100, "AcDbDimStyleTable");
     Record(out, "DIMSTYLE", NewHandle(), DimstyleTable, "AcDbDimStyleTableRecord", "STANDARD", 105);
     end();
-    Table(out, "BLOCK_RECORD", BlockRecordTable, 2);
-    const auto record = [&](int handle, const char* name, int layout) {
+    Table(out, "BLOCK_RECORD", BlockRecordTable, blocks.size() + 2);
+    const auto record = [&](int handle, std::string_view name, int layout) {
         out.Add(0, "BLOCK_RECORD");
         out.AddHandle(5, handle);
         out.AddHandle(330, BlockRecordTable);
@@ -558,6 +622,8 @@ void DxfDrawing::Tables(DxfTags& out, const DxfSheet& sheet)
     };
     record(ModelSpace, "*Model_Space", ModelLayout);
     record(PaperSpace, "*Paper_Space", PaperLayout);
+    for (const BlockOfEntities& block : blocks)
+        record(block.Record, block.Name, 0);
     end();
     EndSection(out);
 }
@@ -565,8 +631,10 @@ void DxfDrawing::Tables(DxfTags& out, const DxfSheet& sheet)
 void DxfDrawing::Blocks(DxfTags& out)
 {
     Section(out, "BLOCKS");
-    Block(out, ModelBlock, ModelBlockEnd, ModelSpace, "*Model_Space", false);
-    Block(out, PaperBlock, PaperBlockEnd, PaperSpace, "*Paper_Space", true);
+    ::Block(out, ModelBlock, ModelBlockEnd, ModelSpace, "*Model_Space", false);
+    ::Block(out, PaperBlock, PaperBlockEnd, PaperSpace, "*Paper_Space", true);
+    for (const BlockOfEntities& block : blocks)
+        ::Block(out, block.Begin, block.End, block.Record, block.Name, false, block.Entities);
     EndSection(out);
 }
 
@@ -657,7 +725,10 @@ std::string DxfDrawing::File(const DxfSheet& sheet)
     Tables(tables, sheet);
     Objects(objects, sheet);
     DxfTags out;
-    out.bytes.reserve(Entities.bytes.size() + tables.bytes.size() + objects.bytes.size() + 8192);
+    size_t inBlocks = 0;
+    for (const BlockOfEntities& block : blocks)
+        inBlocks += block.Entities.bytes.size() + 512;
+    out.bytes.reserve(Entities.bytes.size() + tables.bytes.size() + objects.bytes.size() + inBlocks + 8192);
     Header(out, sheet);
     int images = 0;
     for (const Definition& one : definitions)

@@ -20,6 +20,7 @@ public:
     }
     void Add(int code, int value);
     void Add(int code, double value); // up to 6 decimals, no trailing zeros
+    void AddTenths(int code, double value);
     void AddHandle(int code, int handle);
     void AddPoint(int code, double x, double y); // code for x, code + 10 for y
     void Append(const DxfTags& tags)
@@ -30,6 +31,7 @@ public:
 };
 
 struct DxfSheet {
+    Text Mark;                                                       // what the drawing is of, for its second line
     double Width = 0, Height = 0;                                    // drawing units
     double UnitsPerInch = 600;                                       // drawing units to the inch of paper
     double Left = 0, Bottom = 0, Right = 0, Top = 0;                 // what the entities fill
@@ -37,13 +39,17 @@ struct DxfSheet {
 };
 
 // Layers by kind of content, in the order of the layer table.
-enum class DxfLayer { Lines, Rectangles, Ellipses, Arcs, Outlines, Fills, Patterns, Texts, Pictures };
+enum class DxfLayer { Lines, Rectangles, Ellipses, Arcs, Outlines, Fills, Patterns, Strokes, Texts, Pictures };
 
 class DxfDrawing
 {
 public:
     // Starts an entity of the model space: its type, handle and layer. Leaves the handle.
     int Entity(const char* type, DxfLayer layer);
+    // Starts an entity of a block, on the layer of whatever insert shows it.
+    void BlockEntity(DxfTags& block, const char* type);
+    // A block of those entities, named after something. Leaves its name.
+    Text Block(std::string_view name, DxfTags entities);
     // The text style of a font; made when first asked for.
     const Text& Style(const Text& font, bool bold);
     // A picture's definition and the entity's link to it; path in the machine's own encoding, size in pixels.
@@ -69,6 +75,12 @@ private:
         std::vector<std::pair<int, int>> Reactors; // handle, and the entity that it watches
     };
 
+    struct BlockOfEntities {
+        Text Name;
+        int Record, Begin, End; // handles
+        DxfTags Entities;
+    };
+
     int NewHandle()
     {
         return nextHandle++;
@@ -81,8 +93,11 @@ private:
     int nextHandle = 0x100; // below it are the handles of what every drawing has
     std::vector<FontStyle> styles;
     std::vector<Definition> definitions;
+    std::vector<BlockOfEntities> blocks;
 };
 
+// The mark of a drawing by its bytes; "" where it has none.
+Text MarkOfDxf(std::string_view drawing);
 // A text as the value of a group: control characters and "^" by the caret, "%%" and "\U+" so that they stay what they
 // are, codes without a character as the replacement sign.
 std::string DxfString(std::string_view text);

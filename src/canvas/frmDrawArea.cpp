@@ -199,12 +199,11 @@ void DrawArea::Zoom(Fit kind)
 {
     fit = kind;
     if (kind == Fit::Opening)
-        draw->SetView(
-            OpeningView(PageCanvas.mode, draw->View(), form->width(), form->height(), draw->width(), draw->height()));
+        draw->SetView(OpeningView(PageCanvas.mode, draw->View(), draw->width(), draw->height()));
     else if (kind == Fit::Width)
-        draw->SetView(FullWidth(draw->View(), form->width(), draw->width()));
+        draw->SetView(FullWidth(draw->View(), draw->width()));
     else
-        draw->SetView(ZoomPage(form->width(), form->height(), draw->width(), draw->height()));
+        draw->SetView(WholePage(draw->width(), draw->height()));
     ShowState();
 }
 

@@ -8,25 +8,29 @@
 #include <algorithm>
 #include <cmath>
 
-ViewRecord FullWidth(ViewRecord view, double clientWidth, double drawWidth)
+ViewRecord FullWidth(ViewRecord view, double drawWidth)
 {
-    view = ZoomScreenWidth(view, clientWidth);
-    view.Left = (view.ImageWidth - drawWidth) / 2;
+    view = ZoomScreenWidth(view, drawWidth);
+    view.Left = 0;
     return view;
 }
 
-ViewRecord OpeningView(const Text& mode, ViewRecord view, double clientWidth, double clientHeight, double drawWidth,
-                       double drawHeight)
+ViewRecord WholePage(double drawWidth, double drawHeight)
+{
+    return ZoomPage(drawWidth, drawHeight, drawWidth, drawHeight);
+}
+
+ViewRecord OpeningView(const Text& mode, ViewRecord view, double drawWidth, double drawHeight)
 {
     // A portrait page keeps its top offset, so that paging through a log at screen width stays at the same height of
     // the page. An offset that a closer zoom left behind is brought back onto the page.
     if (mode == "P") {
         const double top = view.Top;
-        view = FullWidth(view, clientWidth, drawWidth);
+        view = FullWidth(view, drawWidth);
         view.Top = std::clamp(top, 0.0, std::max(view.ImageHeight - drawHeight, 0.0));
         return view;
     }
-    return ZoomPage(clientWidth, clientHeight, drawWidth, drawHeight);
+    return WholePage(drawWidth, drawHeight);
 }
 
 ViewRecord ZoomAbout(ViewRecord view, double factor, double x, double y)

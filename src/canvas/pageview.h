@@ -6,12 +6,13 @@
 
 #include "canvas/screenview.h"
 
-// The view that a page opens with: "P" at screen width, any other mode fitted whole.
-ViewRecord OpeningView(const Text& mode, ViewRecord view, double clientWidth, double clientHeight, double drawWidth,
-                       double drawHeight);
-// Zoom Screen Width with the image centred from left to right: it is a little wider than the control that shows it,
-// which takes 95 percent of the window.
-ViewRecord FullWidth(ViewRecord view, double clientWidth, double drawWidth);
+// The view that a page opens with: "P" at screen width, any other mode fitted whole. What a fit fills is the control
+// itself, not the window around it: all of the page's width is seen, or all of the page.
+ViewRecord OpeningView(const Text& mode, ViewRecord view, double drawWidth, double drawHeight);
+// Zoom Screen Width with the page's left edge at the control's.
+ViewRecord FullWidth(ViewRecord view, double drawWidth);
+// Zoom Page in that control.
+ViewRecord WholePage(double drawWidth, double drawHeight);
 
 // Scaled by factor about the point x, y of the control, which keeps showing the same place of the page. The scale
 // stays between MinScale and MaxScale screen units to a page inch.

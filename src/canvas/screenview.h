@@ -30,7 +30,7 @@ void printcanvas();
 void PrintRun(const std::function<void()>& print);
 
 // The page as DXF beside its source, and the box that says so; the name is pageFile with its last 4 characters
-// replaced by ".dxf".
+// replaced by ".dxf", with the job's word before the ending where another file's or job's drawing has that name.
 void ExportDxf();
 Text DxfName(); // failure 5 for a pageFile too short to have an ending
 

@@ -204,6 +204,8 @@ TEST_CASE(
     };
     CHECK(wrong({"log", "--pdf", "A.BOR", "B.bor"}) == "--pdf would replace " + Scratch("A.BOR"));
     CHECK(wrong({"log", "--list", "a.bor", "A.BOR"}) == "--list would replace " + Scratch("a.bor"));
+    CHECK(wrong({"log", "--pdf", Scratch("out"), "--list", Scratch("OUT"), "B.bor"}) ==
+          "--list would replace " + Scratch("out"));
     CHECK(wrong({"gis-add", "--gis", "A.BOR", "B.bor"}) == "--gis would replace " + Scratch("A.BOR"));
     CHECK(wrong({"gis-export", "--evs", "S.GIS", "S.GIS"}) == "--evs would replace " + Scratch("S.GIS"));
     CHECK(wrong({"gis-export", "--arcview", "A.BOR", "S.GIS"}) == "--arcview would replace " + Scratch("A.BOR"));

@@ -61,12 +61,28 @@ static std::vector<Entity> Records(const std::string& drawing)
     return records;
 }
 
+// What stands in the model space.
 static std::vector<Entity> Entities()
 {
     std::vector<Entity> entities;
     for (const Entity& record : Records(PageDxf()))
-        if (!record.All(100).empty() && record.All(100)[0] == "AcDbEntity" && record.Type != "BLOCK" &&
+        if (record.Value(100) == "AcDbEntity" && record.Value(330) == "30" && record.Type != "BLOCK" &&
             record.Type != "ENDBLK")
+            entities.push_back(record);
+    return entities;
+}
+
+// What stands in a block.
+static std::vector<Entity> BlockEntities(const Text& name)
+{
+    std::vector<Entity> entities;
+    bool inside = false;
+    for (const Entity& record : Records(PageDxf()))
+        if (record.Type == "BLOCK")
+            inside = record.Value(2) == name;
+        else if (record.Type == "ENDBLK")
+            inside = false;
+        else if (inside)
             entities.push_back(record);
     return entities;
 }
@@ -270,7 +286,7 @@ TEST_CASE("a patterned polygon is a hatch of lines anchored at the page's upper 
     LevelLines();
     rectfill(1, 1);
     const auto entities = Entities();
-    REQUIRE(entities.size() == 2);
+    REQUIRE(entities.size() == 3);
     CHECK(entities[0].Value(8) == "PATTERNS");
     CHECK(entities[0].Value(2) == "F21");
     CHECK(entities[0].Value(62) == "7");
@@ -281,7 +297,88 @@ TEST_CASE("a patterned polygon is a hatch of lines anchored at the page's upper 
     CHECK(std::fabs(entities[0].Number(46)) == 150);
     // Row 10 to 13 of each tile, counted from the upper edge at 6300.
     CHECK(std::fmod(6300 - 11.5 - entities[0].Number(44) + 15000, 150) == 0);
-    CHECK(entities[1].Type == "LWPOLYLINE");
+    CHECK(entities[2].Type == "LWPOLYLINE");
+}
+
+TEST_CASE("behind the hatch of a patterned area its strokes are drawn out, for programs that pass over its lines")
+{
+    StartPage();
+    LevelLines();
+    rectfill(1, 1);
+    const auto entities = Entities();
+    REQUIRE(entities.size() == 3);
+    CHECK(entities[1].Type == "INSERT");
+    CHECK(entities[1].Value(8) == "STROKES");
+    // The area's lower left corner; its upper edge at 1200 is that of a tile.
+    CHECK(entities[1].Value(10) == "600");
+    CHECK(entities[1].Value(20) == "600");
+    const auto strokes = BlockEntities(entities[1].Value(2));
+    REQUIRE(strokes.size() == 4);
+    for (const Entity& stroke : strokes) {
+        CHECK(stroke.Type == "LINE");
+        CHECK(stroke.Value(10) == "0");
+        CHECK(stroke.Value(11) == "600");
+        CHECK(stroke.Value(20) == stroke.Value(21));
+        // Row 10 to 13 of a tile, to the nearest unit.
+        CHECK(std::fabs(std::fmod(600 - stroke.Number(20), 150) - 11.5) <= 0.5);
+    }
+}
+
+TEST_CASE("strokes lie beneath what covers their area, and each area has a block of its own")
+{
+    StartPage();
+    LevelLines();
+    rectfill(1, 1);
+    rectfillrgb(1, 1, "255 255 255");
+    rectfill(1, 1);
+    const auto entities = Entities();
+    REQUIRE(entities.size() == 8);
+    CHECK(entities[1].Type == "INSERT");
+    CHECK(entities[3].Value(2) == "SOLID");
+    CHECK(entities[6].Type == "INSERT");
+    CHECK(entities[1].Value(2) != entities[6].Value(2));
+    CHECK(BlockEntities(entities[1].Value(2)).size() == BlockEntities(entities[6].Value(2)).size());
+}
+
+TEST_CASE("strokes are drawn on the page alone, and an area without one has no block")
+{
+    StartPage();
+    LevelLines();
+    PageObject& wide = AddObject(ObjectKind::Polygon, 0, 0, 0, 0);
+    wide.Vertices = {{-2147483647, 0}, {2147483647, 0}, {2147483647, 6300}, {-2147483647, 6300}};
+    wide.Brush = BrushStyle::Picture;
+    wide.BrushPicture = PageCanvas.fillFile;
+    wide.Fill = PrintForm(PageCanvas.fillFile);
+    PageObject low = wide; // between two lines
+    low.Vertices = {{0, 20}, {600, 20}, {600, 100}, {0, 100}};
+    PageList.Objects.push_back(low);
+    const auto entities = Entities();
+    REQUIRE(entities.size() == 5);
+    CHECK(BlockEntities(entities[1].Value(2)).size() == 42);
+    for (const Entity& stroke : BlockEntities(entities[1].Value(2)))
+        CHECK(stroke.Number(11) - stroke.Number(10) == 4800);
+    CHECK(entities[3].Type == "HATCH");
+    CHECK(entities[4].Type == "LWPOLYLINE");
+}
+
+TEST_CASE("no layer is frozen, off or locked, and nothing on it is hidden")
+{
+    StartPage();
+    LevelLines();
+    rectfillwhite(1, 1);
+    printtext("words");
+    int layers = 0;
+    for (const Entity& record : Records(PageDxf())) {
+        CHECK(record.Value(60) != "1");
+        if (record.Type != "LAYER" || record.Value(100) == "none")
+            continue;
+        ++layers;
+        CHECK(record.Value(70) == "0");
+        CHECK(record.Number(62) > 0);
+        CHECK(record.Value(290) != "0"); // plotted
+        CHECK(record.Value(370) == (record.Value(2) == "STROKES" ? "15" : "-3"));
+    }
+    CHECK(layers == 11);
 }
 
 TEST_CASE("a tinted pattern is its colour and its lines, black whatever the screen is")
@@ -292,12 +389,14 @@ TEST_CASE("a tinted pattern is its colour and its lines, black whatever the scre
     rectfillcolored(1, 1, "0 0 255");
     TintsInMemory = false;
     const auto entities = Entities();
-    REQUIRE(entities.size() == 3);
+    REQUIRE(entities.size() == 4);
     CHECK(entities[0].Value(2) == "SOLID");
     CHECK(entities[0].Value(420) == "255");
     CHECK(entities[1].Value(2) == "F21");
     CHECK(entities[1].Value(420) == "0");
-    CHECK(entities[2].Type == "LWPOLYLINE");
+    for (const Entity& stroke : BlockEntities(entities[2].Value(2)))
+        CHECK(stroke.Value(420) == "0");
+    CHECK(entities[3].Type == "LWPOLYLINE");
 }
 
 TEST_CASE("a pattern on a white ground is black, beside it the pen's colour")
@@ -307,9 +406,11 @@ TEST_CASE("a pattern on a white ground is black, beside it the pen's colour")
     rectfillwhite(1, 1);
     rectfill(0.5, 0.5);
     const auto entities = Entities();
-    REQUIRE(entities.size() == 6);
+    REQUIRE(entities.size() == 8);
     CHECK(entities[2].Value(420) == "0");
-    CHECK(entities[4].Value(420) == "none");
+    CHECK(entities[5].Value(420) == "none");
+    CHECK(BlockEntities(entities[3].Value(2)).at(0).Value(420) == "0");
+    CHECK(BlockEntities(entities[6].Value(2)).at(0).Value(420) == "none");
 }
 
 TEST_CASE("a pattern without ink has its outline alone")

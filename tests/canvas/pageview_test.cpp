@@ -15,16 +15,16 @@ static void Letter()
 TEST_CASE("a portrait page opens at screen width, any other fitted whole")
 {
     Letter();
-    const ViewRecord portrait = OpeningView("P", {}, 1000, 600, 950, 570);
-    CHECK(portrait.ImageWidth == 1000);
-    CHECK(portrait.ImageHeight == doctest::Approx(1312.5));
+    const ViewRecord portrait = OpeningView("P", {}, 950, 570);
+    CHECK(portrait.ImageWidth == 950);
+    CHECK(portrait.ImageHeight == doctest::Approx(1246.875));
     CHECK(portrait.Top == 0);
     canvasstart("L");
-    const ViewRecord landscape = OpeningView("L", {}, 1000, 600, 950, 570);
-    CHECK(landscape.ImageHeight == 600);
-    CHECK(landscape.ImageWidth == 788);
+    const ViewRecord landscape = OpeningView("L", {}, 950, 570);
+    CHECK(landscape.ImageHeight == 570);
+    CHECK(landscape.ImageWidth == 748);
     canvasstart("T");
-    CHECK(OpeningView("T", {}, 1000, 600, 950, 570).ImageWidth == 943);
+    CHECK(OpeningView("T", {}, 950, 570).ImageWidth == 896);
 }
 
 TEST_CASE("the opening of a portrait page leaves the top offset, as long as it is on the page")
@@ -32,31 +32,41 @@ TEST_CASE("the opening of a portrait page leaves the top offset, as long as it i
     Letter();
     ViewRecord view;
     view.Top = 300;
-    CHECK(OpeningView("P", view, 1000, 600, 950, 570).Top == 300);
+    CHECK(OpeningView("P", view, 950, 570).Top == 300);
     view.Top = 4000;
-    CHECK(OpeningView("P", view, 1000, 600, 950, 570).Top == doctest::Approx(1312.5 - 570));
+    CHECK(OpeningView("P", view, 950, 570).Top == doctest::Approx(1246.875 - 570));
     view.Top = -90;
-    CHECK(OpeningView("P", view, 1000, 600, 950, 570).Top == 0);
+    CHECK(OpeningView("P", view, 950, 570).Top == 0);
 }
 
-TEST_CASE("at screen width the page is centred in the control that shows it")
+TEST_CASE("at screen width the whole width of the page is seen, and fitted whole all of it")
 {
     Letter();
     ViewRecord view;
     view.Left = -400;
     view.Top = 77;
-    view = FullWidth(view, 1000, 950);
-    CHECK(view.Left == 25);
+    view = FullWidth(view, 950);
+    CHECK(PageX(view, 0) == 0);
+    CHECK(PageX(view, 950) == doctest::Approx(4800));
     CHECK(view.Top == 0);
+    for (const auto& [width, height] : {std::pair{950, 570}, {400, 570}, {300, 901}}) {
+        view = WholePage(width, height);
+        CHECK(PageX(view, 0) <= 0);
+        CHECK(PageX(view, width) >= 4800);
+        CHECK(PageY(view, 0) <= 0);
+        CHECK(PageY(view, height) >= 6300);
+        // With no more around it than the other side needs.
+        CHECK((PageX(view, width) < 4820 || PageY(view, height) < 6320));
+    }
 }
 
 TEST_CASE("the wheel keeps the place of the page under the pointer")
 {
     Letter();
-    const ViewRecord before = FullWidth({}, 1000, 950);
+    const ViewRecord before = FullWidth({}, 950);
     const ViewRecord after = ZoomAbout(before, 1.25, 300, 200);
-    CHECK(after.ImageWidth == doctest::Approx(1250));
-    CHECK(after.ImageHeight == doctest::Approx(1312.5 * 1.25));
+    CHECK(after.ImageWidth == doctest::Approx(950 * 1.25));
+    CHECK(after.ImageHeight == doctest::Approx(1246.875 * 1.25));
     CHECK(PageX(after, 300) == doctest::Approx(PageX(before, 300)));
     CHECK(PageY(after, 200) == doctest::Approx(PageY(before, 200)));
 }
@@ -64,7 +74,7 @@ TEST_CASE("the wheel keeps the place of the page under the pointer")
 TEST_CASE("the wheel stops at the smallest and the largest scale")
 {
     Letter();
-    const ViewRecord view = FullWidth({}, 1000, 950);
+    const ViewRecord view = FullWidth({}, 950);
     CHECK(ZoomAbout(view, 1e-9, 0, 0).ImageWidth == doctest::Approx(8 * MinScale));
     CHECK(ZoomAbout(view, 1e9, 0, 0).ImageWidth == doctest::Approx(8 * MaxScale));
 }
@@ -72,12 +82,12 @@ TEST_CASE("the wheel stops at the smallest and the largest scale")
 TEST_CASE("a drag moves the page with the hand and stops where a quarter of the window still shows it")
 {
     Letter();
-    ViewRecord view = FullWidth({}, 1000, 950);
+    ViewRecord view = FullWidth({}, 950);
     view = Dragged(view, 40, -30);
-    CHECK(view.Left == 25 - 40);
+    CHECK(view.Left == -40);
     CHECK(view.Top == 30);
     CHECK(KeptInReach(Dragged(view, 5000, 0), 950, 570).Left == 950 * ReachPart - 950);
-    CHECK(KeptInReach(Dragged(view, 0, -5000), 950, 570).Top == doctest::Approx(1312.5 - 570 * ReachPart));
+    CHECK(KeptInReach(Dragged(view, 0, -5000), 950, 570).Top == doctest::Approx(1246.875 - 570 * ReachPart));
     CHECK(KeptInReach(view, 950, 570).Left == view.Left);
 }
 
@@ -135,7 +145,7 @@ TEST_CASE("rectangle in rectangle stops where the wheel stops, with the middle o
 TEST_CASE("a rectangle without width is told, and the view stays")
 {
     Letter();
-    const ViewRecord before = FullWidth({}, 1000, 950);
+    const ViewRecord before = FullWidth({}, 950);
     const ViewRecord after = ZoomDragged(before, 700, 100, 700, 900, 950, 570);
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "Error 11 in DrawArea.  Please contact Norvane");
@@ -155,7 +165,7 @@ TEST_CASE("the page takes 95 percent of the window and stands in its middle")
 TEST_CASE("in a window of another size the middle of the view stays")
 {
     Letter();
-    const ViewRecord before = FullWidth({}, 1000, 950);
+    const ViewRecord before = FullWidth({}, 950);
     const ViewRecord after = Resized(before, 950, 570, 760, 400);
     CHECK(PageX(after, 380) == doctest::Approx(PageX(before, 475)));
     CHECK(PageY(after, 200) == doctest::Approx(PageY(before, 285)));

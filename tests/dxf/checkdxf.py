@@ -1,16 +1,24 @@
 #!/usr/bin/python3
 """Reads DXF drawings back with other programs and holds them against the listings of their pages.
 
-    checkdxf.py --fills DIR [--make PROGRAM] DIR
+    checkdxf.py --fills DIR [--make PROGRAM] [--batch PROGRAM --samples DIR] DIR
 
 Every NAME.dxf of DIR has its page listing beside it, NAME.jsonl (one page); with --make the program writes them there
 first (PROGRAM FILLS DIR). For each: ezdxf reads it strictly and its auditor finds nothing, the entities are those of
-the listing by kind, layer and place, the texts are the same, and LibreCAD makes a PDF of it.
+the listing by kind, layer and place, the texts are the same, what a pattern hatch shows is drawn out behind it, no
+layer hides anything, and LibreCAD makes a PDF of it.
+
+The page patterns.dxf has patterns alone; LibreCAD's PDF of it has the ink that their tiles have.
+
+With --batch and --samples the pages of the samples are drawn too, with our own PDF of each: the ink of LibreCAD's PDF
+is then at least three quarters of the ink of ours.
 """
 import collections
 import json
+import math
 import os
 import re
+import shutil
 import struct
 import subprocess
 import sys
@@ -18,24 +26,25 @@ import sys
 import ezdxf
 
 SECONDS = 60  # for LibreCAD and one drawing
+INK = 0.75  # of LibreCAD's PDF at least, as a part of ours
+DOTS = 60  # to the inch, when ink is counted
+TILE = 150  # units: the size of a pattern
 
 
-def has_ink(path):
-    """Whether a Windows bitmap of 1 or 24 bits has a pixel darker than half."""
+def darkness(path):
+    """The part of a pattern's bitmap that is ink."""
     with open(path, "rb") as file:
         data = file.read()
     start, head, width, height = struct.unpack_from("<IIii", data, 10)
     bits = struct.unpack_from("<H", data, 28)[0]
     stride = (width * bits + 31) // 32 * 4
     dark = [sum(data[14 + head + 4 * i: 17 + head + 4 * i]) < 384 for i in (0, 1)]
+    ink = 0
     for row in range(abs(height)):
         line = data[start + row * stride: start + (row + 1) * stride]
-        for x in range(width):
-            if bits == 1 and dark[line[x // 8] >> (7 - x % 8) & 1]:
-                return True
-            if bits == 24 and sum(line[3 * x: 3 * x + 3]) < 384:
-                return True
-    return False
+        ink += sum(dark[line[x // 8] >> (7 - x % 8) & 1] if bits == 1 else sum(line[3 * x: 3 * x + 3]) < 384
+                   for x in range(width))
+    return ink / (width * abs(height))
 
 
 def fill_file(folder, name):
@@ -61,7 +70,7 @@ def hatches(page_object, points, fills):
         return 1, 0
     name = re.sub("_sc.bmp$", ".bmp", brush.get("of", brush.get("fill", brush["picture"])), flags=re.I)
     path = fill_file(fills, name)
-    return int("of" in brush), int(path is not None and has_ink(path))
+    return int("of" in brush), int(path is not None and darkness(path) > 0)
 
 
 def expected(listing, fills):
@@ -97,6 +106,71 @@ def expected(listing, fills):
     return +kinds, texts, lines
 
 
+def extent(points):
+    """The corners of the box about points."""
+    points = list(points)
+    return [min(p[0] for p in points), min(p[1] for p in points), max(p[0] for p in points), max(p[1] for p in points)]
+
+
+def drawn_out(document, page, fills):
+    """What is wrong with the strokes behind the pattern hatches; each hatch has its own."""
+    faults = []
+    entities = list(document.modelspace())
+    for hatch, insert in zip(entities, entities[1:] + [None]):
+        if hatch.dxftype() == "INSERT" and hatch.dxf.layer != "STROKES":
+            faults.append("an insert on layer " + hatch.dxf.layer)
+        if hatch.dxftype() != "HATCH" or hatch.dxf.layer != "PATTERNS" or hatch.dxf.solid_fill:
+            continue
+        area = [tuple(v[:2]) for v in hatch.paths[0].vertices]
+        left, bottom, right, top = extent(area)
+        left, bottom = max(left, 0), max(bottom, 0)
+        right, top = min(right, page["width"]), min(top, page["height"])
+        large = surface(area) > 4 * TILE * TILE and right - left > 2 * TILE and top - bottom > 2 * TILE
+        if insert is None or insert.dxftype() != "INSERT":
+            if large:
+                faults.append(f"no strokes behind the hatch {hatch.dxf.pattern_name} at {left}, {bottom}")
+            continue
+        length = 0
+        move = insert.dxf.insert
+        for stroke in document.blocks[insert.dxf.name]:
+            if stroke.dxf.invisible or stroke.dxf.layer != "0":
+                faults.append("a hidden stroke")
+            points = ([(end.x, end.y) for end in (stroke.dxf.start, stroke.dxf.end)] if stroke.dxftype() == "LINE" else
+                      list(stroke.get_points("xy")))
+            box = extent((x + move.x, y + move.y) for x, y in points)
+            if box[0] < left - 1 or box[1] < bottom - 1 or box[2] > right + 1 or box[3] > top + 1:
+                faults.append(f"a stroke beyond its area: {box}")
+            length += sum(math.dist(p, q) for p, q in zip(points, points[1:]))
+        if length == 0:
+            faults.append("a block without strokes")
+        path = fill_file(fills, hatch.dxf.pattern_name + ".BMP")
+        if large and len(area) == 4 and path:
+            # The pen of a hatch is its line weight, in 1/100 mm.
+            pen = hatch.dxf.lineweight / 2540 * page["unitsPerInch"]
+            part = length * pen / ((right - left) * (top - bottom)) / darkness(path)
+            if not 0.5 < part < 2 and square(area):
+                faults.append(f"strokes of {hatch.dxf.pattern_name} have {part:.2f} of its ink")
+    return faults
+
+
+def surface(area):
+    """The size of an area, whichever way its border runs."""
+    return abs(sum(p[0] * q[1] - q[0] * p[1] for p, q in zip(area, area[1:] + area[:1]))) / 2
+
+
+def square(area):
+    """Whether an area is an upright rectangle."""
+    left, bottom, right, top = extent(area)
+    return all(x in (left, right) and y in (bottom, top) for x, y in area)
+
+
+def hiding_layers(document):
+    used = {"0"} | {entity.dxf.layer for entity in document.modelspace()}
+    faults = ["layer " + layer.dxf.name + " hides what is on it" for layer in document.layers
+              if layer.dxf.name in used and (layer.is_frozen() or layer.is_off() or layer.is_locked() or not layer.dxf.plot)]
+    return faults + ["a hidden " + entity.dxftype() for entity in document.modelspace() if entity.dxf.invisible]
+
+
 def words(value):
     """A text as it shows: the codes of the caret, the percent sign and of Unicode taken back."""
     value = re.sub(r"\^(.)", lambda m: "^" if m.group(1) == " " else chr(ord(m.group(1)) - 64), value)
@@ -115,7 +189,8 @@ def check(path, fills):
     kinds, texts, lines = collections.Counter(), collections.Counter(), collections.Counter()
     layers = {layer.dxf.name for layer in document.layers}
     for entity in document.modelspace():
-        kinds[entity.dxftype(), entity.dxf.layer] += 1
+        if entity.dxftype() != "INSERT":  # those are told with their hatches
+            kinds[entity.dxftype(), entity.dxf.layer] += 1
         if entity.dxf.layer not in layers:
             faults.append("no layer " + entity.dxf.layer)
         if entity.dxftype() == "TEXT":
@@ -133,6 +208,7 @@ def check(path, fills):
     page = listing[0]
     if tuple(document.header["$LIMMAX"]) != (page["width"], page["height"]):
         faults.append("limits " + str(document.header["$LIMMAX"]))
+    faults += drawn_out(document, page, fills) + hiding_layers(document)
     if document.dxfversion != "AC1018" or document.header["$DWGCODEPAGE"] != "ANSI_1252":
         faults.append("not the version or code page told")
     return faults + librecad(path)
@@ -154,6 +230,49 @@ def librecad(path):
         return [] if file.read(5) == b"%PDF-" else ["LibreCAD made something else than a PDF"]
 
 
+def ink(pdf, page):
+    """The ink of a page: the darkness of its dots, summed."""
+    done = subprocess.run(["pdftoppm", "-r", str(DOTS), "-gray", "-f", str(page), "-l", str(page), pdf],
+                          capture_output=True, check=True)
+    dots = done.stdout.split(b"\n", 3)[3]
+    return 255 * len(dots) - sum(dots)
+
+
+def pattern_ink(listing, fills):
+    """The ink of the patterned areas of a page, by the darkness of their tiles."""
+    total = 0
+    for one in listing[1:]:
+        left, bottom, right, top = extent(one["points"])
+        part = darkness(fill_file(fills, one["brush"]["fill"]))
+        total += part * (right - left) * (top - bottom) * 255 * (DOTS / listing[0]["unitsPerInch"]) ** 2
+    return total
+
+
+def draw_samples(batch, samples, folder):
+    """Draws every sample with the program: its pages as DXF with their listings and our PDF. By name: the PDF, the page."""
+    pages = {}
+    for name in sorted(os.listdir(samples)):
+        job = {".BOR": "log", ".CRO": "section", ".FEN": "fence", ".SOI": "soil"}.get(name[-4:])
+        if not job:
+            continue
+        stem = os.path.join(folder, name.replace(".", "-"))
+        os.makedirs(stem + "-dxf", exist_ok=True)
+        subprocess.run([batch, job, "--dxf", stem + "-dxf", "--list", stem + ".list", "--pdf", stem + "-ours.pdf",
+                        os.path.join(samples, name)], check=True, stdout=subprocess.DEVNULL)
+        with open(stem + ".list", encoding="utf-8") as file:
+            listings = ("\n" + file.read()).split('\n{"page"')[1:]
+        drawings = sorted(os.listdir(stem + "-dxf"), key=lambda drawing: int(re.findall(r"-(\d+)\.dxf$", drawing)[0]))
+        if len(drawings) != len(listings):
+            raise SystemExit(f"{name}: {len(drawings)} drawings of {len(listings)} pages")
+        for number, (drawing, listing) in enumerate(zip(drawings, listings), 1):
+            page = f"{os.path.basename(stem)}-{number}.dxf"
+            os.replace(os.path.join(stem + "-dxf", drawing), os.path.join(folder, page))
+            with open(os.path.join(folder, page[:-4] + ".jsonl"), "w", encoding="utf-8") as file:
+                file.write('{"page"' + listing)
+            pages[page] = (stem + "-ours.pdf", number)
+    return pages
+
+
 def main(arguments):
     options = {}
     while arguments and arguments[0].startswith("--"):
@@ -162,14 +281,28 @@ def main(arguments):
     folder = arguments[0]
     fills = options["--fills"]
     if "--make" in options:
-        os.makedirs(folder, exist_ok=True)
+        shutil.rmtree(folder, ignore_errors=True)
+        os.makedirs(folder)
         subprocess.run([options["--make"], fills, folder], check=True)
+    ours = draw_samples(options["--batch"], options["--samples"], folder) if "--batch" in options else {}
     names = sorted(name for name in os.listdir(folder) if name.endswith(".dxf"))
-    faults = 0
+    faults, least = 0, None
     for name in names:
-        for fault in check(os.path.join(folder, name), fills):
+        path = os.path.join(folder, name)
+        found = check(path, fills)
+        if name in ours or name == "patterns.dxf":
+            with open(path[:-4] + ".jsonl", encoding="utf-8") as file:
+                listing = [json.loads(line) for line in file]
+            wanted = ink(*ours[name]) if name in ours else pattern_ink(listing, fills)
+            share = ink(path[:-4] + ".pdf", 1) / wanted
+            least = min(least or (share, name), (share, name))
+            if share < INK:
+                found.append(f"LibreCAD's page has {share:.2f} of our ink")
+        for fault in found:
             print(f"{name}: {fault}")
-            faults += 1
+        faults += len(found)
+    if least:
+        print(f"the least ink: {least[0]:.2f} of ours, {least[1]}")
     print(f"{len(names)} drawings, {faults} faults")
     return 0 if names and faults == 0 else 1
 

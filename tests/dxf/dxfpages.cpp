@@ -160,6 +160,18 @@ static void FullPage()
     SavePage("fullpage");
 }
 
+// Patterns and nothing else, over the whole sheet.
+static void Patterns()
+{
+    StartPage();
+    for (int i = 0; i < 48; ++i) {
+        moveto(0.1 + 1.3 * (i % 6), 0.1 + 1.3 * (i / 6));
+        setfillfile(i < 10 ? i + 4 : i + 16);
+        rectfill(1.3, 1.3);
+    }
+    SavePage("patterns");
+}
+
 static void OddTexts()
 {
     StartPage();
@@ -226,6 +238,7 @@ int main(int argc, char** argv)
     WriteWholeFile(outFolder + "/PICTURE.BMP", EncodeBitmap(picture), Durability::Scratch);
     EveryKind();
     FullPage();
+    Patterns();
     OddTexts();
     Degenerate();
     StartPage("L");

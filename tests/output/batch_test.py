@@ -143,6 +143,40 @@ class Batch(unittest.TestCase):
         self.assertEqual([page[0]["page"] for page in listing(self.path("a.jsonl"))], [1, 2])
         self.assertEqual(sorted(os.listdir(self.path("out"))), ["TC-104-1.png", "TC-104-2.png"])
 
+    def test_a_page_drawn_alone_is_named_by_its_number_and_replaces_no_other(self):
+        for folder in ("north", "south"):
+            os.mkdir(self.path(folder))
+        shutil.copy(sample("TC-101.BOR"), self.path("north/TC-101.BOR"))
+        shutil.copy(sample("TC-101.BOR"), self.path("south/tc-101.bor"))
+        words = ["log", "--png", "out", "--dpi", "20", "--dxf", "out", "--project", SAMPLES]
+        self.run_batch(*words, "--page", "2", "north/TC-101.BOR", "south/tc-101.bor", sample("TC-104.BOR"))
+        names = ["TC-101-2", "TC-104-1", "tc-101-2-2"]
+        self.assertEqual(sorted(os.listdir(self.path("out"))),
+                         sorted(name + ending for name in names for ending in (".png", ".dxf")))
+        shutil.rmtree(self.path("out"))
+        self.run_batch(*words, "--page", "9", "north/TC-101.BOR")
+        self.assertEqual(sorted(os.listdir(self.path("out"))), ["TC-101-3.dxf", "TC-101-3.png"])
+
+    def test_files_of_one_name_but_for_case_or_ending_are_all_there(self):
+        for name in ("B.BOR", "b.bor", "B.OLD"):
+            shutil.copy(sample("TC-104.BOR"), self.path(name))
+        self.run_batch("log", "--dxf", "out", "--png", "out", "--dpi", "20", "--project", SAMPLES, "B.BOR", "b.bor",
+                       "B.OLD")
+        self.assertEqual(sorted(os.listdir(self.path("out"))),
+                         ["B-1.dxf", "B-1.png", "B-3.dxf", "B-3.png", "b-2.dxf", "b-2.png"])
+
+    def test_jobs_that_write_to_one_folder_replace_nothing_of_each_other(self):
+        files = {"log": "BOR", "intro": "BOR", "section": "CRO", "fence": "FEN", "soil": "SOI"}
+        shutil.copy(sample("MW-108.BOR"), self.path("X.BOR"))
+        shutil.copy(sample("MW-108.SOI"), self.path("X.SOI"))
+        shutil.copy(sample("TC-F1.FEN"), self.path("X.FEN"))
+        self.section("X.CRO", ["TC-101.BOR", "TC-102.BOR"])
+        for job, ending in files.items():
+            self.run_batch(job, "--png", "out", "--dpi", "20", "--dxf", "out", "--project", SAMPLES, "X." + ending)
+        self.assertEqual(sorted(os.listdir(self.path("out"))),
+                         sorted(name + ending for name in ("X-1", "X-intro-1", "X-section-1", "X-fence-1", "X-soil-1")
+                                for ending in (".png", ".dxf")))
+
     def test_a_file_that_is_not_there_is_told_in_one_line_and_ends_with_1(self):
         done = self.run_batch("log", "--pdf", "a.pdf", "none.BOR", status=1)
         self.assertEqual(done.stderr, "Error 53 in DrawPrintOk.  Please contact Norvane\n")
@@ -240,8 +274,8 @@ class Batch(unittest.TestCase):
             self.assertIn("1 May 2001    " + os.path.realpath(self.folder) + f"/{name}.CRO", words)
             for boring in borings:
                 self.assertIn(f" {boring[:6]} ", words)
-        self.assertEqual(sorted(os.listdir(self.path("png"))), ["A-1.png", "B-1.png"])
-        self.assertEqual(sorted(os.listdir(self.path("dxf"))), ["A-1.dxf", "B-1.dxf"])
+        self.assertEqual(sorted(os.listdir(self.path("png"))), ["A-section-1.png", "B-section-1.png"])
+        self.assertEqual(sorted(os.listdir(self.path("dxf"))), ["A-section-1.dxf", "B-section-1.dxf"])
         info = subprocess.run(["pdfinfo", self.path("a.pdf")], capture_output=True, text=True).stdout
         self.assertIn("Pages:           2\n", info)
 
@@ -297,7 +331,7 @@ class Batch(unittest.TestCase):
             self.assertIn(f"Pages:           {len(wanted)}\n", info)
             images = subprocess.run(["pdfimages", "-list", self.path("a.pdf")], capture_output=True, text=True).stdout
             self.assertEqual(images.count(" image "), 0, images)
-            stem = file[:-4]
+            stem = file[:-4] + ("" if job == "log" else "-" + job)
             for number in range(1, len(wanted) + 1):
                 self.assertTrue(os.path.exists(self.path(f"png/{stem}-{number}.png")))
                 with open(self.path(f"dxf/{stem}-{number}.dxf"), "rb") as drawing:
@@ -328,8 +362,8 @@ class Batch(unittest.TestCase):
         for page, number in zip(pages, "123"):
             self.assertIn(f" Fence Diagram {number} ", texts(page))
             self.assertIn("1 May 2001    " + sample(f"TC-F{number}.FEN"), texts(page))
-        self.assertEqual(sorted(os.listdir(self.path("png"))), ["TC-F1-1.png", "TC-F2-1.png", "TC-F3-1.png"])
-        self.assertEqual(sorted(os.listdir(self.path("dxf"))), ["TC-F1-1.dxf", "TC-F2-1.dxf", "TC-F3-1.dxf"])
+        self.assertEqual(sorted(os.listdir(self.path("png"))), [f"TC-F{n}-fence-1.png" for n in "123"])
+        self.assertEqual(sorted(os.listdir(self.path("dxf"))), [f"TC-F{n}-fence-1.dxf" for n in "123"])
         info = subprocess.run(["pdfinfo", "-l", "3", self.path("f.pdf")], capture_output=True, text=True).stdout
         sizes = [line.split(":")[1].split("(")[0].split() for line in info.splitlines()
                  if line.startswith("Page ") and " size:" in line]
@@ -361,7 +395,7 @@ class Batch(unittest.TestCase):
         self.assertEqual(texts(pages[1])[-1], "1 May 2001   " + sample("SB-111.SOI"))
         bars = [item for item in pages[1][1] if item["kind"] == "polygon" and "F01" in item["brush"].get("fill", "")]
         self.assertGreater(len(bars), 20)
-        self.assertEqual(sorted(os.listdir(self.path("png"))), ["MW-108-1.png", "SB-111-1.png"])
+        self.assertEqual(sorted(os.listdir(self.path("png"))), ["MW-108-soil-1.png", "SB-111-soil-1.png"])
         info = subprocess.run(["pdfinfo", self.path("a.pdf")], capture_output=True, text=True).stdout
         self.assertIn("Pages:           2\n", info)
 

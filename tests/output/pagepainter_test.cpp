@@ -156,7 +156,7 @@ TEST_CASE("a line ends where its corners are, square to its run")
     CHECK(!Dark(image, 99, 100));
 }
 
-TEST_CASE("joins are mitred: a rectangle has sharp corners")
+TEST_CASE("joins are round: a corner is as far from its point as the pen is wide, and no farther")
 {
     StartTestPage(400, 400);
     PageObject& object = AddObject(ObjectKind::Rectangle, 100, 300, 300, 100);
@@ -165,9 +165,39 @@ TEST_CASE("joins are mitred: a rectangle has sharp corners")
     const QImage image = Painted();
     for (const int x : {91, 308})
         for (const int y : {91, 308})
+            CHECK(!Dark(image, x, y));
+    // The round of the corner, 10 from its point: 7 along each side.
+    for (const int x : {94, 305})
+        for (const int y : {94, 305})
             CHECK(Dark(image, x, y));
     CHECK(!Dark(image, 88, 200));
     CHECK(!Dark(image, 200, 200));
+}
+
+TEST_CASE("the tip of an acute wedge has no thorn, drawn alone or with others, filled or not")
+{
+    // 11 degrees at (100, 200): a mitre would reach over 100 units beyond the tip.
+    const std::vector<PagePoint> wedge = {{100, 200}, {500, 160}, {500, 240}};
+    for (const BrushStyle brush : {BrushStyle::Hollow, BrushStyle::Solid})
+        for (const int32_t color : {0, 0x404040})
+            for (size_t first = 0; first < 3; ++first) {
+                CAPTURE(int(brush));
+                CAPTURE(color);
+                CAPTURE(first);
+                StartTestPage(700, 400);
+                PageObject& object = AddObject(ObjectKind::Polygon, 0, 0, 0, 0);
+                for (size_t i = 0; i < 3; ++i)
+                    object.Vertices.push_back(wedge[(first + i) % 3]);
+                object.Brush = brush;
+                object.PenWidth = 20;
+                object.PenColor = color;
+                const QImage image = Painted();
+                CHECK(Dark(image, 91, 200));
+                CHECK(!Dark(image, 88, 200));
+                // The corners at the right are round as well.
+                CHECK(!Dark(image, 511, 200));
+                CHECK(Dark(image, 508, 200));
+            }
 }
 
 TEST_CASE("a pen width of 0 is one device unit, and no line is thinner than a pixel of the picture")

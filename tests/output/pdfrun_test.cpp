@@ -134,6 +134,21 @@ TEST_CASE("a pattern on paper has one dot to a device unit and stands on the pag
     CHECK(wrong == 0);
 }
 
+TEST_CASE("the tip of an acute wedge has no thorn on paper")
+{
+    WritePdf("a.pdf", 1, "", [](int) {
+        PageObject& object = AddObject(ObjectKind::Polygon, 0, 0, 0, 0);
+        object.Vertices = {{200, 200}, {600, 160}, {600, 240}};
+        object.Brush = BrushStyle::Hollow;
+        object.PenWidth = 20;
+    });
+    Output("pdftoppm -r 600 -x 0 -y 0 -W 900 -H 600 -png -singlefile " + Scratch("a.pdf") + " " + Scratch("a"));
+    const QImage image(QString::fromStdString(Scratch("a.png")));
+    REQUIRE(image.width() == 900);
+    CHECK(Dark(image, 150 + 192, 150 + 200));
+    CHECK(!Dark(image, 150 + 187, 150 + 200));
+}
+
 TEST_CASE("a PDF tells its title and that this program wrote it")
 {
     WritePdf("a.pdf", 1, "B-1 (M\xFCller) \\ 2.BOR", [](int) { AddWords("x", 600, 600); });
@@ -178,18 +193,47 @@ TEST_CASE("a PDF in a folder that is not there fails with 76")
     CHECK(FailureOf([] { PdfRun run(Scratch("none/a.pdf"), ""); }) == PathNotFound);
 }
 
-TEST_CASE("a print run goes beside its source; what another program wrote there stays")
+TEST_CASE("a print run goes beside its source; only the same command on the same file takes its place again")
 {
-    CHECK(PdfBeside(Scratch("B-1.BOR")) == Scratch("B-1.pdf"));
-    CHECK(PdfBeside(Scratch("v1.2/B-1")) == Scratch("v1.2/B-1.pdf"));
-    WritePdf("B-1.pdf", 1, "", [](int) {});
-    CHECK(PdfBeside(Scratch("B-1.BOR")) == Scratch("B-1.pdf"));
+    const Text print = "Print run of B-1.BOR (log)", exported = "Export to PDF of B-1.BOR (log)";
+    const auto beside = [](const Text& mark) { return PdfBeside(Scratch("B-1.BOR"), mark); };
+    const auto write = [](const Text& name, const Text& mark) {
+        PdfRun run(Scratch(name), "B-1.BOR", mark);
+        StartTestPage(4800, 6300);
+        run.AddPage();
+        run.Close();
+    };
+    CHECK(beside(print) == Scratch("B-1.pdf"));
+    CHECK(PdfBeside(Scratch("v1.2/B-1"), print) == Scratch("v1.2/B-1.pdf"));
+    write("B-1.pdf", exported);
+    CHECK(beside(exported) == Scratch("B-1.pdf"));
+    CHECK(beside(print) == Scratch("B-1-2.pdf"));
+    write("B-1-2.pdf", print);
+    CHECK(beside(print) == Scratch("B-1-2.pdf"));
+    CHECK(beside("Print run of B-1.BOR and 3 more (log)") == Scratch("B-1-3.pdf"));
+    CHECK(beside("Print run of B-1.BOR (intro)") == Scratch("B-1-3.pdf"));
     WriteScratch("B-1.pdf", "a scan of the signed log");
-    CHECK(PdfBeside(Scratch("B-1.BOR")) == Scratch("B-1-2.pdf"));
-    WritePdf("B-1-2.pdf", 1, "", [](int) {});
-    CHECK(PdfBeside(Scratch("B-1.BOR")) == Scratch("B-1-2.pdf"));
-    WriteScratch("B-1-2.pdf", "another");
-    CHECK(PdfBeside(Scratch("B-1.BOR")) == Scratch("B-1-3.pdf"));
+    CHECK(beside(exported) == Scratch("B-1-3.pdf"));
+    // One without a mark, as the batch program and older versions write them, is nobody's to replace.
+    write("B-1-3.pdf", "");
+    CHECK(beside(exported) == Scratch("B-1-4.pdf"));
+}
+
+TEST_CASE("a mark is read back whatever letters the file's name has, and is the PDF's subject")
+{
+    for (const Text& name : {Text("B-1 (M\xFCller) \\ 2.BOR"), Text(120, '('), Text(180, '\xE4')}) {
+        const Text mark = "Print run of " + name + " (log)";
+        {
+            PdfRun run(Scratch("a.pdf"), name, mark);
+            StartTestPage(4800, 6300);
+            run.AddPage();
+            run.Close();
+        }
+        CHECK(PdfBeside(Scratch("a.BOR"), mark) == Scratch("a.pdf"));
+        CHECK(PdfBeside(Scratch("a.BOR"), mark + " ") == Scratch("a-2.pdf"));
+        const std::string info = Output("pdfinfo -enc UTF-8 " + Scratch("a.pdf"));
+        CHECK(info.find("Subject:         " + ToUtf8(mark) + "\n") != std::string::npos);
+    }
 }
 
 TEST_CASE("a PDF that the disk has no room for is failure 61, and leaves nothing beside it")

@@ -26,7 +26,7 @@ TEST_CASE("the page follows the mouse while it is dragged")
     window.show();
     REQUIRE(QTest::qWaitForWindowExposed(&window));
     view.SetPage();
-    view.SetView(FullWidth({}, 1280, 1280));
+    view.SetView(FullWidth({}, 1280));
     const ViewRecord before = view.View();
     Mouse(view, QEvent::MouseButtonPress, QPoint(400, 400));
     for (int i = 0; i < 60; ++i)

@@ -47,6 +47,31 @@ TEST_CASE("Batch Print of two borings is one PDF, named like the first page's so
     CHECK_FALSE(FileExists(Scratch("samples/TC-103.pdf")));
 }
 
+TEST_CASE("Print after Export to PDF leaves the exported PDF alone, and each replaces its own")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-101.BOR");
+    const Text exported = Scratch("samples/TC-101.pdf"), printed = Scratch("samples/TC-101-2.pdf");
+    for (int round = 1; round <= 2; ++round) {
+        std::string whole;
+        Then("DrawArea", [](QWidget* window) { ClickMenu(window, "mnuFile", "mnuPDF"); });
+        ThenAnswer(("FILE CREATED:  " + exported).c_str(), "OK");
+        Then("DrawArea", [&](QWidget* window) {
+            whole = ReadScratch("samples/TC-101.pdf");
+            CHECK(whole.find("/Count 3") != std::string::npos);
+            ClickMenu(window, "mnuFile", "mnuPrint");
+            CHECK(ReadScratch("samples/TC-101.pdf") == whole);
+            CHECK(ReadScratch("samples/TC-101-2.pdf").find("/Count 1") != std::string::npos);
+            ClickMenu(window, "mnuFile", "mnuExit");
+        });
+        Then("frmPrinting", [](QWidget*) {});
+        ThenAnswer(("FILE CREATED:  " + printed).c_str(), "OK");
+        ClickMenu(log, "mnuFile", "mnuPreview");
+        CheckAllDone();
+    }
+    CHECK_FALSE(FileExists(Scratch("samples/TC-101-3.pdf")));
+}
+
 TEST_CASE("a PDF that another program wrote is left alone, and one of ours is replaced")
 {
     QMainWindow* log = LogWindow();

@@ -114,21 +114,23 @@ TEST_CASE("a portrait page opens at screen width, a landscape page fitted whole,
         PageView* view = View(window);
         CHECK(view->width() == qRound(form->width() * 0.95));
         CHECK(view->height() == qRound(form->height() * 0.95));
-        CHECK(view->View().ImageWidth == form->width());
+        CHECK(view->View().ImageWidth == view->width());
+        CHECK(view->View().Left == 0);
         ClickMenu(window, "mnuZoom", "mnuZoomPage");
-        CHECK(view->View().ImageHeight == form->height());
+        CHECK(view->View().ImageHeight == view->height());
+        CHECK(view->View().Top == 0);
         ClickMenu(window, "mnuZoom", "mnuZoomScreenWidth");
-        CHECK(view->View().ImageWidth == form->width());
+        CHECK(view->View().ImageWidth == view->width());
         CHECK(view->View().Top == 0);
         Exit(window);
     });
     ClickMenu(log, "mnuFile", "mnuPreview");
     OpenSample("TC-102.BOR");
     Then("DrawArea", [](QWidget* window) {
-        const QWidget* form = window->findChild<QWidget*>("Form");
+        const QWidget* view = View(window);
         const double aspect = 10.5 / 8;
         CHECK(View(window)->View().ImageHeight ==
-              std::nearbyint(std::min(double(form->height()), form->width() / aspect)));
+              std::nearbyint(std::min(double(view->height()), view->width() / aspect)));
         Exit(window);
     });
     ClickMenu(log, "mnuFile", "mnuPreview");
@@ -144,7 +146,7 @@ TEST_CASE("on a window of another size the page keeps its 95 percent and its fit
         Settle();
         const QWidget* form = window->findChild<QWidget*>("Form");
         CHECK(View(window)->width() == qRound(form->width() * 0.95));
-        CHECK(View(window)->View().ImageWidth == form->width());
+        CHECK(View(window)->View().ImageWidth == View(window)->width());
         CHECK(View(window)->x() == (form->width() - View(window)->width()) / 2);
         Exit(window);
     });

@@ -309,16 +309,15 @@ PagePlotter::~PagePlotter()
     painter.restore();
 }
 
-// Flat caps, mitred joins, dashes of page lengths whatever the pen's width. A width of 0 is one device unit; no line
-// is thinner than a pixel.
+// Flat caps, round joins (a mitre grows into a thorn at the tip of a wedge), dashes of page lengths whatever the pen's
+// width. A width of 0 is one device unit; no line is thinner than a pixel.
 QPen PagePlotter::PenOf(int16_t style, int32_t width, int32_t color) const
 {
     static constexpr double dash = 0.06, dot = 0.012, gap = 0.03;
     static const std::array<QList<qreal>, 5> lengths = {
         QList<qreal>(), {dash, gap}, {dot, gap}, {dash, gap, dot, gap}, {dash, gap, dot, gap, dot, gap}};
     const double units = std::max({double(width), 1.0, raster ? 1 / scale : 1.0});
-    QPen pen(ColorFrom(color), units, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
-    pen.setMiterLimit(10);
+    QPen pen(ColorFrom(color), units, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
     if (style >= 1 && style <= 4) {
         QList<qreal> pattern = lengths[size_t(style)];
         for (qreal& length : pattern)

@@ -24,9 +24,9 @@ static constexpr int EntryRoom = 100;
 static constexpr qint64 FrontLength = 16384;
 
 struct PdfRun::Body {
-    Body(const std::string& place, const Text& documentTitle)
-        : path(place), temporary(TemporaryFor(place)), title(documentTitle), file(QString::fromStdString(temporary)),
-          writer(&file)
+    Body(const std::string& place, const Text& documentTitle, const Text& documentMark)
+        : path(place), temporary(TemporaryFor(place)), title(documentTitle), mark(documentMark),
+          file(QString::fromStdString(temporary)), writer(&file)
     {
     }
     [[noreturn]] void Fail()
@@ -37,17 +37,17 @@ struct PdfRun::Body {
     void Describe();
 
     std::string path, temporary;
-    Text title;
+    Text title, mark;
     QFile file;
     QPdfWriter writer;
     QPainter painter;
     bool closed = false;
 };
 
-PdfRun::PdfRun(const Text& file, const Text& title)
+PdfRun::PdfRun(const Text& file, const Text& title, const Text& mark)
 {
     const std::string path = NativePath(file);
-    body = std::make_unique<Body>(path, title);
+    body = std::make_unique<Body>(path, title, mark);
     errno = 0;
     if (!body->file.open(QIODevice::ReadWrite | QIODevice::NewOnly)) {
         const int reason = errno;
@@ -59,7 +59,7 @@ PdfRun::PdfRun(const Text& file, const Text& title)
         throw RunTimeError{PathAccess};
     }
     body->writer.setTitle(QString::fromStdString(ToUtf8(title)));
-    body->writer.setCreator(QString(EntryRoom, QLatin1Char(' ')));
+    body->writer.setCreator(QString(EntryRoom + 2 * int(mark.size()), QLatin1Char(' ')));
     body->writer.setResolution(600);
 }
 
@@ -115,6 +115,11 @@ static std::string PdfString(const Text& text)
     return quoted + ")";
 }
 
+static std::string SubjectOf(const Text& mark)
+{
+    return "/Subject " + PdfString(mark) + "\n";
+}
+
 // Puts this program's name into the entries of the document, in place of those of the library: whether a file may be
 // replaced goes by it. The time is left out, so that the same pages give the same file.
 void PdfRun::Body::Describe()
@@ -128,6 +133,8 @@ void PdfRun::Body::Describe()
     if (creator < 0 || begin < 0 || end < 0 || close < begin)
         throw RunTimeError{DeviceError};
     std::string entries = "<<\n/Title " + PdfString(title) + "\n/Creator (Stratavue)\n/Producer (" + Producer + ")\n";
+    if (!mark.empty())
+        entries += SubjectOf(mark);
     const auto room = static_cast<size_t>(close - begin);
     if (entries.size() > room)
         throw RunTimeError{DeviceError};
@@ -157,25 +164,32 @@ void PdfRun::Close()
     b.closed = true;
 }
 
-bool WrittenByUs(const Text& file)
+// What stands before the pages of a PDF of this program; "" for any other file.
+static QByteArray FrontOfOurs(const Text& file)
 {
     QFile in(QString::fromStdString(NativePath(file)));
     if (!in.open(QIODevice::ReadOnly))
-        return false;
+        return {};
     const QByteArray front = in.read(FrontLength);
-    return front.startsWith("%PDF-") && front.contains("/Producer (Stratavue ");
+    return front.startsWith("%PDF-") && front.contains("/Producer (Stratavue ") ? front : QByteArray();
 }
 
-Text PdfBeside(const Text& source)
+bool WrittenByUs(const Text& file)
+{
+    return !FrontOfOurs(file).isEmpty();
+}
+
+Text PdfBeside(const Text& source, const Text& mark)
 {
     Text stem = source;
     if (BaseName(stem).empty())
         stem = JoinPath(ProjectPath, "patterns");
     else if (HasEnding(stem))
         stem.resize(stem.rfind('.'));
+    const std::string subject = SubjectOf(mark);
     for (int number = 1;; ++number) {
         const Text name = stem + (number == 1 ? "" : "-" + PlainNumber(number)) + ".pdf";
-        if (!FileExists(name) || WrittenByUs(name))
+        if (!FileExists(name) || FrontOfOurs(name).contains(QByteArrayView(subject.data(), qsizetype(subject.size()))))
             return name;
     }
 }

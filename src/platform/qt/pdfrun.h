@@ -11,10 +11,11 @@
 class PdfRun
 {
 public:
-    PdfRun(const Text& file, const Text& title); // failures by number
-    ~PdfRun();                                   // a run that was not closed leaves nothing
-    void AddPage();                              // the page in hand. Failures by number; the page is there even so
-    void Close();                                // failures by number
+    // mark: what the PDF says of itself, "" for nothing. Failures by number.
+    PdfRun(const Text& file, const Text& title, const Text& mark = "");
+    ~PdfRun();      // a run that was not closed leaves nothing
+    void AddPage(); // the page in hand. Failures by number; the page is there even so
+    void Close();   // failures by number
 
 private:
     struct Body;
@@ -24,6 +25,7 @@ private:
 // The file is a PDF whose producer entry names this program.
 bool WrittenByUs(const Text& file);
 
-// Where a print run goes whose first page comes from source: beside it, with the ending ".pdf". What another program
-// wrote there is left alone; then a number is added, "B-1-2.pdf".
-Text PdfBeside(const Text& source);
+// Where a PDF with that mark goes whose first page comes from source: beside it, with the ending ".pdf". Only a PDF of
+// this program with the very mark is replaced. What another program or another command wrote there, or the same command
+// from another file, is left alone; then a number is added, "B-1-2.pdf".
+Text PdfBeside(const Text& source, const Text& mark);

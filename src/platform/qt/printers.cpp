@@ -2,6 +2,7 @@
 #include "platform/qt/printers.h"
 
 #include "canvas/metaugl.h"
+#include "canvas/outputmark.h"
 #include "canvas/pageobjects.h"
 #include "canvas/screenview.h"
 #include "platform/qt/pagepainter.h"
@@ -30,8 +31,8 @@ const char* const PrintToPdfName = "Print to PDF";
 
 // The printer chosen, and what its own dialog set of it; none: a PDF.
 static std::unique_ptr<QPrinter> chosen;
-static bool asked = false; // the system's default printer has been looked for
-static bool forced = false;
+static bool asked = false;  // the system's default printer has been looked for
+static bool forced = false; // an export is under way
 
 static void Choose(const QPrinterInfo& info)
 {
@@ -105,8 +106,9 @@ static void PageIntoPdf()
 {
     const bool first = !pdf;
     if (first) {
-        pdfName = PdfBeside(RunPages.pageFile);
-        pdf = std::make_unique<PdfRun>(pdfName, BaseName(RunPages.pageFile));
+        const Text mark = PdfMark(forced);
+        pdfName = PdfBeside(RunPages.pageFile, mark);
+        pdf = std::make_unique<PdfRun>(pdfName, BaseName(RunPages.pageFile), mark);
     }
     try {
         pdf->AddPage();
