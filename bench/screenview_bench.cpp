@@ -42,7 +42,7 @@ static void Mouse(QEvent::Type type, QPoint at)
 
 static void Drag(benchmark::State& state)
 {
-    view->SetView(FullWidth({}, 1280, 1280));
+    view->SetView(FullWidth({}, 1280));
     Mouse(QEvent::MouseButtonPress, QPoint(400, 400));
     int i = 0;
     for (auto _ : state) {
@@ -55,7 +55,7 @@ BENCHMARK(Drag)->Unit(benchmark::kMillisecond);
 
 static void RubberBand(benchmark::State& state)
 {
-    view->SetView(FullWidth({}, 1280, 1280));
+    view->SetView(FullWidth({}, 1280));
     view->RectangleMode(true);
     Mouse(QEvent::MouseButtonPress, QPoint(100, 100));
     int i = 0;
@@ -69,7 +69,7 @@ BENCHMARK(RubberBand)->Unit(benchmark::kMillisecond);
 
 static void ZoomStep(benchmark::State& state)
 {
-    view->SetView(FullWidth({}, 1280, 1280));
+    view->SetView(FullWidth({}, 1280));
     int i = 0;
     for (auto _ : state) {
         view->SetView(ZoomAbout(view->View(), ++i % 2 == 0 ? 1.25 : 0.8, 600, 400));

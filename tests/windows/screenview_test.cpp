@@ -160,6 +160,32 @@ static void Wheel(PageView* view, QPoint at, int clicks)
     QApplication::sendEvent(view, &event);
 }
 
+TEST_CASE("in the screen view the keys go to the page, and a fit that was left does not come back with the next size")
+{
+    QMainWindow* log = LogWindow();
+    OpenSample("TC-103.BOR");
+    Then("DrawArea", [](QWidget* window) {
+        PageView* view = View(window);
+        REQUIRE(window->focusWidget() == view);
+        const double fitted = view->View().ImageWidth;
+        QTest::keyClick(window->focusWidget(), Qt::Key_Plus);
+        CHECK(view->View().ImageWidth == doctest::Approx(fitted * 1.25));
+        const QString shown = window->findChild<QLabel*>("lblZoom")->text();
+        QTest::keyClick(window->focusWidget(), Qt::Key_Minus);
+        CHECK(view->View().ImageWidth == doctest::Approx(fitted));
+        CHECK(window->findChild<QLabel*>("lblZoom")->text() != shown);
+        const ViewRecord before = view->View();
+        QTest::keyClick(window->focusWidget(), Qt::Key_Down);
+        CHECK(view->View().Top == before.Top + 48);
+        window->resize(window->width() - 200, window->height());
+        Settle();
+        CHECK(view->View().ImageWidth == doctest::Approx(fitted));
+        Exit(window);
+    });
+    ClickMenu(log, "mnuFile", "mnuPreview");
+    CheckAllDone();
+}
+
 TEST_CASE("the wheel zooms at the pointer and the mouse drags the page; the picture is sharp when they rest")
 {
     QMainWindow* log = LogWindow();
