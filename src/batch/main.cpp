@@ -6,6 +6,7 @@
 #include "batch/outputnames.h"
 #include "canvas/batch.h"
 #include "canvas/dxf.h"
+#include "canvas/outputmark.h"
 #include "canvas/pagelisting.h"
 #include "canvas/patterns.h"
 #include "canvas/screenview.h"
@@ -169,7 +170,7 @@ static void PageDrawn()
     if (!Asked.List.empty())
         ListPage();
     if (!Asked.Dxf.empty())
-        WriteWholeFile(JoinPath(Asked.Dxf, PageName + ".dxf"), PageDxf(), Durability::Scratch);
+        WriteWholeFile(JoinPath(Asked.Dxf, PageName + ".dxf"), PageDxf(DrawingMark()), Durability::Scratch);
 }
 
 // Also where nothing is painted: a listing and a drawing hold the pictures that a PDF shows.

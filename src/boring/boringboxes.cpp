@@ -4,6 +4,8 @@
 #include "boring/boringdata.h"
 #include "session/shared.h"
 
+#include <algorithm>
+#include <cmath>
 #include <iterator>
 
 namespace frmBorinput
@@ -73,3 +75,12 @@ static const SharedRecord shared[] = {
     {"frmBorinput::LayFiles", Kind::Window, frmBorinput::LayFiles},
     {"frmSoil::MemoSoil", Kind::Document, frmSoil::MemoSoil},
 };
+
+int PagesOfLog()
+{
+    const float endDepth = static_cast<float>(TextNumber(frmBorinput::SSScale.Cell(1, 1)));
+    const float pageBreak = static_cast<float>(TextNumber(frmBorinput::SSScale.Cell(3, 1)));
+    if (!(pageBreak > 0))
+        return 1;
+    return int(std::clamp(std::nearbyint(double(endDepth / pageBreak)), 0.0, 32767.0));
+}

@@ -29,3 +29,6 @@ namespace frmSoil
 {
 extern Memo MemoSoil; // the soil table's notes box
 }
+
+// Returns the number of pages of the log by the scale that is typed in, as a run would cut them.
+int PagesOfLog();

@@ -17,7 +17,6 @@
 #include "canvas/hatchlines.h"
 #include "canvas/hatchstrokes.h"
 #include "canvas/metaugl.h"
-#include "canvas/outputmark.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "session/failure.h"
@@ -101,7 +100,7 @@ std::pair<int, int> PictureSize(const Text& name)
 class PageDrawing
 {
 public:
-    PageDrawing()
+    explicit PageDrawing(const Text& mark)
     {
         sheet.Width = std::max(PageList.ExtentWidth, 1);
         sheet.Height = std::max(PageList.ExtentHeight, 1);
@@ -109,7 +108,7 @@ public:
             sheet.UnitsPerInch = double(PageCanvas.unitsPerInch);
         sheet.InchesWide = double(PageCanvas.pageWidthInches);
         sheet.InchesHigh = double(PageCanvas.pageHeightInches);
-        sheet.Mark = DrawingMark();
+        sheet.Mark = mark;
         const auto bounds = PageBounds();
         const bool empty = PageList.Objects.empty();
         sheet.Left = empty ? 0 : bounds[0];
@@ -565,7 +564,7 @@ private:
 };
 } // namespace
 
-std::string PageDxf()
+std::string PageDxf(const Text& mark)
 {
-    return PageDrawing().File();
+    return PageDrawing(mark).File();
 }

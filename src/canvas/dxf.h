@@ -3,4 +3,6 @@
 
 #include "session/text.h"
 
-std::string PageDxf(); // the current page's object list; patterns from their print forms
+// Returns the current page's object list as a drawing; patterns from their print forms. mark: what the drawing says of
+// itself (run/outputmark.h); "" for nothing.
+std::string PageDxf(const Text& mark = "");

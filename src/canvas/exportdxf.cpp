@@ -35,6 +35,6 @@ void ExportDxf()
 {
     // Kept: an older export of the file is replaced without a question, also that of another page of it.
     const Text name = DxfPlace();
-    WriteWholeFile(name, PageDxf());
+    WriteWholeFile(name, PageDxf(DrawingMark()));
     MsgBox("FILE CREATED:  " + name, OkOnly, Announcement);
 }

@@ -28,6 +28,8 @@ enum Box {
 
 // ---- The list
 
+extern std::vector<CheckEntry>* list; // where the entries go; set by CheckBoring
+
 void Flag(const char* kind, const Text& words, int box, int row, int column = 1);
 void FlagText(const char* kind, const Text& words, const char* textBox, int place = 0);
 

@@ -288,15 +288,6 @@ void AdjustTextBox(int button)
     FileChanged = 1;
 }
 
-int PagesOfLog()
-{
-    const float endDepth = static_cast<float>(TextNumber(SSScale.Cell(1, 1)));
-    const float pageBreak = static_cast<float>(TextNumber(SSScale.Cell(3, 1)));
-    if (!(pageBreak > 0))
-        return 1;
-    return int(std::clamp(std::nearbyint(double(endDepth / pageBreak)), 0.0, 32767.0));
-}
-
 Text PageWords()
 {
     const int pages = BoringFileName.empty() ? 0 : PagesOfLog();

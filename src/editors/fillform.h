@@ -31,6 +31,4 @@ void LabelParameters(); // the headings of parameters without names, as at the s
 // 5 and 6 the remarks, 7 and 8 the general notes. Only button 2 has a limit, and says so.
 void AdjustTextBox(int button);
 
-// The pages of the log by the scale that is typed in, as a run would cut them.
-int PagesOfLog();
 Text PageWords(); // "2 pages"; a boring that was never saved has no page to be drawn

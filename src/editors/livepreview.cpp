@@ -8,7 +8,6 @@
 #include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/screenview.h"
-#include "editors/fillform.h"
 #include "editors/hush.h"
 #include "editors/toolcommands.h"
 #include "logrender/logdata.h"

@@ -5,7 +5,7 @@
 // it asks first.
 #pragma once
 
-#include "editors/checklist.h"
+#include "editors/checkentry.h"
 #include "session/controls.h"
 #include "session/platform.h"
 

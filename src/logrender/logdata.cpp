@@ -13,33 +13,8 @@
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/platform.h"
-#include "session/shared.h"
 
 #include <algorithm>
-
-LogPageRecord LogPage;
-LogBoringRecord LogBoring;
-LogGeometryRecord LogGeometry;
-
-static const SharedRecord shared[] = {
-    {"LogPage", Kind::Run, LogPage},
-    {"LogBoring", Kind::Run, LogBoring},
-    {"LogGeometry", Kind::Run, LogGeometry},
-};
-
-double DrawingLength()
-{
-    if (LogGeometry.FrameKind == 'L')
-        return 4.2;
-    if (LogGeometry.HasBottomRow == 1)
-        return 5.95;
-    return LogBoring.PageLength > 0 ? double(LogBoring.PageLength) : 6.7;
-}
-
-double ColumnHeight()
-{
-    return DrawingLength() + 1.4;
-}
 
 // ---- The entry list
 

@@ -5,6 +5,7 @@
 #include "canvas/dxf.h"
 #include "canvas/dxfdrawing.h"
 #include "canvas/metaugl.h"
+#include "canvas/outputmark.h"
 #include "canvas/screenview.h"
 #include "session/failure.h"
 
@@ -17,7 +18,7 @@ TEST_CASE("the export lands beside the source file, replaces an older one withou
     RunPages.pageFile = Scratch("B-1.BOR");
     WriteScratch("B-1.dxf", "older");
     ExportDxf();
-    CHECK(ReadScratch("B-1.dxf") == PageDxf());
+    CHECK(ReadScratch("B-1.dxf") == PageDxf(DrawingMark()));
     REQUIRE(Messages.size() == 1);
     CHECK(Messages[0].words == "FILE CREATED:  " + Scratch("B-1.dxf"));
     CHECK(Messages[0].buttons == OkOnly);
