@@ -1,13 +1,13 @@
 // convert_bench.cpp -- what a run of conversions costs: 500 foreign files, as many at a time as the batch dialog takes,
 // with the progress window on a screen that is not there.
-#include "canvas/batch.h"
 #include "convert/gtgsprt.h"
 #include "convert/winlog.h"
-#include "platform/qt/windows.h"
+#include "run/batchrun.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "windows/showwindows.h"
 
 #include <QApplication>
 #include <benchmark/benchmark.h>

@@ -1,19 +1,19 @@
 // editor_bench.cpp -- what the log tool costs its user: the start to a usable window against an empty main window of
 // the same library, opening a boring of 100 layers, 80 samples and 1000 lines, a keystroke in it, the page and the
 // check list beside it. On a screen that is not there; in a folder of its own, with the stock files.
-#include "batch/jobtable.h"
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
 #include "editors/borinput.h"
 #include "editors/checklist.h"
-#include "editors/livepreview.h"
-#include "platform/qt/application.h"
-#include "platform/qt/windows.h"
+#include "programs/jobtable.h"
 #include "session/platform.h"
 #include "session/recovery.h"
 #include "session/session.h"
 #include "session/startup.h"
+#include "tools/livepreview.h"
+#include "windows/application.h"
+#include "windows/showwindows.h"
 
 #include <QAction>
 #include <QKeyEvent>

@@ -1,12 +1,12 @@
 // log_bench.cpp -- reading a boring, and the object list of a page from its file.
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
-#include "canvas/batch.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
-#include "canvas/screenview.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "session/files.h"
 #include "session/session.h"
 

@@ -1,12 +1,12 @@
 // output_bench.cpp -- what a page costs on its way out: one PDF of one page, a run of 500 pages, a picture, a drawing,
 // and the whole program without windows.
-#include "canvas/dxf.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
-#include "platform/qt/headless.h"
-#include "platform/qt/pdfrun.h"
-#include "platform/qt/pngpages.h"
+#include "dxf/dxf.h"
+#include "painter/headless.h"
+#include "painter/pdfrun.h"
+#include "painter/pngpages.h"
 
 #include <benchmark/benchmark.h>
 #include <cstdlib>

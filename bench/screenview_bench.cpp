@@ -3,11 +3,11 @@
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
-#include "canvas/screenview.h"
-#include "platform/qt/pageview.h"
+#include "run/screenview.h"
 #include "session/deviceconfig.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "windows/pageview.h"
 
 #include <QApplication>
 #include <QMouseEvent>

@@ -3,10 +3,10 @@
 // panels, have to be there within a quarter of a second.
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
-#include "canvas/batch.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "gis/gisfile.h"
+#include "run/batchrun.h"
 #include "sections/fencerun.h"
 #include "session/files.h"
 #include "session/session.h"

@@ -1,7 +1,7 @@
 // testing.h -- what every test starts from: records at their start values, an empty working folder of its own.
 #pragma once
 
-#include "platform/plain/plain.h"
+#include "plain/plain.h"
 
 #include <doctest/doctest.h>
 #include <filesystem>

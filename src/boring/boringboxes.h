@@ -2,7 +2,7 @@
 // typed in. The window shows them, FillBoringForm fills them from BoringData, SaveBoringFile takes them from here.
 #pragma once
 
-#include "session/controls.h"
+#include "grid/controls.h"
 #include "session/slots.h"
 
 namespace frmBorinput

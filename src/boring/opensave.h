@@ -4,7 +4,7 @@
 // It is asked through Platform.ShowChooser with its mode in DialogMode, and answers in DialogResult, "" when cancelled.
 #pragma once
 
-#include "session/controls.h"
+#include "grid/controls.h"
 #include "session/slots.h"
 #include "session/text.h"
 

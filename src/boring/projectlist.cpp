@@ -5,9 +5,9 @@
 //     ProjectFolder
 #include "boring/projectlist.h"
 
+#include "grid/gridedit.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
-#include "session/gridedit.h"
 #include "session/platform.h"
 #include "session/shared.h"
 

@@ -4,7 +4,7 @@
 // project list's editor, and read by the chooser.
 #pragma once
 
-#include "session/controls.h"
+#include "grid/controls.h"
 #include "session/slots.h"
 #include "session/text.h"
 

@@ -3,7 +3,7 @@
 
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
-#include "canvas/batch.h"
+#include "run/batchrun.h"
 #include "session/files.h"
 #include "session/platform.h"
 

@@ -1,7 +1,7 @@
 // gtgsgeneditor.h -- what the editor of the general GTGS conversion does. No widget is known here.
 #pragma once
 
-#include "session/controls.h"
+#include "grid/controls.h"
 
 namespace frmGTGSGenEditor
 {

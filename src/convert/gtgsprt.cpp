@@ -11,9 +11,9 @@
 #include "convert/gtgsprt.h"
 
 #include "boring/boringdata.h"
-#include "canvas/batch.h"
 #include "convert/convertedboring.h"
 #include "convert/tablefile.h"
+#include "run/batchrun.h"
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/platform.h"

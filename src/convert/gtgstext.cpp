@@ -10,9 +10,9 @@
 
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
-#include "canvas/batch.h"
 #include "convert/convertedboring.h"
 #include "convert/tablefile.h"
+#include "run/batchrun.h"
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/platform.h"

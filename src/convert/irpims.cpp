@@ -7,9 +7,9 @@
 // Which row of the boring information holds which field is fixed, so the office's prompts have to be in that order.
 #include "convert/irpims.h"
 
-#include "canvas/batch.h"
 #include "convert/convertedboring.h"
 #include "convert/templateboring.h"
+#include "run/batchrun.h"
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/platform.h"

@@ -10,10 +10,10 @@
 #include "convert/winlog.h"
 
 #include "boring/boringdata.h"
-#include "canvas/batch.h"
 #include "convert/convertedboring.h"
 #include "convert/tablefile.h"
 #include "convert/templateboring.h"
+#include "run/batchrun.h"
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/platform.h"

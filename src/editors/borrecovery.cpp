@@ -5,9 +5,9 @@
 #include "boring/textlines.h"
 #include "editors/borinput.h"
 #include "editors/fillform.h"
-#include "editors/hush.h"
+#include "grid/gridedit.h"
 #include "session/files.h"
-#include "session/gridedit.h"
+#include "tools/hush.h"
 
 namespace
 {

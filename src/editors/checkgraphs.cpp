@@ -2,12 +2,12 @@
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "editors/checkparts.h"
-#include "editors/hush.h"
 #include "logrender/generalvalues.h"
 #include "logrender/graph.h"
 #include "session/files.h"
 #include "session/machine.h"
 #include "session/shared.h"
+#include "tools/hush.h"
 
 #include <algorithm>
 #include <cmath>

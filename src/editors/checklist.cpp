@@ -2,9 +2,9 @@
 #include "editors/checklist.h"
 
 #include "editors/checkparts.h"
-#include "editors/hush.h"
 #include "report/heading.h"
 #include "session/failure.h"
+#include "tools/hush.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 // boxes, the session and the boring's file stay as they are, and no box is shown.
 #pragma once
 
-#include "editors/checkentry.h"
+#include "tools/checkentry.h"
 
 // The gravest lines in front: the warnings of a save, cells that are read otherwise than they were meant, what lies out
 // of order or below the log, codes and colours that draw blank, markers and texts of other layers, text and columns

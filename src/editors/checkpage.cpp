@@ -2,15 +2,15 @@
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
+#include "boring/reportparts.h"
 #include "editors/checkparts.h"
-#include "editors/hush.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
 #include "report/heading.h"
 #include "report/projectfiles.h"
-#include "report/reportparts.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
+#include "tools/hush.h"
 
 #include <algorithm>
 #include <cmath>

@@ -3,8 +3,8 @@
 // nothing and change nothing; CheckBoring calls them in its hush.
 #pragma once
 
-#include "editors/checkentry.h"
 #include "report/layout.h"
+#include "tools/checkentry.h"
 
 namespace BoringChecks
 {

@@ -2,7 +2,7 @@
 #include "boring/boringboxes.h"
 #include "editors/borinput.h"
 #include "editors/fillform.h"
-#include "session/gridedit.h"
+#include "grid/gridedit.h"
 #include "session/platform.h"
 #include "session/session.h"
 

@@ -3,9 +3,9 @@
 
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
+#include "boring/reportparts.h"
 #include "boring/textlines.h"
 #include "report/layout.h"
-#include "report/reportparts.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/platform.h"

@@ -2,7 +2,7 @@
 #include "editors/markers.h"
 
 #include "boring/boringboxes.h"
-#include "session/rowmoves.h"
+#include "grid/rowmoves.h"
 #include "session/session.h"
 
 #include <algorithm>

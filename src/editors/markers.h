@@ -3,7 +3,7 @@
 // none: there "@" is a letter as any other.
 #pragma once
 
-#include "session/controls.h"
+#include "grid/controls.h"
 
 struct MovedMarkers {
     Text text;

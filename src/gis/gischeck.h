@@ -1,7 +1,7 @@
 // gischeck.h -- what a reviewer of the table would flag, as it stands in the grids. It warns and never blocks.
 #pragma once
 
-#include "editors/checkentry.h"
+#include "tools/checkentry.h"
 
 // Columns that are not those of the layer list; plain depths under a cell that tells no depth or a top of its own,
 // since such a layer covers those above it; depths out of order; cells that are neither depth nor X; borings without a

@@ -4,9 +4,9 @@
 #include "gis/gisfile.h"
 
 #include "boring/boringblocks.h"
+#include "grid/gridedit.h"
 #include "report/prompts.h"
 #include "session/files.h"
-#include "session/gridedit.h"
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"

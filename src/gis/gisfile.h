@@ -5,7 +5,7 @@
 // are text as typed. No widget is known here.
 #pragma once
 
-#include "session/controls.h"
+#include "grid/controls.h"
 #include "session/slots.h"
 #include "session/text.h"
 

@@ -1,11 +1,11 @@
 // gistool.cpp -- the workbench's table.
 #include "gis/gistool.h"
 
-#include "editors/hush.h"
 #include "gis/gischeck.h"
 #include "session/files.h"
 #include "session/savename.h"
 #include "session/shared.h"
+#include "tools/hush.h"
 
 static void Undisturbed(const std::function<void()>& work)
 {

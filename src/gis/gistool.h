@@ -1,8 +1,8 @@
 // gistool.h -- the GIS workbench as a tool: its table of what it has of its own, and its commands. It draws nothing.
 #pragma once
 
-#include "editors/toolcommands.h"
 #include "gis/gisfile.h"
+#include "tools/toolcommands.h"
 
 extern ToolRecord GisForm;
 

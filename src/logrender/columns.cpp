@@ -2,10 +2,10 @@
 //
 // A report part's name, in upper case, is tested against the table from the top; the first line that fits wins, so the
 // order matters: "P12G" stands before "P". A new column is a file of its own, a line in vlog.h and a line here.
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
+#include "run/batchrun.h"
 #include "session/failure.h"
 #include "session/platform.h"
 

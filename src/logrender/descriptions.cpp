@@ -6,11 +6,11 @@
 //
 //      |\______________________/|   true depth at the edges, the stretched box between them
 //
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "logrender/logdata.h"
 #include "logrender/textcolumns.h"
 #include "logrender/vlog.h"
+#include "run/batchrun.h"
 
 #include <cmath>
 #include <vector>

@@ -1,10 +1,10 @@
 // frame.cpp -- what every log page has before any column: frame, date line, head lines, title block positions.
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
-#include "canvas/screenview.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
 #include "report/heading.h"
+#include "run/screenview.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/platform.h"

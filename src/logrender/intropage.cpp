@@ -13,15 +13,15 @@
 //     +----------------------------+      +----------------------------+
 #include "logrender/intropage.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
-#include "canvas/screenview.h"
 #include "logrender/logdata.h"
 #include "logrender/textcolumns.h"
 #include "logrender/vlog.h"
 #include "report/heading.h"
 #include "report/projectfiles.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"

@@ -1,11 +1,11 @@
 // lithology.cpp -- the soil classification as patterns or as letters, and the formations beside it.
-#include "canvas/batch.h"
 #include "canvas/colors.h"
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
 #include "report/heading.h"
+#include "run/batchrun.h"
 #include "session/failure.h"
 
 #include <cmath>

@@ -5,10 +5,10 @@
 #include "logrender/logdata.h"
 
 #include "boring/boringblocks.h"
-#include "canvas/batch.h"
-#include "canvas/screenview.h"
 #include "logrender/vlog.h"
 #include "report/projectfiles.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"

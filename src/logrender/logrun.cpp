@@ -1,12 +1,12 @@
 // logrun.cpp -- the loop over the pages of a log run. It knows nothing of the editor: each page is drawn from log.mas
 // and the saved boring.
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
-#include "canvas/runmessages.h"
-#include "canvas/screenview.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
 #include "report/heading.h"
+#include "run/batchrun.h"
+#include "run/runmessages.h"
+#include "run/screenview.h"
 #include "session/failure.h"
 #include "session/kept.h"
 #include "session/platform.h"

@@ -1,10 +1,10 @@
 // wellcasings.cpp -- the surface casings of a well, each a wall of fill around the next smaller one, and its cover.
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
 #include "logrender/logdata.h"
 #include "logrender/welldiagram.h"
 #include "report/heading.h"
+#include "run/batchrun.h"
 
 const Text& VLOG::wellcell(int row)
 {

@@ -2,13 +2,13 @@
 // leader lines to their labels. The large form prints texts, the small one depths.
 #include "logrender/welldiagram.h"
 
-#include "canvas/batch.h"
 #include "canvas/colors.h"
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
 #include "report/heading.h"
+#include "run/batchrun.h"
 #include "session/failure.h"
 
 #include <algorithm>

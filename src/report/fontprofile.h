@@ -4,7 +4,7 @@
 // font together with them.
 #pragma once
 
-#include "session/controls.h"
+#include "grid/controls.h"
 #include "session/slots.h"
 #include "session/text.h"
 

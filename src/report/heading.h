@@ -5,7 +5,7 @@
 // it between runs, so a slot that a run does not load keeps what the run before left.
 #pragma once
 
-#include "session/controls.h"
+#include "grid/controls.h"
 #include "session/slots.h"
 #include "session/text.h"
 

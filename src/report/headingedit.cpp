@@ -1,10 +1,10 @@
 // headingedit.cpp -- the commands of the heading editor and of its legend editor.
 #include "report/headingedit.h"
 
+#include "grid/gridedit.h"
 #include "report/heading.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
-#include "session/gridedit.h"
 #include "session/platform.h"
 #include "session/savename.h"
 #include "session/session.h"

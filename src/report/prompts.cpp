@@ -2,8 +2,8 @@
 #include "report/prompts.h"
 
 #include "boring/boringboxes.h"
+#include "grid/gridedit.h"
 #include "session/files.h"
-#include "session/gridedit.h"
 #include "session/platform.h"
 #include "session/shared.h"
 

@@ -4,7 +4,7 @@
 // that no window has a label for are kept and relabel nothing.
 #pragma once
 
-#include "session/controls.h"
+#include "grid/controls.h"
 #include "session/slots.h"
 #include "session/text.h"
 

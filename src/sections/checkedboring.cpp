@@ -2,13 +2,13 @@
 #include "sections/checkedboring.h"
 
 #include "boring/boringblocks.h"
-#include "editors/hush.h"
 #include "sections/sectionboring.h"
 #include "session/failure.h"
 #include "session/files.h"
 #include "session/machine.h"
 #include "session/savename.h"
 #include "session/shared.h"
+#include "tools/hush.h"
 
 #include <algorithm>
 #include <map>
@@ -41,7 +41,7 @@ static void ReadLayers(LineReader& in, CheckedBoring& boring)
     }
 }
 
-static void ReadParams(BoringBlocks& blocks, CheckedBoring& boring)
+static void ReadParams(SectionBoringFile& blocks, CheckedBoring& boring)
 {
     for (int rows = blocks.in.Count(); rows > 0; --rows) {
         blocks.in.Skip(1);
@@ -53,7 +53,7 @@ static void ReadParams(BoringBlocks& blocks, CheckedBoring& boring)
 
 static void ReadBoring(const Text& path, CheckedBoring& boring)
 {
-    BoringBlocks blocks(path);
+    SectionBoringFile blocks(path);
     LineReader& in = blocks.in;
     boring.Name = in.Line();
     in.Skip(1 + 2 * MaxInfo);

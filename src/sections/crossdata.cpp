@@ -3,7 +3,7 @@
 // A second reader of that file besides OpenCrossFile, on purpose: a page shows what is on disk, never what the form
 // holds.
 #include "canvas/metaugl.h"
-#include "canvas/screenview.h"
+#include "run/screenview.h"
 #include "sections/crossrun.h"
 #include "sections/sectionboring.h"
 #include "sections/sheetrun.h"

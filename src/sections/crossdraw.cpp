@@ -2,11 +2,11 @@
 //
 // Data units are the user's feet or metres: with the section's scales in force x is a distance from the left edge of
 // the frame, y an elevation from the top of the scale.
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
 #include "logrender/vlog.h"
 #include "report/heading.h"
+#include "run/batchrun.h"
 #include "sections/crossrun.h"
 #include "sections/sectionboring.h"
 #include "session/deviceconfig.h"

@@ -1,8 +1,8 @@
 // crossfile.cpp -- the .CRO file, its record and the boxes of its form.
 #include "sections/crossfile.h"
 
+#include "grid/gridedit.h"
 #include "sections/sectionlines.h"
-#include "session/gridedit.h"
 #include "session/platform.h"
 #include "session/shared.h"
 

@@ -11,7 +11,7 @@
 #pragma once
 
 #include "boring/opensave.h"
-#include "session/controls.h"
+#include "grid/controls.h"
 #include "session/slots.h"
 #include "session/text.h"
 

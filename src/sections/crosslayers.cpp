@@ -1,9 +1,9 @@
 // crosslayers.cpp -- the fill between the columns of a cross section, by the codes of the layers or by a GIS table.
 #include "sections/crossrun.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "gis/gisfile.h"
+#include "run/batchrun.h"
 #include "sections/giscells.h"
 #include "sections/layershapes.h"
 

@@ -3,8 +3,8 @@
 // A graph is a strip 0.2 inch wide on the column's left side, its values growing leftward from the strip's right edge.
 #include "boring/boringblocks.h"
 #include "boring/boringdata.h"
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
+#include "run/batchrun.h"
 #include "sections/crossrun.h"
 #include "sections/sectionboring.h"
 #include "session/failure.h"
@@ -59,7 +59,7 @@ static Text TakeLine(LineReader& in, int lines)
 }
 
 // Samples stand at their middle.
-static void ReadSamples(BoringBlocks& boring, Values& values)
+static void ReadSamples(SectionBoringFile& boring, Values& values)
 {
     if (GeneralTable())
         return boring.Pass(SampleCells);
@@ -72,7 +72,7 @@ static void ReadSamples(BoringBlocks& boring, Values& values)
     }
 }
 
-static void ReadParams(BoringBlocks& boring, Values& values)
+static void ReadParams(SectionBoringFile& boring, Values& values)
 {
     if (!GeneralTable())
         return boring.Pass(boring.ParamCells());
@@ -119,7 +119,7 @@ static void ReadSetups(LineReader& in, DataFile& file)
 
 static void ReadBoring(const Text& path, int i, Values& values, DataFile& file)
 {
-    BoringBlocks boring(path);
+    SectionBoringFile boring(path);
     boring.ToSamples();
     ReadSamples(boring, values);
     boring.Pass(LithCells);

@@ -2,11 +2,11 @@
 #include "sections/crosstool.h"
 
 #include "boring/opensave.h"
-#include "editors/hush.h"
 #include "gis/gisfile.h"
 #include "sections/crosscheck.h"
 #include "sections/crossrun.h"
 #include "session/shared.h"
+#include "tools/hush.h"
 
 // Cells of a boring that no column shows: label offset, second label, azimuth, inclination.
 static constexpr int firstHidden = 6, lastHidden = 9, hiddenCells = lastHidden - firstHidden + 1;

@@ -1,8 +1,8 @@
 // crosstool.h -- the cross section tool: its table of what it has of its own, and its commands.
 #pragma once
 
-#include "editors/toolcommands.h"
 #include "sections/crossfile.h"
+#include "tools/toolcommands.h"
 
 extern ToolRecord CrossForm;
 

@@ -4,13 +4,13 @@
 // it; which layers become fills is asked of the rules that the panels are drawn by.
 #include "sections/fencecheck.h"
 
-#include "editors/hush.h"
 #include "sections/fencefile.h"
 #include "sections/fencerun.h"
 #include "sections/layershapes.h"
 #include "sections/sectionboring.h"
 #include "sections/sheetcheck.h"
 #include "session/session.h"
+#include "tools/hush.h"
 
 #include <algorithm>
 #include <cmath>

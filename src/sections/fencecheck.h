@@ -2,7 +2,7 @@
 // the boxes, the session and every record of a drawing stay as they are.
 #pragma once
 
-#include "editors/checkentry.h"
+#include "tools/checkentry.h"
 
 // Borings and files that are not found, panels that are not drawn, stakes beyond the base plane or the sheet, scales,
 // codes that draw blank, fills that the legend lacks, and cells that are not read as they look. A form with nothing in

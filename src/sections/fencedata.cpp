@@ -1,5 +1,5 @@
 // fencedata.cpp -- the definition of a fence diagram as it is drawn: the renderer's own reader of the .FEN file.
-#include "canvas/screenview.h"
+#include "run/screenview.h"
 #include "sections/fencerun.h"
 #include "sections/sectionboring.h"
 #include "sections/sheetrun.h"

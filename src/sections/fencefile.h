@@ -8,7 +8,7 @@
 //     page size, GIS file                                              (the last two only while the file lasts)
 #pragma once
 
-#include "session/controls.h"
+#include "grid/controls.h"
 #include "session/slots.h"
 #include "session/text.h"
 

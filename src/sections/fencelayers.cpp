@@ -2,8 +2,8 @@
 // codes of the layers or by a GIS table.
 #include "sections/fencerun.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
+#include "run/batchrun.h"
 #include "sections/giscells.h"
 #include "sections/layershapes.h"
 #include "session/deviceconfig.h"

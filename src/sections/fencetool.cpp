@@ -2,11 +2,11 @@
 #include "sections/fencetool.h"
 
 #include "boring/opensave.h"
-#include "editors/hush.h"
 #include "gis/gisfile.h"
 #include "sections/fencecheck.h"
 #include "sections/fencerun.h"
 #include "session/shared.h"
+#include "tools/hush.h"
 
 void frmFence::LabelBoxes()
 {

@@ -1,8 +1,8 @@
 // fencetool.h -- the fence tool: its table of what it has of its own, and its commands.
 #pragma once
 
-#include "editors/toolcommands.h"
 #include "sections/fencefile.h"
+#include "tools/toolcommands.h"
 
 extern ToolRecord FenceForm;
 

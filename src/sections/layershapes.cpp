@@ -1,9 +1,9 @@
 // layershapes.cpp -- how the layers of two neighbouring borings join.
 #include "sections/layershapes.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
+#include "run/batchrun.h"
 #include "session/platform.h"
 #include "session/shared.h"
 

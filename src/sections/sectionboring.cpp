@@ -2,8 +2,8 @@
 #include "sections/sectionboring.h"
 
 #include "boring/boringblocks.h"
-#include "canvas/screenview.h"
 #include "logrender/logdata.h"
+#include "run/screenview.h"
 #include "sections/crossrun.h"
 #include "session/platform.h"
 #include "session/savename.h"
@@ -50,11 +50,11 @@ void VCROSS::StepOverEntry()
 
 // ---- The blocks of the file
 
-BoringBlocks::BoringBlocks(const Text& path) : in(path), version(in.Line())
+SectionBoringFile::SectionBoringFile(const Text& path) : in(path), version(in.Line())
 {
 }
 
-Text BoringBlocks::ToSamples()
+Text SectionBoringFile::ToSamples()
 {
     Text name = in.Line();
     in.Skip(1 + 2 * MaxInfo + MaxScale); // the map, the title information, the scale
@@ -63,17 +63,17 @@ Text BoringBlocks::ToSamples()
     return name;
 }
 
-void BoringBlocks::Pass(int cells)
+void SectionBoringFile::Pass(int cells)
 {
     SkipBlock(in, cells);
 }
 
-int BoringBlocks::ParamCells() const
+int SectionBoringFile::ParamCells() const
 {
     return ::ParamCells(version);
 }
 
-void BoringBlocks::GenWell(int i, SectionWell& well)
+void SectionBoringFile::GenWell(int i, SectionWell& well)
 {
     well.WellName = in.Line();
     in.Skip(3);
@@ -82,7 +82,7 @@ void BoringBlocks::GenWell(int i, SectionWell& well)
     in.Skip(MaxGenWell - 6);
 }
 
-void BoringBlocks::OuterLayers(SectionWell& well)
+void SectionBoringFile::OuterLayers(SectionWell& well)
 {
     for (int32_t rows = in.Count(); rows > 0; --rows) {
         in.Skip(1);
@@ -92,7 +92,7 @@ void BoringBlocks::OuterLayers(SectionWell& well)
 }
 
 // The lithology. Kept: the count is taken as it stands, so what looks at a layer above the bound fails later too.
-static void Layers(BoringBlocks& boring, int i)
+static void Layers(SectionBoringFile& boring, int i)
 {
     CrossRunRecord& run = CrossRun;
     const int32_t count = boring.in.Count();
@@ -106,7 +106,7 @@ static void Layers(BoringBlocks& boring, int i)
 }
 
 // From the descriptions to the well's numbers.
-static void ToGenWell(BoringBlocks& boring)
+static void ToGenWell(SectionBoringFile& boring)
 {
     boring.Pass(1); // descriptions
     boring.Pass(boring.ParamCells());
@@ -116,7 +116,7 @@ static void ToGenWell(BoringBlocks& boring)
 }
 
 // The casing's end, and the screens in it.
-static void InnerLayers(BoringBlocks& boring, SectionWell& well)
+static void InnerLayers(SectionBoringFile& boring, SectionWell& well)
 {
     for (int32_t rows = boring.in.Count(); rows > 0; --rows) {
         const float start = TextNumber(boring.in.Line());
@@ -132,7 +132,7 @@ static void InnerLayers(BoringBlocks& boring, SectionWell& well)
     }
 }
 
-void BoringBlocks::ClientBlock()
+void SectionBoringFile::ClientBlock()
 {
     Pass(1); // remarks
     Pass(CuttingCells);
@@ -151,7 +151,7 @@ void BoringBlocks::ClientBlock()
 
 void VCROSS::ReadSectionLayers(const Text& path, int i)
 {
-    BoringBlocks boring(path);
+    SectionBoringFile boring(path);
     boring.ToSamples();
     boring.Pass(SampleCells);
     Layers(boring, i);
@@ -160,7 +160,7 @@ void VCROSS::ReadSectionLayers(const Text& path, int i)
 void VCROSS::ReadSectionWell(const Text& path, int i, SectionWell& well, bool withClient)
 {
     well = SectionWell();
-    BoringBlocks boring(path);
+    SectionBoringFile boring(path);
     well.Name = boring.ToSamples();
     boring.Pass(SampleCells);
     boring.Pass(LithCells);
@@ -175,7 +175,7 @@ void VCROSS::ReadSectionWell(const Text& path, int i, SectionWell& well, bool wi
 void VCROSS::ReadFenceBoring(const Text& path, int i, SectionWell& well, bool withClient)
 {
     well = SectionWell();
-    BoringBlocks boring(path);
+    SectionBoringFile boring(path);
     well.Name = boring.ToSamples();
     boring.Pass(SampleCells);
     Layers(boring, i);

@@ -45,8 +45,8 @@ void ReadSectionWell(const Text& path, int i, SectionWell& well, bool withClient
 void ReadFenceBoring(const Text& path, int i, SectionWell& well, bool withClient);
 
 // A boring's file under way, opened behind its version line: its blocks are taken or passed over in their order.
-struct BoringBlocks {
-    explicit BoringBlocks(const Text& path);
+struct SectionBoringFile {
+    explicit SectionBoringFile(const Text& path);
     Text ToSamples();       // passes over all in front of the samples' count; the boring's name
     void Pass(int cells);   // a counted block; no bound
     int ParamCells() const; // of a row of general parameters, its depth among them

@@ -1,9 +1,9 @@
 // sheetcheck.h -- what the check lists of sections, fences and soil tables have in common.
 #pragma once
 
-#include "editors/checkentry.h"
+#include "grid/controls.h"
 #include "sections/checkedboring.h"
-#include "session/controls.h"
+#include "tools/checkentry.h"
 
 #include <map>
 #include <set>

@@ -1,10 +1,10 @@
 // sheetrun.cpp -- the loop over the files of log.mas, from the saved files alone.
 #include "sections/sheetrun.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
-#include "canvas/screenview.h"
 #include "report/heading.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "session/files.h"
 #include "session/platform.h"
 

@@ -2,7 +2,7 @@
 // blocks: the boxes, the session and every record of a drawing stay as they are.
 #pragma once
 
-#include "editors/checkentry.h"
+#include "tools/checkentry.h"
 
 // A boring that is not found, numbers that are no parameter, columns without values or beyond the page, bars without a
 // full scale, rows beyond the depth scale or on one another, codes that draw blank, too many notes. A form with nothing

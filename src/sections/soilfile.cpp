@@ -2,10 +2,10 @@
 #include "sections/soilfile.h"
 
 #include "boring/textlines.h"
+#include "grid/gridedit.h"
 #include "report/prompts.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
-#include "session/gridedit.h"
 #include "session/platform.h"
 #include "session/session.h"
 #include "session/shared.h"

@@ -7,7 +7,7 @@
 
 #include "boring/boringboxes.h"
 #include "boring/opensave.h"
-#include "session/controls.h"
+#include "grid/controls.h"
 #include "session/slots.h"
 #include "session/text.h"
 

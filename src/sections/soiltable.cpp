@@ -5,13 +5,13 @@
 #include "sections/soiltable.h"
 
 #include "boring/boringblocks.h"
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/patterns.h"
-#include "canvas/screenview.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
 #include "report/heading.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "sections/sectionboring.h"
 #include "sections/sheetrun.h"
 #include "session/deviceconfig.h"
@@ -95,7 +95,7 @@ static void ReadLayers(LineReader& in)
 
 static void ReadBoring(const Text& path)
 {
-    BoringBlocks boring(path);
+    SectionBoringFile boring(path);
     LineReader& in = boring.in;
     SoilRun.boringName = in.Line();
     in.Skip(1 + 2 * MaxInfo); // the map file and the information

@@ -1,9 +1,9 @@
 // soiltool.cpp -- the soil tool's table.
 #include "sections/soiltool.h"
 
-#include "editors/hush.h"
 #include "sections/soilcheck.h"
 #include "session/shared.h"
+#include "tools/hush.h"
 
 static void Undisturbed(const std::function<void()>& work)
 {

@@ -1,8 +1,8 @@
 // soiltool.h -- the soil tool: its table of what it has of its own, and its commands.
 #pragma once
 
-#include "editors/toolcommands.h"
 #include "sections/soilfile.h"
+#include "tools/toolcommands.h"
 
 extern ToolRecord SoilForm;
 

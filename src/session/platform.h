@@ -1,7 +1,7 @@
 // platform.h -- all that the logic asks of the machine.
 //
-// The record of procedures is filled in once, at the start of a program: by platform/qt for the two programs, by
-// platform/plain for the tests. Every procedure is always there.
+// The record of procedures is filled in once, at the start of a program: by windows/desktop.cpp and
+// programs/stratavue-batch.cpp for the two programs, by plain/plain.cpp for the tests. Every procedure is always there.
 #pragma once
 
 #include "session/text.h"

@@ -4,9 +4,9 @@
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
 #include "boring/textlines.h"
-#include "canvas/batch.h"
 #include "editors/fillform.h"
 #include "places.h"
+#include "run/batchrun.h"
 #include "session/files.h"
 #include "session/session.h"
 

@@ -11,7 +11,7 @@
 
 #include "boring/boringdata.h"
 #include "boring/boringfile.h"
-#include "canvas/batch.h"
+#include "run/batchrun.h"
 #include "session/files.h"
 #include "session/session.h"
 

@@ -3,8 +3,8 @@
 
 #include "convert/converted.h"
 
-#include "canvas/batch.h"
 #include "logrender/boringtext.h"
+#include "run/batchrun.h"
 #include "session/files.h"
 #include "session/platform.h"
 

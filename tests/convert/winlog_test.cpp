@@ -4,7 +4,7 @@
 #include "convert/converted.h"
 
 #include "boring/boringdata.h"
-#include "canvas/batch.h"
+#include "run/batchrun.h"
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"

@@ -3,12 +3,12 @@
 //     dxfpages FILLSDIR OUTDIR
 //
 // Prints what the drawing of each costs in processor time: the median of five runs, from the objects to the bytes.
-#include "canvas/dxf.h"
 #include "canvas/metaugl.h"
 #include "canvas/pagelisting.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
-#include "platform/plain/plain.h"
+#include "dxf/dxf.h"
+#include "plain/plain.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"

@@ -3,9 +3,9 @@
 
 #include "boring/boringboxes.h"
 #include "boring/boringdata.h"
-#include "canvas/batch.h"
-#include "canvas/screenview.h"
 #include "places.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"

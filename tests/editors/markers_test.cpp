@@ -6,9 +6,9 @@
 #include "boring/boringfile.h"
 #include "editors/borinput.h"
 #include "editors/fillform.h"
+#include "grid/gridedit.h"
+#include "grid/rowmoves.h"
 #include "places.h"
-#include "session/gridedit.h"
-#include "session/rowmoves.h"
 #include "session/session.h"
 #include "testing.h"
 

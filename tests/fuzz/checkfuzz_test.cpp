@@ -6,12 +6,11 @@
 
 #include "places.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
-#include "canvas/screenview.h"
-#include "editors/checkview.h"
 #include "gis/gistool.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "sections/crosspage.h"
 #include "sections/crossrun.h"
 #include "sections/crosstool.h"
@@ -23,6 +22,7 @@
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"
+#include "tools/checkview.h"
 
 #include <algorithm>
 

@@ -3,15 +3,15 @@
 
 #include "testing.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
-#include "canvas/screenview.h"
 #include "logrender/boringtext.h"
 #include "logrender/intropage.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
 #include "places.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "session/files.h"
 #include "session/platform.h"
 

@@ -4,11 +4,11 @@
 
 #include "testing.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
-#include "canvas/screenview.h"
 #include "gis/gisfile.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "sections/crossfile.h"
 #include "sections/crosspage.h"
 #include "sections/crossrun.h"

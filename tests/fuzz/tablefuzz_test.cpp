@@ -4,13 +4,13 @@
 
 #include "testing.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
-#include "canvas/screenview.h"
 #include "gis/gisfile.h"
 #include "logrender/boringtext.h"
 #include "places.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "sections/soilfile.h"
 #include "sections/soiltable.h"
 #include "session/failure.h"

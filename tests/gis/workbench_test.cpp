@@ -5,8 +5,8 @@
 #include "testing.h"
 
 #include "boring/boringdata.h"
+#include "grid/gridedit.h"
 #include "session/files.h"
-#include "session/gridedit.h"
 #include "session/session.h"
 
 using namespace frmGIS;

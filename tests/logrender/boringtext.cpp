@@ -3,7 +3,7 @@
 
 #include "testing.h"
 
-#include "canvas/batch.h"
+#include "run/batchrun.h"
 #include "session/files.h"
 
 namespace

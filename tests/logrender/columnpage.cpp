@@ -1,13 +1,13 @@
 // columnpage.cpp -- a page with one column under test.
 #include "columnpage.h"
 
-#include "canvas/batch.h"
 #include "canvas/bitmap.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "logrender/logdata.h"
 #include "report/heading.h"
+#include "run/batchrun.h"
 #include "session/files.h"
 
 #include <cmath>

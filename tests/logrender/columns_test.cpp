@@ -1,9 +1,9 @@
 // columns_test.cpp -- which routine a report part's name chooses, and what the dispatcher does besides.
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "columnpage.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
+#include "run/batchrun.h"
 
 // The first heading word of the column that a report part draws, which tells its routine.
 static Text ColumnOf(const char* item, const char* width = "1", const char* firstLine = "")

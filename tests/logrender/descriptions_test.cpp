@@ -1,11 +1,11 @@
 // descriptions_test.cpp -- the description column of "@" blocks: where boxes go when units are thin, what prints at
 // the ends of a page, and the order of the lines.
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "columnpage.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
 #include "report/heading.h"
+#include "run/batchrun.h"
 
 #include <filesystem>
 

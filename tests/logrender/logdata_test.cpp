@@ -3,8 +3,8 @@
 #include "logrender/logdata.h"
 
 #include "boringtext.h"
-#include "canvas/batch.h"
-#include "canvas/screenview.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "testing.h"
 
 #include "session/deviceconfig.h"

@@ -1,13 +1,13 @@
 // logrun_test.cpp -- whole runs from log.mas to the drawn pages.
 #include "boringtext.h"
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
-#include "canvas/screenview.h"
-#include "canvas/viewcommands.h"
 #include "columnpage.h"
 #include "logrender/logdata.h"
 #include "logrender/vlog.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
+#include "run/viewcommands.h"
 
 #include "session/platform.h"
 

@@ -3,7 +3,7 @@
 
 #include "canvas/bitmap.h"
 #include "canvas/metaugl.h"
-#include "platform/qt/headless.h"
+#include "painter/headless.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 

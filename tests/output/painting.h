@@ -2,7 +2,7 @@
 #pragma once
 
 #include "canvas/pageobjects.h"
-#include "platform/qt/pagepainter.h"
+#include "painter/pagepainter.h"
 #include "testing.h"
 
 #include <QImage>

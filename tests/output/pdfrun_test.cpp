@@ -1,5 +1,5 @@
 // pdfrun_test.cpp -- the PDF of a run: its pages, words, patterns and entries, and what becomes of an older file.
-#include "platform/qt/pdfrun.h"
+#include "painter/pdfrun.h"
 
 #include "output/painting.h"
 

@@ -1,5 +1,5 @@
 // pngpages_test.cpp -- the page as a picture file.
-#include "platform/qt/pngpages.h"
+#include "painter/pngpages.h"
 
 #include "output/painting.h"
 

@@ -3,12 +3,12 @@
 
 #include "testing.h"
 
-#include "batch/jobtable.h"
-#include "canvas/batch.h"
 #include "canvas/patterns.h"
-#include "canvas/screenview.h"
-#include "canvas/viewcommands.h"
 #include "places.h"
+#include "programs/jobtable.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
+#include "run/viewcommands.h"
 
 // Without the first line, whose page number counts on.
 static std::string Objects(const std::string& listing)

@@ -3,11 +3,11 @@
 
 #include "testing.h"
 
-#include "batch/jobtable.h"
-#include "canvas/batch.h"
 #include "canvas/patterns.h"
-#include "canvas/screenview.h"
 #include "places.h"
+#include "programs/jobtable.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"

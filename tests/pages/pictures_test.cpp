@@ -6,11 +6,11 @@
 
 #include "testing.h"
 
-#include "canvas/batch.h"
 #include "canvas/patterns.h"
+#include "painter/headless.h"
+#include "painter/pngpages.h"
 #include "places.h"
-#include "platform/qt/headless.h"
-#include "platform/qt/pngpages.h"
+#include "run/batchrun.h"
 #include "session/files.h"
 
 #include <QImage>

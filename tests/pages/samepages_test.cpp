@@ -5,17 +5,17 @@
 
 #include "testing.h"
 
-#include "batch/jobtable.h"
 #include "boring/boringboxes.h"
-#include "canvas/batch.h"
 #include "canvas/pagelisting.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
-#include "canvas/screenview.h"
 #include "editors/borinput.h"
-#include "editors/livepreview.h"
 #include "places.h"
+#include "programs/jobtable.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "session/files.h"
+#include "tools/livepreview.h"
 
 #include <algorithm>
 #include <map>

@@ -3,10 +3,10 @@
 
 #include "report/choosing.h"
 
+#include "grid/gridedit.h"
 #include "places.h"
 #include "report/heading.h"
 #include "session/files.h"
-#include "session/gridedit.h"
 #include "session/session.h"
 
 static void WriteHeadings(const Text& name, std::initializer_list<std::pair<int, Text>> slots = {})

@@ -4,9 +4,9 @@
 #include "testing.h"
 
 #include "boring/boringboxes.h"
+#include "grid/gridedit.h"
 #include "places.h"
 #include "session/files.h"
-#include "session/gridedit.h"
 
 // A prompt file: default "dn" and new text "dn" for slot n, but for what is set.
 static void WritePrompts(std::initializer_list<std::pair<int, Text>> changed = {})

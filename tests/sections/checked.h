@@ -1,7 +1,7 @@
 // checked.h -- what a check list of a section, fence, soil table or layer table holds, in words.
 #pragma once
 
-#include "editors/checkentry.h"
+#include "tools/checkentry.h"
 
 // The words of the entries of a kind, in order.
 inline std::vector<Text> WordsOf(const std::vector<CheckEntry>& entries, std::string_view kind)

@@ -5,10 +5,10 @@
 // reference level is at 90, so at y 600; it is 10 deep with its casing to 4, and its column 60 wide.
 #include "crosspage.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
-#include "canvas/screenview.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "sections/crossrun.h"
 
 using namespace VCROSS;

@@ -1,7 +1,7 @@
 // crossdata_test.cpp -- the definition of a cross section as its drawing reads it from the .CRO file.
 #include "crosspage.h"
 
-#include "canvas/screenview.h"
+#include "run/screenview.h"
 #include "sections/crossrun.h"
 #include "session/session.h"
 

@@ -2,10 +2,10 @@
 // origin.
 #include "crosspage.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "report/heading.h"
+#include "run/batchrun.h"
 #include "sections/crossrun.h"
 #include "session/deviceconfig.h"
 

@@ -1,9 +1,9 @@
 // crosslayers_test.cpp -- the fill between the columns of a section by the codes of the layers.
 #include "layerpage.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
+#include "run/batchrun.h"
 #include "sections/layershapes.h"
 
 #include <cmath>

@@ -1,10 +1,10 @@
 // crosspage.cpp -- the files of a cross section run, and what was drawn from them.
 #include "crosspage.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
-#include "canvas/screenview.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "sections/crossrun.h"
 #include "session/files.h"
 

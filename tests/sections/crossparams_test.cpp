@@ -2,10 +2,10 @@
 // origin. The boring stands at x 600, its ground at y 600, 60 units to a foot of depth, and it is 10 deep.
 #include "crosspage.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
-#include "canvas/screenview.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "sections/crossrun.h"
 
 using namespace VCROSS;

@@ -1,11 +1,11 @@
 // crossrun_test.cpp -- whole runs from log.mas to the drawn pages of cross sections.
 #include "crosspage.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
-#include "canvas/screenview.h"
-#include "canvas/viewcommands.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
+#include "run/viewcommands.h"
 #include "sections/crossrun.h"
 #include "sections/sheetrun.h"
 #include "session/platform.h"

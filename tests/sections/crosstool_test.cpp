@@ -2,21 +2,21 @@
 // tools, with no window.
 #include "sections/crosstool.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
-#include "canvas/screenview.h"
-#include "editors/livepreview.h"
 #include "gis/gistool.h"
+#include "grid/gridedit.h"
 #include "report/prompts.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "sections/crossrun.h"
 #include "sections/fencerun.h"
 #include "sections/fencetool.h"
 #include "sections/soiltable.h"
 #include "sections/soiltool.h"
 #include "session/files.h"
-#include "session/gridedit.h"
 #include "session/session.h"
 #include "testing.h"
+#include "tools/livepreview.h"
 
 // Three borings with an offset, a label, an azimuth and an inclination each.
 static void OpenInclined()

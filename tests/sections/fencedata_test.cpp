@@ -1,7 +1,7 @@
 // fencedata_test.cpp -- the definition of a fence as it is drawn: the renderer's reader of the .FEN file.
 #include "fencepage.h"
 
-#include "canvas/screenview.h"
+#include "run/screenview.h"
 #include "sections/fencerun.h"
 #include "session/session.h"
 

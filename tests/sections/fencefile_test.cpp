@@ -4,9 +4,9 @@
 #include "testing.h"
 
 #include "boring/opensave.h"
+#include "grid/gridedit.h"
 #include "places.h"
 #include "session/files.h"
-#include "session/gridedit.h"
 #include "session/session.h"
 
 #include <functional>

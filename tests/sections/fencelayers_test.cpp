@@ -1,10 +1,10 @@
 // fencelayers_test.cpp -- the panels of a fence: where they stand, how their layers join, and what hides what.
 #include "layerpage.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "gis/gisfile.h"
+#include "run/batchrun.h"
 #include "sections/fencerun.h"
 #include "sections/layershapes.h"
 #include "session/deviceconfig.h"

@@ -4,12 +4,12 @@
 
 #include "testing.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
-#include "canvas/screenview.h"
 #include "logrender/boringtext.h"
 #include "places.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "sections/fencefile.h"
 #include "sections/fencerun.h"
 #include "session/files.h"

@@ -1,10 +1,10 @@
 // fencepage.cpp -- the files of a fence run, and what was drawn from them.
 #include "fencepage.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
-#include "canvas/screenview.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "sections/fencerun.h"
 #include "session/files.h"
 #include "session/session.h"

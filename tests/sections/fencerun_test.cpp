@@ -1,10 +1,10 @@
 // fencerun_test.cpp -- whole fence runs from log.mas to the drawn pages.
 #include "fencepage.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
-#include "canvas/screenview.h"
 #include "gis/gisfile.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "sections/fencerun.h"
 #include "session/files.h"
 #include "session/platform.h"

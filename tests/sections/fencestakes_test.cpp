@@ -4,9 +4,9 @@
 
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
-#include "canvas/screenview.h"
 #include "gis/gisfile.h"
 #include "report/heading.h"
+#include "run/screenview.h"
 #include "sections/fencerun.h"
 #include "session/deviceconfig.h"
 #include "session/platform.h"

@@ -1,10 +1,10 @@
 // gislayers_test.cpp -- the fill between the borings of a section by the cells of a GIS table.
 #include "layerpage.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "gis/gisfile.h"
+#include "run/batchrun.h"
 #include "sections/giscells.h"
 #include "sections/layershapes.h"
 

@@ -1,11 +1,11 @@
 // layerpage.cpp -- a section and a fence of a few borings, and the polygons between them.
 #include "layerpage.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
 #include "canvas/patterns.h"
 #include "gis/gisfile.h"
+#include "run/batchrun.h"
 #include "sections/fencerun.h"
 #include "sections/layershapes.h"
 #include "session/files.h"

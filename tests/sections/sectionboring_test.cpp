@@ -1,8 +1,8 @@
 // sectionboring_test.cpp -- what sections and fences take of a boring's file.
 #include "crosspage.h"
 
-#include "canvas/screenview.h"
 #include "logrender/logdata.h"
+#include "run/screenview.h"
 #include "sections/crossrun.h"
 #include "sections/sectionboring.h"
 #include "session/platform.h"

@@ -3,8 +3,8 @@
 #include "crosspage.h"
 
 #include "canvas/metaugl.h"
-#include "canvas/screenview.h"
 #include "report/heading.h"
+#include "run/screenview.h"
 #include "sections/crossrun.h"
 #include "sections/fencerun.h"
 #include "session/deviceconfig.h"

@@ -4,11 +4,11 @@
 #include "logrender/boringtext.h"
 #include "logrender/columnpage.h"
 
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
-#include "canvas/screenview.h"
 #include "logrender/logdata.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"

@@ -1,7 +1,7 @@
 // startup_test.cpp -- the order of the start.
 #include "session/startup.h"
 
-#include "canvas/screenview.h"
+#include "run/screenview.h"
 #include "session/files.h"
 #include "session/session.h"
 #include "testing.h"

@@ -1,4 +1,4 @@
-"""structure_test.py -- the lines between the folders: who may include Qt, and that no folder leads back to itself.
+"""structure_test.py -- the lines between the rooms of src/: their order, who may include Qt, and the picture of them.
 
     python3 structure_test.py SOURCE_DIR
 """
@@ -6,41 +6,45 @@ import os
 import re
 import sys
 
-source = os.path.join(os.path.abspath(sys.argv[1]), "src")
-windows = re.compile(r"(^|/)(frm[A-Z]\w*\.(cpp|h)$|platform/qt/)")
+from rooms import ROOMS, arrows, includes, picture
+
+source = os.path.abspath(sys.argv[1])
 failures = []
-uses = {}  # of the logic: folder -> folders it includes
-for where, _, names in os.walk(source):
-    for name in names:
-        path = os.path.relpath(os.path.join(where, name), source).replace(os.sep, "/")
-        with open(os.path.join(where, name), encoding="utf-8") as lines:
-            included = re.findall(r'^#include ([<"][^>"]+)', lines.read(), flags=re.M)
-        qt = [word for word in included if re.match(r'<Q[A-Z]|<Qt|<qt', word)]
-        if windows.search(path):
+files = includes(source)
+for path, words in sorted(files.items()):
+    room = path.split("/")[0]
+    if room not in ROOMS:
+        failures.append(f"{path} stands in no room")
+        continue
+    for word in words:
+        if word.startswith("<"):
+            if room not in ("painter", "windows", "programs"):
+                failures.append(f"{path} includes Qt: {word}>")
             continue
-        if qt:
-            failures.append(f"{path} includes Qt: {qt[0]}>")
-        if path.startswith(("batch/", "platform/plain/")):
-            continue  # programs on top of everything
-        folder = path.split("/")[0]
-        for word in included:
-            target = word[1:].split("/")[0]
-            if word.startswith('"') and target != folder and os.path.isdir(os.path.join(source, target)):
-                uses.setdefault(folder, set()).add(target)
-                if target == "platform":
-                    failures.append(f"{path} reaches the machine past session/platform.h: {word[1:]}")
+        if ROOMS.index(word.split("/")[0]) > ROOMS.index(room):
+            failures.append(f"{path} includes from a room above its own: {word}")
+    if room not in ("plain", "painter", "windows", "programs"):
+        failures += [f"{path} reaches the machine past session/platform.h: {word}" for word in words
+                     if word.split("/")[0] in ("plain", "painter", "windows", "programs")]
+    if not re.match(r"session/machine_\w+\.cpp$", path):
+        with open(os.path.join(source, "src", path), encoding="utf-8") as lines:
+            system = re.search(r"#include <(unistd|fcntl|dirent|sys/\w+|windows)\.h>|/proc/", lines.read(), re.I)
+        if system:
+            failures.append(f"{path} calls the system past session/machine.h: {system.group(0)}")
 
+# Widgets are a room's own: the painter has only what a page needs.
+widgets = re.compile(r"<Q(Widget|Dialog|MainWindow|Menu|Action|Application|Dock\w+|\w*(Box|Button|Edit|View|Layout|Label))$")
+failures += [f"{path} includes a widget: {word}>" for path, words in sorted(files.items()) for word in words
+             if path.startswith("painter/") and widgets.match(word)]
 
-def reaches(start, goal, seen):
-    for folder in uses.get(start, ()):
-        if folder == goal or (folder not in seen and reaches(folder, goal, seen | {folder})):
-            return True
-    return False
+names = [os.path.basename(path) for path in files]
+failures += [f"two files are called {name}" for name in sorted(set(names)) if names.count(name) > 1]
 
-
-if len(uses) < 4:
-    failures.append("the folders were not found")
-failures += [f"{folder}/ leads back to itself" for folder in sorted(uses) if reaches(folder, folder, {folder})]
+with open(os.path.join(source, "docs", "rooms.svg"), encoding="utf-8") as kept:
+    if kept.read() != picture(arrows(files)):
+        failures.append("docs/rooms.svg shows other arrows: python3 tests/structure/rooms.py . --draw")
+if len(files) < 200:
+    failures.append("the files were not found")
 for failure in failures:
     print(failure)
 print("%d passed, %d failed" % (0 if failures else 1, len(failures)))

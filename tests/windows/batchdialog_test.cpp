@@ -1,11 +1,11 @@
 // batchdialog_test.cpp -- the batch dialog and the progress of a run.
-#include "canvas/batch.h"
 #include "canvas/pagelisting.h"
-#include "canvas/screenview.h"
-#include "platform/qt/windows.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "session/files.h"
 #include "session/session.h"
 #include "windows/driver.h"
+#include "windows/showwindows.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -5,11 +5,11 @@
 
 #include "boring/boringboxes.h"
 #include "editors/borinput.h"
-#include "platform/qt/uitext.h"
 #include "report/desitems.h"
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "windows/uitext.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,10 +1,10 @@
 // converters_test.cpp -- the converters by the menu of the log tool, their dialogs and the conversion editor, by real
 // events.
 #include "boring/boringboxes.h"
-#include "canvas/batch.h"
 #include "convert/gtgsgeneditor.h"
 #include "convert/gtgsgeneral.h"
 #include "places.h"
+#include "run/batchrun.h"
 #include "session/files.h"
 #include "session/session.h"
 #include "windows/driver.h"

@@ -1,14 +1,14 @@
 // driver.cpp -- the user of the window tests.
 #include "windows/driver.h"
 
-#include "batch/jobtable.h"
 #include "places.h"
-#include "platform/qt/application.h"
-#include "platform/qt/printers.h"
-#include "platform/qt/uitext.h"
-#include "platform/qt/windows.h"
+#include "programs/jobtable.h"
 #include "session/session.h"
 #include "session/startup.h"
+#include "windows/application.h"
+#include "windows/printers.h"
+#include "windows/showwindows.h"
+#include "windows/uitext.h"
 
 #include <QAbstractButton>
 #include <QAction>

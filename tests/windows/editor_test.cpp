@@ -7,12 +7,12 @@
 #include "boring/boringfile.h"
 #include "canvas/pageobjects.h"
 #include "editors/borinput.h"
-#include "platform/qt/gridview.h"
-#include "platform/qt/livepane.h"
-#include "platform/qt/memoview.h"
-#include "platform/qt/uitext.h"
 #include "session/linebreaks.h"
 #include "session/session.h"
+#include "windows/gridview.h"
+#include "windows/livepane.h"
+#include "windows/memoview.h"
+#include "windows/uitext.h"
 
 #include <QAction>
 #include <QApplication>

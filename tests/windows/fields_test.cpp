@@ -5,11 +5,11 @@
 
 #include "boring/boringboxes.h"
 #include "editors/checklist.h"
-#include "platform/qt/checkdock.h"
-#include "platform/qt/uitext.h"
 #include "report/prompts.h"
 #include "session/files.h"
 #include "session/session.h"
+#include "windows/checkdock.h"
+#include "windows/uitext.h"
 
 #include <QAbstractButton>
 #include <QAccessible>

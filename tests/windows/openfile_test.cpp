@@ -4,16 +4,16 @@
 
 #include "boring/boringboxes.h"
 #include "convert/gtgsgeneditor.h"
-#include "editors/nextfile.h"
 #include "gis/gistool.h"
-#include "platform/qt/uitext.h"
-#include "platform/qt/windows.h"
 #include "sections/crosstool.h"
 #include "sections/fencetool.h"
 #include "sections/soiltool.h"
 #include "session/files.h"
 #include "session/session.h"
+#include "tools/nextfile.h"
 #include "windows/hands.h"
+#include "windows/showwindows.h"
+#include "windows/uitext.h"
 
 #include <QAction>
 #include <QApplication>

@@ -2,13 +2,13 @@
 #include "boring/boringboxes.h"
 #include "boring/opensave.h"
 #include "boring/projectlist.h"
-#include "platform/qt/application.h"
-#include "platform/qt/windows.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"
 #include "session/startup.h"
+#include "windows/application.h"
 #include "windows/driver.h"
+#include "windows/showwindows.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,8 +1,8 @@
 // pageview_test.cpp -- the page in the screen view under the mouse.
-#include "platform/qt/pageview.h"
+#include "windows/pageview.h"
 
 #include "canvas/metaugl.h"
-#include "canvas/screenview.h"
+#include "run/screenview.h"
 #include "windows/driver.h"
 
 #include <QApplication>

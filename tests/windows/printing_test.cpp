@@ -1,14 +1,14 @@
 // printing_test.cpp -- print runs where there is no printer, and the printer set-up.
-#include "canvas/batch.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
-#include "canvas/screenview.h"
-#include "canvas/viewcommands.h"
-#include "platform/qt/pdfrun.h"
-#include "platform/qt/printers.h"
+#include "painter/pdfrun.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
+#include "run/viewcommands.h"
 #include "session/failure.h"
 #include "session/files.h"
 #include "windows/driver.h"
+#include "windows/printers.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

@@ -1,8 +1,8 @@
 // projedit_test.cpp -- the project list's editor, by real events.
 #include "boring/projectlist.h"
-#include "platform/qt/windows.h"
 #include "session/files.h"
 #include "windows/driver.h"
+#include "windows/showwindows.h"
 
 #include <QPushButton>
 #include <QTableView>

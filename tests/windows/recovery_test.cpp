@@ -4,12 +4,12 @@
 
 #include "boring/boringboxes.h"
 #include "places.h"
-#include "platform/qt/windows.h"
 #include "session/files.h"
 #include "session/platform.h"
 #include "session/recovery.h"
 #include "session/session.h"
 #include "windows/hands.h"
+#include "windows/showwindows.h"
 
 #include <QAbstractButton>
 #include <QAction>

@@ -1,14 +1,14 @@
 // screenview_test.cpp -- the screen view by mouse and keys.
-#include "canvas/batch.h"
 #include "canvas/bitmap.h"
 #include "canvas/metaugl.h"
 #include "canvas/pageobjects.h"
-#include "canvas/screenview.h"
-#include "platform/qt/pageview.h"
-#include "platform/qt/pdfrun.h"
+#include "painter/pdfrun.h"
+#include "run/batchrun.h"
+#include "run/screenview.h"
 #include "session/files.h"
 #include "session/session.h"
 #include "windows/driver.h"
+#include "windows/pageview.h"
 
 #include <QElapsedTimer>
 #include <QInputDialog>

@@ -1,6 +1,5 @@
 // smalleditors_test.cpp -- the heading, legend, layout, prompt and description item editors, by real events.
 #include "boring/boringboxes.h"
-#include "platform/qt/application.h"
 #include "report/heading.h"
 #include "report/layout.h"
 #include "report/layoutedit.h"
@@ -8,6 +7,7 @@
 #include "session/files.h"
 #include "session/session.h"
 #include "session/startup.h"
+#include "windows/application.h"
 #include "windows/driver.h"
 
 #include <QAbstractItemModel>

@@ -1,11 +1,11 @@
 // start_test.cpp -- the start and the end of the program, as the user meets them.
-#include "platform/qt/application.h"
-#include "platform/qt/windows.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"
 #include "session/startup.h"
+#include "windows/application.h"
 #include "windows/driver.h"
+#include "windows/showwindows.h"
 
 #include <QAction>
 #include <QApplication>

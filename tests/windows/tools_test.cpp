@@ -6,14 +6,14 @@
 #include "boring/projectlist.h"
 #include "canvas/pageobjects.h"
 #include "gis/gistool.h"
-#include "platform/qt/livepane.h"
-#include "platform/qt/uitext.h"
 #include "sections/crosstool.h"
 #include "sections/fencetool.h"
 #include "sections/soiltool.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/session.h"
+#include "windows/livepane.h"
+#include "windows/uitext.h"
 
 #include <QAbstractButton>
 #include <QAction>

@@ -4,11 +4,11 @@
 #include "windows/hands.h"
 
 #include "boring/boringboxes.h"
-#include "platform/qt/uitext.h"
 #include "report/heading.h"
 #include "sections/soiltool.h"
 #include "session/platform.h"
 #include "session/session.h"
+#include "windows/uitext.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -5,9 +5,9 @@
 
 #include "boring/boringboxes.h"
 #include "canvas/pagelisting.h"
-#include "canvas/screenview.h"
+#include "painter/pdfrun.h"
 #include "places.h"
-#include "platform/qt/pdfrun.h"
+#include "run/screenview.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
 #include "session/recovery.h"

@@ -2,7 +2,7 @@
 #include "windows/campaign.h"
 #include "windows/driver.h"
 
-#include "canvas/batch.h"
+#include "run/batchrun.h"
 #include "session/files.h"
 #include "session/recovery.h"
 #include "session/session.h"

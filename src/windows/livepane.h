@@ -1,0 +1,43 @@
+// livepane.h -- the pane beside the boxes of a tool that shows a page of what stands in them.
+#pragma once
+
+#include "tools/livepreview.h"
+
+#include <QPixmap>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+
+class LivePane : public QWidget
+{
+public:
+    explicit LivePane(QWidget* parent);
+    void Soon();          // something has changed: drawn anew when the user pauses
+    void Turn(int pages); // to a later or an earlier page
+    // Who draws: the log tool unless another is set.
+    std::function<bool(int number, const Text& folder, LivePage& page)> Draws = DrawLivePage;
+    std::function<void(int)> OnLayer; // a click on the layer of that row
+    std::function<void()> OnDrawn;
+    const LivePage& Shown() const
+    {
+        return page;
+    }
+    QRectF Sheet() const; // where the page is in the pane
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    QSize sizeHint() const override;
+
+private:
+    void Draw();
+
+    QTemporaryDir folder;
+    QTimer pause;
+    LivePage page;
+    int wanted = 1;
+    QPixmap picture; // of the page, in the size of the pane
+};
