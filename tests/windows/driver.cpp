@@ -170,11 +170,14 @@ void TypeWords(QWidget* window, const Text& words)
         QTest::keyClicks(window->focusWidget() ? window->focusWidget() : window, QString(letter));
 }
 
-// Menus and the like go with their windows. What a window writes when it goes is written before the next test begins.
+// Menus, lists of boxes and the like go with the windows that they belong to: a box does not learn that its list is
+// gone, and windows come in no order here. What a window writes when it goes is written before the next test begins.
 static void TakeDownWindows()
 {
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    std::vector<QPointer<QWidget>> old(windows.begin(), windows.end());
+    std::vector<QPointer<QWidget>> old;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (!window->parentWidget())
+            old.push_back(window);
     for (const QPointer<QWidget>& window : old)
         delete window;
 }
