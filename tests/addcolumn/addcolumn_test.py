@@ -53,6 +53,15 @@ def compile_command(file):
     raise SystemExit("no such file in the build: " + file)
 
 
+def objects_of(folder, but):
+    """The objects that the build makes in a folder of its own: not what an earlier one has left there."""
+    with open(os.path.join(build, "compile_commands.json")) as commands:
+        words = [shlex.split(entry["command"]) for entry in json.load(commands)]
+    outputs = [line[line.index("-o") + 1] for line in words if "-o" in line]
+    return [os.path.join(build, name) for name in outputs
+            if name.startswith(folder) and not os.path.basename(name).startswith(but)]
+
+
 def compiled(model, file, include, extra=()):
     """Compiles a file like the model of the build, the changed headers before the others."""
     words = compile_command(model)
@@ -105,9 +114,7 @@ with tempfile.TemporaryDirectory() as folder:
                compiled("src/logrender/columns.cpp", columns, include)]
     objects.append(compiled("tests/pages/samples_test.cpp", driver, include, ['-DCASE_DIR="%s"' % case]))
     program = os.path.join(folder, "driver")
-    objects_of_build = os.path.join(build, "tests/CMakeFiles/pagetests.dir")
-    built = [os.path.join(where, name) for where, _, names in os.walk(objects_of_build) for name in names
-             if name.endswith(".o") and not name.startswith("samples_test")]
+    built = objects_of("tests/CMakeFiles/pagetests.dir", but="samples_test")
     flags = [word for word in compile_command("tests/pages/samples_test.cpp") if word.startswith("-fsanitize")]
     subprocess.run(["c++", *flags, "-o", program, *objects, *built, os.path.join(build, "libstratavue_logic.a")],
                    check=True)
