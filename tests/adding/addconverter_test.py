@@ -61,20 +61,24 @@ with tempfile.TemporaryDirectory() as folder:
     # The reader.
     written(os.path.join(include, "convert/fieldbook.h"), HEADER)
     reader = written(os.path.join(include, "convert/fieldbook.cpp"), CONVERTER)
-    # The number of its job: one more than there were.
-    changed(source, folder, "run/batchrun.h", (r"\bMaxJobs = \w+", " + 1"))
+    # Its job, the last one.
+    jobs = changed(source, folder, "run/batchrun.h", (r"^    WinLogJob,.*\n", "    FieldBookJob,\n"))
+    with open(jobs) as header:
+        text = header.read()
+    assert "MaxJobs = WinLogJob;" in text
+    written(jobs, text.replace("MaxJobs = WinLogJob;", "MaxJobs = FieldBookJob;"))
     # The words of its dialog.
     dialog = changed(source, folder, "run/batchrun.cpp",
-                     (r'^    \{"Select WinLog .*\n', '    {"Select Field Books to Convert", "*.FLD", "Field Books:"},\n'))
+                     (r'^    \{"Select WinLog .*\n',
+                      '    {"Select Field Books to Convert", "*.FLD", "Field Books:"},\n'))
     # What the job starts.
     table = changed(source, folder, "programs/jobtable.cpp",
                     (r'^#include "convert/gtgstext.h"\n', '#include "convert/fieldbook.h"\n'),
-                    (r"^ +JobTable\[.*ConvertWinLog;\n", "    JobTable[MaxJobs] = ConvertFieldBook;\n"))
+                    (r"^ +JobTable\[.*ConvertWinLog;\n", "    JobTable[FieldBookJob] = ConvertFieldBook;\n"))
     # The batch job.
     words = changed(source, folder, "programs/commandline.cpp",
-                    (r'^#include "programs/commandline.h"\n', '#include "run/batchrun.h"\n'),
                     (r"^static constexpr BatchJob Jobs\[\] = \{\n",
-                     '    {"convert-fieldbook", MaxJobs, 0, "--home DIR", "FILE.FLD...",\n'
+                     '    {"convert-fieldbook", FieldBookJob, 0, "--home DIR", "FILE.FLD...",\n'
                      '     "converts field books, each to a boring file beside it", BatchWork::Converts},\n'))
     program = os.path.join(source, "src/programs/stratavue-batch.cpp")
     apart = written(os.path.join(include, "programs/stratavue-batch.cpp"), open(program).read())

@@ -1,5 +1,5 @@
-"""adding.py -- what the tests of an addition share: files of the build compiled apart with changes, and linked before the
-libraries. The sources stay as they are.
+"""adding.py -- what the tests of an addition share: files of the build compiled apart with changes, and linked before
+the libraries. The sources stay as they are.
 """
 import json
 import os

@@ -134,7 +134,7 @@ ToolRecord WellForm = {
     .title = "Wells",
     .ending = ".WEL",
     .openMode = 7,
-    .drawJob = MaxJobs,
+    .drawJob = DrawWellsJob,
     .FileName = fileName,
     .Title = title,
     .grids = {&frmWells::SS1},
@@ -172,6 +172,7 @@ void ShowWellWindow()
 DRIVER = """\
 // driver.cpp -- what a user does in the added tool.
 #include "programs/jobtable.h"
+#include "run/batchrun.h"
 #include "sections/welltool.h"
 #include "session/deviceconfig.h"
 #include "session/session.h"
@@ -227,6 +228,24 @@ TEST_CASE("Preview of the added tool saves what has been changed and shows its s
     CHECK(Listings[0].find("\\"text\\": \\"MW-2\\"") != std::string::npos);
     CHECK(ReadScratch("site.WEL") == Lines({"MW-1", "12.5", "MW-2", ""}));
 }
+
+TEST_CASE("Print of the added tool asks for its files, and its sheets go to the printer")
+{
+    Start();
+    WriteScratch("site.WEL", Lines({"MW-1", "12.5"}));
+    static Text asked;
+    Platform.ShowDrawPrint = [] {
+        singleFile = 1;
+        singleFileName = Scratch("site.WEL");
+        DrawPrintLoad();
+        asked = frmDrawPrint::Dialog.Title;
+        DrawPrintOk();
+    };
+    ToolPrint(WellForm);
+    CHECK(asked == "Select Wells to Print");
+    CHECK(PlainPrinted == 1);
+    CHECK(Messages.empty());
+}
 """
 
 with tempfile.TemporaryDirectory() as folder:
@@ -235,15 +254,18 @@ with tempfile.TemporaryDirectory() as folder:
     written(os.path.join(include, "sections/welltool.h"), HEADER)
     tool = written(os.path.join(include, "sections/welltool.cpp"), TOOL)
     window = written(os.path.join(include, "windows/frmWells.cpp"), WINDOW)
-    # The number of its job: one more than there were.
-    changed(source, folder, "run/batchrun.h", (r"\bMaxJobs = \w+", " + 1"))
-    # The words of its dialog.
+    # Its jobs, to draw and to print.
+    changed(source, folder, "run/batchrun.h", (r"^    PrintSoilJob,\n", "    DrawWellsJob,\n    PrintWellsJob,\n"))
+    # The words of their dialogs.
     dialog = changed(source, folder, "run/batchrun.cpp",
-                     (r'^    \{"Select WinLog .*\n', '    {"Select Wells to Draw", "*.WEL", "Well Files:"},\n'))
-    # What the job starts.
+                     (r'^    \{"Select Soil Tables to Print".*\n',
+                      '    {"Select Wells to Draw", "*.WEL", "Well Files:"},\n'
+                      '    {"Select Wells to Print", "*.WEL", "Well Files:"},\n'))
+    # What they start.
     table = changed(source, folder, "programs/jobtable.cpp",
                     (r'^#include "sections/soiltable.h"\n', '#include "sections/welltool.h"\n'),
-                    (r"^ +JobTable\[.*ConvertWinLog;\n", "    JobTable[MaxJobs] = wellstart;\n"))
+                    (r"^ +JobTable\[.*vsoilstart;\n",
+                     "    JobTable[DrawWellsJob] = JobTable[PrintWellsJob] = wellstart;\n"))
     driver = written(os.path.join(folder, "driver.cpp"), DRIVER)
     compiled(build, "src/windows/frmSoil.cpp", window, include)
     objects = [compiled(build, "src/sections/soiltool.cpp", tool, include),

@@ -15,6 +15,7 @@ import unittest
 import xml.etree.ElementTree as xml
 
 CMAKE, BUILD = sys.argv[1], os.path.abspath(sys.argv[2])
+SOURCE = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 
 
 def said(*words, **options):
@@ -197,6 +198,29 @@ class Install(unittest.TestCase):
         if shutil.which("appstreamcli"):
             status, words = said("appstreamcli", "validate", "--no-net", self.shared("metainfo", name))
             self.assertEqual(status, 0, words)
+
+    def test_the_terms_of_use_are_installed_as_LICENSE_states_them(self):
+        with open(self.shared("doc/stratavue/copyright"), encoding="utf-8") as lines:
+            told = " ".join(lines.read().split())
+        with open(os.path.join(SOURCE, "LICENSE"), encoding="utf-8") as lines:
+            name, owner, _, terms = lines.read().split("\n")[:4]
+        self.assertIn("Upstream-Name: " + name, told)
+        self.assertIn("Files: * " + owner.replace("Copyright", "Copyright:") + " License: proprietary " + terms, told)
+
+    def test_no_library_and_no_font_of_others_is_installed_and_the_terms_of_both_are_told(self):
+        names = [name for _, _, names in os.walk(self.root) for name in names]
+        self.assertGreater(len(names), 100)
+        self.assertEqual([name for name in names if re.search(r"\.(so|a|ttf|otf|pfb|woff)\b", name, re.I)], [])
+        with open(self.shared("doc/stratavue/copyright"), encoding="utf-8") as lines:
+            told = " ".join(lines.read().split())
+        for words in ("/usr/share/common-licenses/LGPL-3", "SIL Open Font License, version 1.1"):
+            self.assertIn(words, told)
+        needed = set()
+        for name in os.listdir(os.path.join(self.root, "bin")):
+            _, words = said("objdump", "-p", os.path.join(self.root, "bin", name))
+            needed.update(re.findall(r"NEEDED +libQt6(\w+)", words))
+        self.assertIn("Core", needed)
+        self.assertEqual(sorted(needed), sorted(re.search(r"Qt 6 \(([^)]*)\)", told)[1].split(", ")))
 
 
 if __name__ == "__main__":

@@ -118,7 +118,8 @@ TEST_CASE("the sample sections, fences and soil tables look like the kept pictur
                                                {"TC-F1.FEN", 6},  {"TC-F2.FEN", 6}, {"TC-F3.FEN", 6},
                                                {"MW-108.SOI", 8}, {"SB-111.SOI", 8}};
     for (const auto& [file, job] : sheets) {
-        CAPTURE(file);
+        const Text drawn = file;
+        CAPTURE(drawn);
         StartPictures();
         const Text name = Text(Before(file, '.')) + (job == 8 ? "-soil" : "");
         pageName = name;

@@ -544,7 +544,8 @@ TEST_CASE("every entry of the menu is there; those that need a tool which is not
         {"mnuvGIS", true},
     };
     for (const auto& [name, enabled] : entries) {
-        CAPTURE(name);
+        const auto entry = name;
+        CAPTURE(entry);
         CHECK(Find<QAction>(log, name)->isEnabled() == enabled);
     }
 }

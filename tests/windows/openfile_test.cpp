@@ -25,7 +25,6 @@
 #include <QTest>
 
 static const char* const quitting = "Would you like to save the current file before quitting?";
-static const char* const opening = "Would you like to save the current file before opening another file?";
 
 // What the user does in the window once it is up; one that a failing check has left open is closed.
 static void In(const char* name, std::function<void(QWidget*)> act)
@@ -259,7 +258,8 @@ TEST_CASE("the mark of unsaved changes stays in a tool's title after a save that
     const std::pair<const char*, ToolRecord*> cases[] = {
         {"mnuvcross", &CrossForm}, {"mnuvfence", &FenceForm}, {"mnuvsoil", &SoilForm}, {"mnuvGIS", &GisForm}};
     for (const auto& [entry, tool] : cases) {
-        CAPTURE(entry);
+        const Text asked = entry;
+        CAPTURE(asked);
         In(tool->window, [tool = tool](QWidget* window) {
             tool->FileName = Scratch("none/X") + tool->ending;
             FileChanged = 1;

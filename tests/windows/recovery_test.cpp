@@ -105,7 +105,7 @@ TEST_CASE("the typist" * doctest::skip())
             warning->accept();
     });
     answers.start(1);
-    std::mt19937 random(unsigned(::getpid()));
+    std::mt19937 random{unsigned(::getpid())};
     std::deque<std::pair<Clock::time_point, int>> typed;
     for (;;) {
         QTest::keyClick(box, 'a');

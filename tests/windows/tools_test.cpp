@@ -943,7 +943,8 @@ TEST_CASE(
     std::string expected = boring;
     const std::pair<const char*, const char*> rounds[] = {{"No", "One"}, {"Yes", "Two"}, {"No", "Three"}};
     for (const auto& [answer, typed] : rounds) {
-        CAPTURE(typed);
+        const Text given = typed;
+        CAPTURE(given);
         auto* name = Find<QLineEdit>(log, "Text1");
         name->setFocus();
         QTest::keyClick(name, Qt::Key_End);

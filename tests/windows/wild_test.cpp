@@ -180,7 +180,8 @@ static void CheckFiles(const std::map<std::string, std::string>& before, const D
         const auto was = before.find(name);
         if (was != before.end() && was->second == bytes)
             continue;
-        CAPTURE(name);
+        const Text file = name;
+        CAPTURE(file);
         const std::string base = name.substr(name.find('/') + 1);
         if (base.ends_with(".BOR"))
             CHECK(done.saved.count(base) == 1);
