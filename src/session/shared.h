@@ -34,7 +34,7 @@ public:
     SharedRecord(const SharedRecord&) = delete;
     SharedRecord& operator=(const SharedRecord&) = delete;
 
-    // A copy of the record as it is now, and the ways to put it into the record and to drop it.
+    // Returns a copy of the record as it is now, for Put, GiveBack and Drop.
     void* Copy() const
     {
         return copy(record);
@@ -111,8 +111,8 @@ public:
     ~KeptRecords();
     KeptRecords(const KeptRecords&) = delete;
     KeptRecords& operator=(const KeptRecords&) = delete;
-    void PutBack() const;  // any number of times
-    void GiveBack() const; // once, and the quicker way
+    void PutBack() const;  // Puts the copies into the records; any number of times.
+    void GiveBack() const; // Moves the copies into the records: once, and quicker.
 
 private:
     struct KeptRecord {
@@ -122,7 +122,7 @@ private:
     std::vector<KeptRecord> records;
 };
 
-// All records of a kind are put back at the end of the scope: for a run in the midst of another one, and for one that
+// Puts all records of a kind back at the end of the scope: for a run in the midst of another one, and for a run that
 // nobody is to notice. What is written on the disk meanwhile is the caller's to put back.
 class KeepAll
 {

@@ -1,7 +1,7 @@
 // slots.h -- the fixed array of the program: slots 1 to N, every access checked.
 //
-// Slot 0 is there and its content is never used, so that an index left at 0 is harmless;
-// any other index outside 1 to N is a run-time failure and never a write beside the record.
+// Slot 0 is there and its content is never used, so that an index left at 0 is harmless. Any other index outside 1 to N
+// is failure 9, and never a write beside the record.
 #pragma once
 
 #include "session/failure.h"
