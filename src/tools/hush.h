@@ -5,8 +5,8 @@
 #include "session/platform.h"
 #include "session/session.h"
 
-// As long as it lives the seam to the machine shows nothing and answers what loses nothing; the session variables that
-// a save writes are put back behind it. The document's record and name are the caller's to keep.
+// As long as a Hushed lives, the seam to the window system shows nothing and answers what loses nothing; behind it the
+// session variables that a save writes are put back. The document's record and name are the caller's to keep.
 struct Hushed {
     Hushed();
 
