@@ -6,8 +6,9 @@
 
 #include <span>
 
-// ClearBoringArrays, and the rows above the counts too: a foreign file may name rows beyond its own count, and a run
-// that has failed leaves them; they must not show up in the next boring. Columns 10 to 21 of Params stay as they are.
+// Empties BoringData as ClearBoringArrays does, and the rows above the counts too: a foreign file may name rows beyond
+// its own count, and a run that has failed leaves them; they must not show up in the next boring. Columns 10 to 21 of
+// Params stay as they are.
 void ClearForConversion();
 
 // A report part that a conversion gives every boring.
@@ -15,7 +16,7 @@ struct FixedPart {
     const char* Item;
     const char* Width;
 };
-// Title prompts, report parts and layout, and feet: what a form without a template gives every boring.
+// Puts in what a form without a template gives every boring: title prompts, report parts and layout, and feet.
 void SetFixedForm(std::span<const char* const> prompts, std::span<const FixedPart> parts, const char* layout);
 
 // Converts each file of the run to a boring beside it, with the progress window. A file whose boring would take its own
@@ -27,7 +28,7 @@ void ConvertRunFiles(void (*convert)(const Text& source));
 // folder.
 void WriteBesideSource(const Text& source, const Text& style, const Text& draft);
 
-// The progress window from here to the end of the scope, a step for each file.
+// Shows the progress window from here to the end of the scope, with a step for each file.
 class ConversionProgress
 {
 public:
