@@ -6,6 +6,7 @@
 #include "session/deviceconfig.h"
 #include "session/failure.h"
 #include "session/files.h"
+#include "session/machine.h"
 #include "session/platform.h"
 #include "session/session.h"
 #include "session/shared.h"
@@ -66,12 +67,6 @@ static const Slots<Mode, 21> modes = {{{
     {"Save GTGS Conversion File", "*.GCV", InProfiles},
 }}};
 
-#ifdef _WIN32
-static constexpr char separator = '\\';
-#else
-static constexpr char separator = '/';
-#endif
-
 static void ListFiles()
 {
     frmOpenSave::Dialog.File1 = FilesIn(frmOpenSave::Dialog.Dir1, frmOpenSave::Dialog.Pattern.substr(1));
@@ -85,8 +80,8 @@ static void FillProjectGrid()
     }
 }
 
-// The folder as this machine writes it: absolute, without a closing separator. One that is not there shows the
-// working folder.
+// The folder as this machine writes it: absolute, without a closing separator. One that is not there shows
+// the working folder.
 static Text ShownFolder(const Text& name)
 {
     namespace fs = std::filesystem;
@@ -132,7 +127,7 @@ void frmOpenSave::ChangeVersion(int index)
 void frmOpenSave::Command1()
 {
     const Text& typed = Dialog.fileText;
-    const bool wholePath = typed.find_first_of("\\:") != Text::npos || Holds(typed, separator);
+    const bool wholePath = typed.find_first_of("\\:") != Text::npos || Holds(typed, Machine::Separator());
     if (wholePath && BaseName(typed).empty())
         DialogResult = ""; // a folder alone names no file
     else if (typed.empty() || wholePath)
@@ -141,7 +136,7 @@ void frmOpenSave::Command1()
     else if (Dialog.Dir1.starts_with("a:\\"))
         DialogResult = Dialog.Dir1 + typed;
     else
-        DialogResult = Dialog.Dir1 + separator + typed;
+        DialogResult = Dialog.Dir1 + Machine::Separator() + typed;
     DialogMode = int16_t(Dialog.Version);
 }
 

@@ -307,6 +307,6 @@ try {
 
 void frmBorinput::mnuGTGS()
 {
-    jobCode = 11;
+    jobCode = PrtJob;
     Platform.ShowDrawPrint();
 }

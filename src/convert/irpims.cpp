@@ -152,6 +152,6 @@ try {
 
 void frmBorinput::mnuExp2IRPIMS()
 {
-    jobCode = 10;
+    jobCode = IrpimsJob;
     Platform.ShowDrawPrint();
 }

@@ -351,6 +351,6 @@ void frmBorinput::mnuConvertWinLog()
     DialogMode = 19;
     Platform.ShowChooser();
     WinLogTemplate = DialogResult;
-    jobCode = 12;
+    jobCode = WinLogJob;
     Platform.ShowDrawPrint();
 }

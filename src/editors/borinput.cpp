@@ -252,13 +252,13 @@ void frmBorinput::mnuImport()
 void frmBorinput::mnuPreview()
 {
     if (BoringFileName.empty()) {
-        jobCode = 1;
+        jobCode = DrawLogsJob;
         Platform.ShowDrawPrint();
         return;
     }
     if (FileChanged == 1)
         mnuSave();
-    jobCode = 1;
+    jobCode = DrawLogsJob;
     singleFile = 1;
     singleFileName = BoringFileName;
     DrawPrintLoad();
@@ -276,12 +276,12 @@ static void Batch(int16_t job)
 
 void frmBorinput::mnuBatchDraw()
 {
-    Batch(1);
+    Batch(DrawLogsJob);
 }
 
 void frmBorinput::mnuPrint()
 {
-    Batch(2);
+    Batch(PrintLogsJob);
 }
 
 void frmBorinput::mnuPrintSetup()
@@ -313,7 +313,7 @@ void frmBorinput::mnuCreateLogo()
 void frmBorinput::mnuFillPatt()
 {
     singleFile = 1;
-    jobCode = 9;
+    jobCode = GuideJob;
     DrawPrintOk();
     singleFile = 0; // else the next batch run would take its file from here
 }

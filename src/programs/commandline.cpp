@@ -1,6 +1,7 @@
 // commandline.cpp -- reading a command line by the table of jobs. A new job is a line of the table.
 #include "programs/commandline.h"
 
+#include "run/batchrun.h"
 #include "session/files.h"
 
 #include <algorithm>
@@ -13,27 +14,27 @@ static constexpr char IntroOptions[] = "--type 1|2;--home DIR;--project DIR;--pa
 static constexpr char GuideOptions[] = "--home DIR;--pdf FILE;--png DIR;--dpi N;--list FILE";
 
 static constexpr BatchJob Jobs[] = {
-    {"log", 2, 0, LogOptions, "FILE.BOR...", "the boring logs of saved borings"},
-    {"intro", 2, 1, IntroOptions, "FILE.BOR...", "the intro pages of saved borings, one each"},
-    {"section", 4, 0, LogOptions, "FILE.CRO...", "cross sections, a page each"},
-    {"fence", 6, 0, LogOptions, "FILE.FEN...", "fence diagrams, a page each"},
-    {"soil", 8, 0, LogOptions, "FILE.SOI...", "the soil analysis tables of saved definitions"},
-    {"guide", 9, 0, GuideOptions, "", "the Fill Pattern Guide"},
-    {"gis-add", 0, 0, "--home DIR", "FILE.BOR...",
+    {"log", PrintLogsJob, 0, LogOptions, "FILE.BOR...", "the boring logs of saved borings"},
+    {"intro", PrintLogsJob, 1, IntroOptions, "FILE.BOR...", "the intro pages of saved borings, one each"},
+    {"section", PrintSectionsJob, 0, LogOptions, "FILE.CRO...", "cross sections, a page each"},
+    {"fence", PrintFencesJob, 0, LogOptions, "FILE.FEN...", "fence diagrams, a page each"},
+    {"soil", PrintSoilJob, 0, LogOptions, "FILE.SOI...", "the soil analysis tables of saved definitions"},
+    {"guide", GuideJob, 0, GuideOptions, "", "the Fill Pattern Guide"},
+    {"gis-add", NoJob, 0, "--home DIR", "FILE.BOR...",
      "adds borings to the table of a GIS file, which is made if it is not there", BatchWork::AddsToGis, "--gis FILE"},
-    {"gis-export", 0, 0, "--home DIR", "FILE.GIS", "writes the table of a GIS file for another program",
+    {"gis-export", NoJob, 0, "--home DIR", "FILE.GIS", "writes the table of a GIS file for another program",
      BatchWork::ExportsGis, "--arcview OUT | --evs OUT"},
-    {"convert-txt", 0, 0, "--home DIR", "DIR",
+    {"convert-txt", NoJob, 0, "--home DIR", "DIR",
      "converts the GTGS text tables of a folder, a boring file for each boring", BatchWork::ConvertsTables},
-    {"convert-general", 0, 0, "--name NAME;--home DIR;--project DIR", "[DIR]",
+    {"convert-general", NoJob, 0, "--name NAME;--home DIR;--project DIR", "[DIR]",
      "converts one boring of GTGS text tables by a map", BatchWork::ConvertsByMap, "--map FILE.GCV"},
-    {"convert-prt", 11, 0, "--home DIR", "FILE.PRT...", "converts GTGS print files, each to a boring file beside it",
-     BatchWork::Converts},
-    {"convert-log", 12, 0, "--template FILE.BOR;--home DIR", "FILE.LOG...",
+    {"convert-prt", PrtJob, 0, "--home DIR", "FILE.PRT...",
+     "converts GTGS print files, each to a boring file beside it", BatchWork::Converts},
+    {"convert-log", WinLogJob, 0, "--template FILE.BOR;--home DIR", "FILE.LOG...",
      "converts WinLog files, each to a boring file beside it", BatchWork::Converts},
-    {"export-irpims", 10, 0, "--home DIR", "FILE.BOR...", "writes the three IRPIMS tables of saved borings",
+    {"export-irpims", IrpimsJob, 0, "--home DIR", "FILE.BOR...", "writes the three IRPIMS tables of saved borings",
      BatchWork::Converts, "--out DIR"},
-    {"check", 0, 0, "--all;--home DIR;--project DIR", "FILE...",
+    {"check", NoJob, 0, "--all;--home DIR;--project DIR", "FILE...",
      "lists what a reviewer would flag in borings, sections, fences, soil tables and GIS files", BatchWork::Checks},
 };
 

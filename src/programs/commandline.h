@@ -9,7 +9,7 @@ enum class BatchWork { Draws, Converts, ConvertsTables, ConvertsByMap, AddsToGis
 
 struct BatchJob {
     const char* Name;     // the first word of the command line
-    int16_t JobCode;      // the job of the batch dialog that it runs
+    int16_t JobCode;      // the Job of the batch dialog that it runs
     int16_t ReportOption; // the dialog's report choice; intro pages have two, told by --type
     const char* Options;  // the options that it knows, in the order of its usage line
     const char* Files;    // what it takes besides, for the usage line; "" for none, "[...]" for one or none

@@ -16,13 +16,13 @@
 // Where there are two numbers, the first shows the pages and the second prints them.
 void FillJobTable()
 {
-    JobTable[1] = JobTable[2] = VLOG::vlogstart;
-    JobTable[3] = JobTable[4] = VCROSS::vcrossstart;
-    JobTable[5] = JobTable[6] = VCROSS::vfencestart;
-    JobTable[7] = JobTable[8] = VCROSS::vsoilstart;
-    JobTable[9] = patternstart;
-    JobTable[10] = Export2IRPIMS;
-    JobTable[11] = ConvertGTGS2BOR;
-    JobTable[12] = ConvertWinLog;
+    JobTable[DrawLogsJob] = JobTable[PrintLogsJob] = VLOG::vlogstart;
+    JobTable[DrawSectionsJob] = JobTable[PrintSectionsJob] = VCROSS::vcrossstart;
+    JobTable[DrawFencesJob] = JobTable[PrintFencesJob] = VCROSS::vfencestart;
+    JobTable[DrawSoilJob] = JobTable[PrintSoilJob] = VCROSS::vsoilstart;
+    JobTable[GuideJob] = patternstart;
+    JobTable[IrpimsJob] = Export2IRPIMS;
+    JobTable[PrtJob] = ConvertGTGS2BOR;
+    JobTable[WinLogJob] = ConvertWinLog;
     IntroPages = VLOG::vlogintrostart;
 }

@@ -53,7 +53,7 @@ static const SharedRecord shared[] = {
 
 namespace
 {
-struct Job {
+struct JobWords {
     std::string_view Title, Filter, Label;
 };
 
@@ -72,7 +72,7 @@ struct RunPart {
 };
 } // namespace
 
-static const Slots<Job, MaxJobs> jobs = {{{
+static const Slots<JobWords, MaxJobs> jobs = {{{
     {},
     {"Select Borings to Draw", "*.BOR", "Boring Log Files:"},
     {"Select Borings to Print", "*.BOR", "Boring Log Files:"},
@@ -88,11 +88,9 @@ static const Slots<Job, MaxJobs> jobs = {{{
     {"Select WinLog .LOG Files to Convert", "*.LOG", "WinLog Files:"},
 }}};
 
-static constexpr int guideJob = 9;
-
 static bool DrawsBorings()
 {
-    return jobCode == 1 || jobCode == 2;
+    return jobCode == DrawLogsJob || jobCode == PrintLogsJob;
 }
 
 // ---- The run files
@@ -254,18 +252,18 @@ static void WriteRunFiles(const RunPart& part)
 void DrawPrintLoad()
 try {
     using frmDrawPrint::Dialog;
-    if (jobCode < guideJob && !ProjectPath.empty())
+    if (jobCode < GuideJob && !ProjectPath.empty())
         lastDir = ProjectPath;
     if (lastDir.empty())
         lastDir = WorkingFolder;
-    const Job& job = jobs[jobCode];
+    const JobWords& job = jobs[jobCode];
     Dialog = frmDrawPrint::Record();
     Dialog.Unloaded = false;
     Dialog.Title = job.Title;
     Dialog.Filter = job.Filter;
     Dialog.Label = job.Label;
     Dialog.ReportChoice = DrawsBorings();
-    Dialog.HeightTwips = jobCode > 2 ? 4035 : 0;
+    Dialog.HeightTwips = jobCode > PrintLogsJob ? 4035 : 0;
     Dialog.Dir1 = lastDir;
     if (singleFile != 1)
         frmDrawPrint::ChangeFolder(lastDir);
@@ -299,7 +297,7 @@ bool frmDrawPrint::Command1()
     if (dialogBusy != 0)
         return false;
     dialogBusy = -1;
-    if (jobCode == 2)
+    if (jobCode == PrintLogsJob)
         Platform.ShowPrinting();
     DrawPrintOk();
     dialogBusy = 0;
@@ -330,7 +328,7 @@ static std::vector<Text> Selection()
 // Conversions and exports take their files at once. False: there are too many, which is told.
 static bool FitsRun(size_t files)
 {
-    if (jobCode <= guideJob || files <= MaxRunFiles)
+    if (jobCode <= GuideJob || files <= MaxRunFiles)
         return true;
     MsgBox(PlainNumber(int(files)) + " chosen, " + PlainNumber(MaxRunFiles) + " possible", OkOnly, Exclamation);
     return false;
@@ -339,7 +337,7 @@ static bool FitsRun(size_t files)
 // The file and page that the run is at. Conversions have no pages; all runs but that of logs count from 1.
 static RunMessage PlaceIn(const RunPart& part)
 {
-    const bool pages = jobCode < guideJob, log = !part.Pages.empty();
+    const bool pages = jobCode < GuideJob, log = !part.Pages.empty();
     const int at = !pages ? progressValue : log ? RunPages.pageIndex : RunPages.pageIndex - 1;
     if (at < 0 || at >= int(log ? part.Pages.size() : part.Files.size()))
         return {};
@@ -370,13 +368,13 @@ static void StartJob(const std::vector<RunPart>& parts)
     void (*const run)() = intro ? IntroPages : JobTable[jobCode];
     if (!run)
         return;
-    if (jobCode < guideJob)
+    if (jobCode < GuideJob)
         RunPages.printing = jobCode % 2 == 0 ? 1 : 0;
     if (DrawsBorings() && !intro)
         RunPages.zeroBased = 1;
     PageCanvas.polyCount = 0; // a polygon that failed half-way is of its own run
     ForgetChangedPictures();
-    if (jobCode < guideJob && RunPages.printing == 1)
+    if (jobCode < GuideJob && RunPages.printing == 1)
         PrintRun([&] { RunParts(parts, run); });
     else
         RunParts(parts, run);
@@ -385,7 +383,7 @@ static void StartJob(const std::vector<RunPart>& parts)
 void DrawPrintOk()
 try {
     using frmDrawPrint::Dialog;
-    if (!ProjectPath.empty() && jobCode < guideJob)
+    if (!ProjectPath.empty() && jobCode < GuideJob)
         lastDir = ProjectPath;
     SaveDevice();
     const std::vector<Text> files = Selection();

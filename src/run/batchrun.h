@@ -5,9 +5,27 @@
 #include "session/slots.h"
 #include "session/text.h"
 
-constexpr int MaxRunFiles = 200, MaxPageRecords = 500, MaxJobs = 12;
+// The jobs of the batch dialog. Those that draw pages come in pairs, the job behind prints what the one before it
+// shows; the jobs from the guide on have no pages of files.
+enum Job {
+    NoJob,       // work outside the dialog
+    DrawLogsJob, // boring logs, or the intro pages of borings
+    PrintLogsJob,
+    DrawSectionsJob,
+    PrintSectionsJob,
+    DrawFencesJob,
+    PrintFencesJob,
+    DrawSoilJob, // soil analysis tables
+    PrintSoilJob,
+    GuideJob,  // the Fill Pattern Guide, which has no dialog
+    IrpimsJob, // borings to the tables of IRPIMS
+    PrtJob,    // GTGS print files to borings
+    WinLogJob, // WinLog files to borings
+};
 
-extern int16_t jobCode;                   // the job of the dialog, 1 to 12
+constexpr int MaxRunFiles = 200, MaxPageRecords = 500, MaxJobs = WinLogJob;
+
+extern int16_t jobCode;                   // the Job of the dialog
 extern Slots<Text, MaxRunFiles> runFiles; // the chosen files with their full paths
 extern int16_t runFileCount;
 extern int16_t singleFile; // 1: singleFileName runs with no dialog
@@ -21,7 +39,7 @@ extern int16_t progressValue, progressTotal;
 // What each job starts once log.mas is written, filled in by the start of a program: this folder is below the
 // renderers. In a test a job may have no entry.
 extern Slots<void (*)(), MaxJobs> JobTable;
-// The renderer of intro pages, which jobs 1 and 2 start when introType is not 0.
+// The renderer of intro pages, which the jobs of logs start when introType is not 0.
 extern void (*IntroPages)();
 
 // The dialog's boxes. File1 holds the names of the folder Dir1; Selected those that are marked.

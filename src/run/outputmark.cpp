@@ -9,9 +9,9 @@ Text JobWord()
 {
     // The desktop's jobs are odd where they show and even where they print.
     static constexpr const char* words[] = {"log", "section", "fence", "soil"};
-    if (jobCode <= 2)
+    if (jobCode <= PrintLogsJob)
         return introType == 0 ? "log" : "intro";
-    return jobCode <= 8 ? words[(jobCode - 1) / 2] : "guide";
+    return jobCode < GuideJob ? words[(jobCode - DrawLogsJob) / 2] : "guide";
 }
 
 static Text Source(bool wholeRun)

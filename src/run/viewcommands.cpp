@@ -66,13 +66,13 @@ static void PageToPdf()
 
 static bool IsLogRun()
 {
-    return jobCode <= 2 && introType == 0;
+    return jobCode <= PrintLogsJob && introType == 0;
 }
 
 void ExportPdf()
 {
     // The run as a person at Next would see it, from its first page to its last, by the very loop that waits here.
-    void (*const run)() = jobCode <= 2 && introType != 0 ? IntroPages : JobTable[jobCode];
+    void (*const run)() = jobCode <= PrintLogsJob && introType != 0 ? IntroPages : JobTable[jobCode];
     if (!run)
         return;
     const Within within;
@@ -85,8 +85,6 @@ void ExportPdf()
     ForgetChangedPictures();
     PrintRun(run);
 }
-
-static constexpr int GuideJob = 9;
 
 Text ShownPlace()
 {

@@ -3,6 +3,7 @@
 
 #include "boring/opensave.h"
 #include "gis/gisfile.h"
+#include "run/batchrun.h"
 #include "sections/crosscheck.h"
 #include "sections/crossrun.h"
 #include "session/shared.h"
@@ -65,7 +66,7 @@ ToolRecord CrossForm = {
     .title = "VeskCross - Cross Section Diagram",
     .ending = ".CRO",
     .openMode = 3,
-    .drawJob = 3,
+    .drawJob = DrawSectionsJob,
     .FileName = frmCross::FileName,
     .Title = frmCross::Title,
     .grids = {&frmCross::SS1, &frmCross::SS4, &frmCross::SS2, &frmCross::SS3},

@@ -3,6 +3,7 @@
 
 #include "boring/opensave.h"
 #include "gis/gisfile.h"
+#include "run/batchrun.h"
 #include "sections/fencecheck.h"
 #include "sections/fencerun.h"
 #include "session/shared.h"
@@ -42,7 +43,7 @@ ToolRecord FenceForm = {
     .title = "VeskFence - Fence Diagram",
     .ending = ".FEN",
     .openMode = 5,
-    .drawJob = 5,
+    .drawJob = DrawFencesJob,
     .FileName = frmFence::FileName,
     .Title = frmFence::Title,
     .grids = {&frmFence::SS1, &frmFence::SS5, &frmFence::SS2, &frmFence::SS3, &frmFence::SS4},

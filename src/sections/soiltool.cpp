@@ -1,6 +1,7 @@
 // soiltool.cpp -- the soil tool's table.
 #include "sections/soiltool.h"
 
+#include "run/batchrun.h"
 #include "sections/soilcheck.h"
 #include "session/shared.h"
 #include "tools/hush.h"
@@ -23,7 +24,7 @@ ToolRecord SoilForm = {
     .title = "VeskSoil - Soil Analysis Table",
     .ending = ".SOI",
     .openMode = 7,
-    .drawJob = 7,
+    .drawJob = DrawSoilJob,
     .FileName = frmSoil::FileName,
     .Title = frmSoil::Title,
     .grids = {&frmSoil::SS1},

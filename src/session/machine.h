@@ -19,6 +19,8 @@ struct FileState {
 
 namespace Machine
 {
+char Separator();       // between the folders of a path, as users of this system write it
+bool HasDriveLetters(); // disks are called "a:\\" and the like
 bool Exists(const std::string& path);
 bool IsFolder(const std::string& path);
 // Return whether this user may read it, or write it; a folder too.

@@ -31,6 +31,16 @@ struct File {
 };
 } // namespace
 
+char Machine::Separator()
+{
+    return '/';
+}
+
+bool Machine::HasDriveLetters()
+{
+    return false;
+}
+
 bool Machine::Exists(const std::string& path)
 {
     struct stat status;

@@ -148,7 +148,7 @@ bool DrawLivePage(int number, const Text& folder, LivePage& page)
     frmDrawPrint::Dialog.AllPages = false;
     frmDrawPrint::Dialog.Text1 = PlainNumber(fresh.Page);
     frmDrawPrint::Dialog.ReportOption = 0;
-    run.Draw(1, file);
+    run.Draw(DrawLogsJob, file);
     if (fresh.List.Objects.empty())
         return false;
     page = std::move(fresh);

@@ -19,7 +19,7 @@ struct ToolRecord {
     const char* title = "";           // of a tool without a file
     const char* ending = "";          // of its files, with the point
     int16_t openMode = 0;             // of the chooser; the mode behind it saves
-    int16_t drawJob = 0;              // of the batch dialog; the job behind it prints. 0: the tool draws nothing
+    int16_t drawJob = 0;              // a Job; the one behind it prints. 0: the tool draws nothing
     Text& FileName;                   // "" for a file that was never saved
     Text& Title;                      // of the window
     std::vector<Grid*> grids;         // the first one is the active one until another has been entered

@@ -3,6 +3,7 @@
 #include "grid/gridedit.h"
 #include "report/fontprofile.h"
 #include "session/files.h"
+#include "session/machine.h"
 #include "session/platform.h"
 #include "windows/gridview.h"
 #include "windows/showwindows.h"
@@ -172,8 +173,7 @@ QWidget* PrinterSetup::FilesBox()
 // Where there are no drives with letters, the first medium that can be taken out, or a folder that the user names.
 static void FindDestination()
 {
-#ifndef _WIN32
-    if (CopyDestination != "a:\\")
+    if (Machine::HasDriveLetters() || CopyDestination != "a:\\")
         return;
     CopyDestination.clear();
     for (const QStorageInfo& drive : QStorageInfo::mountedVolumes())
@@ -182,7 +182,6 @@ static void FindDestination()
             CopyDestination = FromUi(drive.rootPath());
             return;
         }
-#endif
 }
 
 QWidget* PrinterSetup::CopyBox()

@@ -57,7 +57,7 @@ def arrows(files):
 
 
 def picture(found):
-    """The rooms one above the other, the last on top; an arrow for each pair, the thicker the more includes."""
+    """The rooms one above the other, the last on top; an arrow for each pair."""
     step, left, wide, tall = 44, 460, 405, 28
     height = step * len(ROOMS) + 20
     y = {room: height - 10 - step * (i + 1) + 8 for i, room in enumerate(ROOMS)}
@@ -65,11 +65,11 @@ def picture(found):
            '<defs><marker id="tip" viewBox="0 0 8 8" refX="7" refY="4" markerWidth="8" markerHeight="8" '
            'markerUnits="userSpaceOnUse" orient="auto"><path d="M0 0L8 4L0 8z" fill="#446"/></marker></defs>',
            f'<rect width="880" height="{height}" fill="#fff"/>']
-    for (upper, lower), count in sorted(found.items()):
+    for upper, lower in sorted(found):
         a, b = y[upper] + tall * 0.65, y[lower] + tall * 0.35
         bend = left - 24 - abs(ROOMS.index(upper) - ROOMS.index(lower)) * 27
         out.append(f'<path d="M{left} {a:.1f}C{bend} {a:.1f} {bend} {b:.1f} {left} {b:.1f}" fill="none" stroke="#446" '
-                   f'stroke-opacity="0.55" stroke-width="{min(0.7 + count / 25, 3):.1f}" marker-end="url(#tip)"/>')
+                   'stroke-opacity="0.55" marker-end="url(#tip)"/>')
     for room in ROOMS:
         out.append(f'<rect x="{left}" y="{y[room]}" width="{wide}" height="{tall}" rx="4" fill="#eef" stroke="#446"/>')
         out.append(f'<text x="{left + 10}" y="{y[room] + 19}" font-size="14" font-weight="bold">{room}</text>')
