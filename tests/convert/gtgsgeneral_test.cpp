@@ -209,7 +209,8 @@ TEST_CASE("the client lines of a template go by its release as the editor reads 
                                           {"5.0.11", false},
                                           {"5.012", false},
                                           {"5.1.12", false}}) {
-        INFO(Text(version));
+        const Text told = version;
+        INFO(told);
         WriteScratch("t.BOR", version + bytes.substr(versionEnd));
         Open("t.BOR");
         const Text read = BoringData.Client[1];

@@ -127,8 +127,8 @@ TEST_CASE("slanting lines of all eight directions are one family each, also over
 {
     const std::pair<int, int> ways[] = {{1, 0}, {0, 1}, {1, 1}, {1, -1}, {2, 1}, {1, 2}, {2, -1}, {1, -2}};
     for (const auto& [dx, dy] : ways) {
-        CAPTURE(dx);
-        CAPTURE(dy);
+        const auto way = std::to_string(dx) + " " + std::to_string(dy);
+        CAPTURE(way);
         Bitmap tile = Blank(60, 120);
         // A thick line through the corner: the cells within 2 of one of its copies.
         for (int y = 0; y < 120; ++y)

@@ -92,7 +92,8 @@ TEST_CASE("after a conversion that fails for too many notes or remarks, New and 
     using namespace frmBorinput;
     for (const auto& [box, lines] : {std::pair(&MemoWcon, 61), {&MemoRemarks, 601}}) {
         for (const bool open : {false, true}) {
-            CAPTURE(lines);
+            const int rows = lines;
+            CAPTURE(rows);
             CAPTURE(open);
             Prepare();
             mnuNew();

@@ -22,7 +22,8 @@ TEST_CASE("a depth that is no number is told in every list that has depths, with
                 return Text(entry.Kind) == "depth-number" && entry.Box == box && entry.Row == 1 &&
                        entry.Column == column && entry.Words.ends_with("\"O.5\" is no number, and is read as 0.");
             });
-        CHECK_MESSAGE(there, box);
+        const int number = box;
+        CHECK_MESSAGE(there, number);
         cell = before;
     }
     GoodBoring();

@@ -318,7 +318,8 @@ TEST_CASE("an intro page run draws a page for each boring of the list, with what
 TEST_CASE("an intro page steps over 9 values a row in a file of the first form, and over 21 in any later one")
 {
     for (const auto& [version, cells] : {std::pair<const char*, int>{"5.0", 9}, {"5.0.5", 21}, {"5.1", 21}}) {
-        CAPTURE(version);
+        const Text told = version;
+        CAPTURE(told);
         Listings.clear();
         BoringText boring = StartRun();
         boring.Version = version;

@@ -476,7 +476,8 @@ TEST_CASE("a missing, an unnamed and an old boring are told, and the page is dra
         {"OLD.BOR", "This boring file has the format of a previous version: " + Scratch("OLD.BOR")}};
     WriteScratch("OLD.BOR", "4.6\r\n");
     for (const auto& [name, words] : borings) {
-        CAPTURE(name);
+        const Text asked = name;
+        CAPTURE(asked);
         DrawTable({}, Boring());
         Messages.clear();
         SoilText soil;

@@ -123,7 +123,8 @@ TEST_CASE("a file that the log tool refuses from outside leaves no name, is not 
         {"CUT.BOR", "Error 62 in OpenBoringFile2.  Please contact Norvane"},
         {"none.SV4", "Error 53 in OpenBoringFile2.  Please contact Norvane"}};
     for (const auto& [name, words] : refused) {
-        CAPTURE(name);
+        const Text file = name;
+        CAPTURE(file);
         frmBorinput::OpenNamed(Scratch("TC-101.BOR"));
         REQUIRE(frmBorinput::RecentFile == Scratch("TC-101.BOR"));
         Messages.clear();
@@ -213,7 +214,8 @@ TEST_CASE(
                                      {"/s/X.FEN", Tool::Fence},
                                      {"/s/X.soi", Tool::Soil},
                                      {"/s/X.GIS", Tool::GIS}}) {
-        CAPTURE(name);
+        const Text file = name;
+        CAPTURE(file);
         Prepare();
         Sample("TC-101.BOR");
         frmBorinput::OpenNamed(Scratch("TC-101.BOR"));

@@ -260,7 +260,7 @@ TEST_CASE("the mark of unsaved changes stays in a tool's title after a save that
         {"mnuvcross", &CrossForm}, {"mnuvfence", &FenceForm}, {"mnuvsoil", &SoilForm}, {"mnuvGIS", &GisForm}};
     for (const auto& [entry, tool] : cases) {
         CAPTURE(entry);
-        In(tool->window, [tool](QWidget* window) {
+        In(tool->window, [tool = tool](QWidget* window) {
             tool->FileName = Scratch("none/X") + tool->ending;
             FileChanged = 1;
             Then("MsgBox", [](QWidget* box) { Key(box, Qt::Key_Return); });
