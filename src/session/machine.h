@@ -66,4 +66,17 @@ std::string CurrentFolder(); // Returns the current folder, "" where it cannot b
 std::string ProgramFolder(); // Returns the folder of the program that runs, "" where it cannot be told.
 // Makes a new folder for this user alone, for files of passing use. Returns its path, or "" with the error.
 std::string MakePrivateFolder(int& error);
+
+// Starts the program that runs once more, with these words behind its name, in the same folder and with the same
+// standard files. Returns the number of the process, or -1 with the error.
+int StartWorker(const std::vector<std::string>& words, int& error);
+// Waits until one of these processes, which StartWorker has started, ends. Returns its number, with its exit status or
+// -1 where it was killed; or -1 where the user has interrupted the wait.
+int AwaitWorker(const std::vector<int>& processes, int& status);
+void KillWorker(int process); // ends it at once; AwaitWorker has not returned it yet
+int StartedBy();              // the number of the process that has started this one, or of its heir
+// While on, a user's interrupt (Ctrl-C, or the request of the system to end) is noted and ends nothing.
+void NoteInterrupts(bool on);
+bool Interrupted();      // one has been noted
+void EndAsInterrupted(); // ends the program as an interrupt would that is not noted
 } // namespace Machine
