@@ -3,13 +3,6 @@
 
 #include "sections/soilcheck.h"
 #include "session/shared.h"
-#include "tools/hush.h"
-
-static void Undisturbed(const std::function<void()>& work)
-{
-    const Kept form(SoilData);
-    work();
-}
 
 static Text State()
 {
@@ -37,7 +30,6 @@ ToolRecord SoilForm = {
             frmSoil::LabelBoxes();
             frmSoil::SizeMemo();
         },
-    .Undisturbed = Undisturbed,
     .State = State,
     .Check = CheckSoilTable,
 };

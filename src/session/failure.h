@@ -36,7 +36,7 @@ int FailureInHand();
 // Shows "Error" + number + " in " + procedure + ".  Please contact Norvane" (OK only, no icon) and returns; the
 // caller goes on as if the procedure had succeeded.
 void ReportFailure(const char* procedure);
-extern int FailuresReported; // so many reports since the start: how a caller that must know learns of one
+extern int FailuresReported; // so many reports that the user has seen: how a caller that must know learns of one
 
 // Raises the failure that the operating system's error number stands for. folderThere tells, for a missing
 // file, whether its folder exists.
