@@ -18,8 +18,8 @@ struct GisRecord {
     int32_t layerCount = 0;
     Slots<Text, MaxGisLayers> layerName, layerColor;
     int32_t boringCount = 0;
-    Slots<Slots<Text, GisColumns>, MaxGisBorings> boringCells; // boring, X, Y, surface elevation, file name
-    Slots<Slots<Text, MaxGisLayers>, MaxGisBorings> layerCells;
+    GrowingSlots<Slots<Text, GisColumns>, MaxGisBorings> boringCells; // boring, X, Y, surface elevation, file name
+    GrowingSlots<Slots<Text, MaxGisLayers>, MaxGisBorings> layerCells;
     Text trailerLine; // a last line kept as it stands
 };
 extern GisRecord GisData;

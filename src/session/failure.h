@@ -36,7 +36,7 @@ int FailureInHand();
 // The box says "Error" + number + " in " + procedure + ".  Please contact Norvane" (OK only, no icon). Behind it the
 // caller goes on as if the procedure had succeeded.
 void ReportFailure(const char* procedure);
-extern int FailuresReported; // counts the reports since the start: so a caller that must know learns of one
+extern int FailuresReported; // counts the reports that the user has seen: so a caller that must know learns of one
 
 // Raises the failure that the operating system's error number stands for. folderThere tells, for a missing
 // file, whether its folder exists.
