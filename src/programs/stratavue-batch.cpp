@@ -39,7 +39,6 @@
 #include <memory>
 #include <set>
 #include <system_error>
-#include <thread>
 
 enum ExitStatus { AllDone = 0, MessageAppeared = 1, WrongCommandLine = 2 };
 
@@ -575,8 +574,8 @@ static void DoShare(const std::vector<Text>& files)
 
 // ---- A run of many files, in several processes
 
-// A process costs its start and the file before its share. Where a number is asked for, it has at least two files.
-static constexpr size_t LeastFiles = 8, LeastFilesAsked = 2;
+// A process costs its start and the file before its share, so each has at least so many files.
+static constexpr size_t LeastFiles = 2;
 
 // In how many processes the files are done.
 static int ProcessesFor(const std::vector<Text>& files)
@@ -586,8 +585,7 @@ static int ProcessesFor(const std::vector<Text>& files)
     const bool shares = Asked.Job->Work == BatchWork::Checks || ConvertsEach() || Asked.Job->JobCode == 2;
     if (Report || !shares || !Asked.Pdf.empty() || files.size() > frmDrawPrint::MostFiles)
         return 1;
-    const size_t wanted = Asked.Jobs > 0 ? size_t(Asked.Jobs) : std::thread::hardware_concurrency();
-    return int(std::max<size_t>(std::min(wanted, files.size() / (Asked.Jobs > 0 ? LeastFilesAsked : LeastFiles)), 1));
+    return int(std::max<size_t>(std::min(size_t(std::max(Asked.Jobs, 1)), files.size() / LeastFiles), 1));
 }
 
 // What a run in one process would do with the list of the files as such.

@@ -6,7 +6,9 @@
 #include "windows/uitext.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -15,10 +17,24 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QWindow>
 #include <utility>
+
+bool PlacesWindows(const QString& platform)
+{
+    return !platform.startsWith("wayland");
+}
 
 void CentreOnScreen(QWidget& window)
 {
+    if (!PlacesWindows(QGuiApplication::platformName())) {
+        QWidget* const under = QApplication::activeWindow();
+        if (!qobject_cast<QDialog*>(&window) || !under || under == &window)
+            return;
+        window.winId(); // made now, so that there is a handle
+        window.windowHandle()->setTransientParent(under->windowHandle());
+        return;
+    }
     const QRect room = window.screen()->availableGeometry();
     const QSize size = window.isVisible() || window.testAttribute(Qt::WA_Resized) ? window.size() : window.sizeHint();
     window.move(room.center() - QPoint(size.width() / 2, size.height() / 2));

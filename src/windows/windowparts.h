@@ -19,7 +19,11 @@ class QWidget;
 // room.
 QSplitter* Split(Qt::Orientation orientation, std::initializer_list<QWidget*> boxes, std::initializer_list<int> shares);
 
-// Puts the window into the middle of its screen.
+// Returns whether a program may say where its windows stand. On Wayland the desktop alone does.
+bool PlacesWindows(const QString& platform);
+
+// Puts the window into the middle of its screen; where the desktop places it, a dialog is told to belong to the window
+// in front, over which it then stands.
 void CentreOnScreen(QWidget& window);
 
 // A window that opens files from outside, by the command line or dropped on it.

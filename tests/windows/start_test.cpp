@@ -6,6 +6,7 @@
 #include "windows/application.h"
 #include "windows/driver.h"
 #include "windows/showwindows.h"
+#include "windows/windowparts.h"
 
 #include <QAction>
 #include <QApplication>
@@ -170,4 +171,17 @@ TEST_CASE("Help shows its window, by the menu and by F1")
     Then("Help", [](QWidget* window) { Key(window, Qt::Key_Escape); });
     ClickMenu(log, "mnuHelpMenu", "mnuHelp");
     CheckAllDone();
+}
+
+TEST_CASE("a window is put into the middle of the screen, but where the desktop places all windows")
+{
+    CHECK(PlacesWindows(QApplication::platformName()));
+    CHECK(PlacesWindows("xcb"));
+    CHECK_FALSE(PlacesWindows("wayland"));
+    CHECK_FALSE(PlacesWindows("wayland-egl"));
+    QMainWindow window;
+    window.resize(200, 100);
+    CentreOnScreen(window);
+    const QPoint middle = window.screen()->availableGeometry().center();
+    CHECK(window.pos() == middle - QPoint(100, 50));
 }
