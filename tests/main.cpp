@@ -78,7 +78,7 @@ std::string Lines(std::initializer_list<std::string_view> lines)
 // What the program itself starts with, taken before the first test.
 static const KeptRecords& StartValues()
 {
-    static const KeptRecords values({Kind::Session, Kind::Document, Kind::Run, Kind::Window});
+    static const KeptRecords values({Kind::Session, Kind::Document, Kind::Boxes, Kind::Run, Kind::Window});
     return values;
 }
 

@@ -9,7 +9,7 @@
 // Lines of a row of each table, and of the two parameter set-ups together, which have no count.
 constexpr int SampleCells = 5 + SampleParams, LithCells = 4, LayerCells = 5, CuttingCells = 4;
 constexpr int SetupLines = 9 * SampleParams + 8 * GenParams;
-// Of a row of general parameters, its depth among them; the first form had eight parameters.
+// Returns the lines of a row of general parameters, its depth among them; the first form had eight parameters.
 inline int ParamCells(const Text& version)
 {
     return version == "5.0" ? 9 : 1 + GenParams;
@@ -18,13 +18,14 @@ inline int ParamCells(const Text& version)
 // The form that is written.
 inline constexpr char BoringVersion[] = "5.0.12";
 
-// Whether client lines and the style stand behind the notes: form 5.0 has them from release 12 on ("5.0.12"). The
-// release stands behind one character, whatever that is.
+// Returns whether client lines and the style stand behind the notes: form 5.0 has them from release 12 on ("5.0.12").
+// The release stands behind one character, whatever that is.
 inline bool HasClient(const Text& version)
 {
     return version.starts_with("5.0") && version.size() > 4 && TextNumber(version.substr(4)) >= 12;
 }
 
+// Reads so many lines into the slots, a line each.
 template <int Rows>
 void ReadLines(LineReader& in, Slots<Text, Rows>& lines, int count = Rows)
 {
@@ -32,6 +33,7 @@ void ReadLines(LineReader& in, Slots<Text, Rows>& lines, int count = Rows)
         lines[row] = in.Line();
 }
 
+// Reads so many rows of a table, a line for each cell.
 template <int Rows, int Columns>
 void ReadCells(LineReader& in, TextTable<Rows, Columns>& table, int count = Rows, int columns = Columns)
 {
@@ -40,8 +42,8 @@ void ReadCells(LineReader& in, TextTable<Rows, Columns>& table, int count = Rows
             table[row][column] = in.Line();
 }
 
-// A count line. What is left in the record is at most its bound, although the rows are read as far as the file says:
-// the first one over the bound has no slot and ends the reading.
+// Reads a count line and returns what it says. What is left in the record is at most its bound, although the rows are
+// read as far as the file says: the first one over the bound has no slot and ends the reading.
 inline int ReadCount(LineReader& in, int32_t& count, int bound)
 {
     const int told = in.Count();
@@ -49,13 +51,14 @@ inline int ReadCount(LineReader& in, int32_t& count, int bound)
     return told;
 }
 
-// A block that is passed over, so many lines a row. It has no bound.
+// Passes over a block that has so many lines a row. It has no bound.
 inline void SkipBlock(LineReader& in, int linesOfRow)
 {
     for (int rows = in.Count(); rows > 0; --rows)
         in.Skip(linesOfRow);
 }
 
+// Reads a block of lines behind its count.
 template <int Rows>
 void ReadBlock(LineReader& in, Slots<Text, Rows>& lines, int32_t& count)
 {
@@ -65,6 +68,7 @@ void ReadBlock(LineReader& in, Slots<Text, Rows>& lines, int32_t& count)
     ReadLines(in, lines, told);
 }
 
+// Reads a table behind its count, so many columns of it.
 template <int Rows, int Columns>
 void ReadBlock(LineReader& in, TextTable<Rows, Columns>& table, int32_t& count, int columns = Columns)
 {

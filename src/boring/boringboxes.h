@@ -22,7 +22,7 @@ extern Text Title;                       // of the window
 extern Text RecentFile;                  // last read whole or saved, for the list of recent files; "" for none
 extern Slots<std::vector<Text>, 4> List; // List1 to List4: description items to click into the description
 extern std::vector<Text> LayFiles;       // the list of cmbLayFile: layout files by their bare names, by getfilelist
-Grid* BoxGrid(int activeBox);            // the grid of that number; null for the text boxes and for 0
+Grid* BoxGrid(int activeBox);            // returns the grid of that number; null for the text boxes and for 0
 } // namespace frmBorinput
 
 namespace frmSoil

@@ -3,10 +3,11 @@
 
 #include "session/text.h"
 
-// One value. "" stays "", "0" stays "0"; others have up to two decimals ("10" gives "3.05"), and a text with no number
-// gives "".
+// Returns one value in meters. "" stays "", "0" stays "0"; others have up to two decimals ("10" gives "3.05"), and a
+// text with no number gives "".
 Text cv2m(const Text& text);
 
-// The boxes and BoringData, which is taken from the boxes first. Sets FileChanged. Nothing stops a second conversion.
-// More lines of descriptions, well notes or remarks than the record holds are failure 9, and nothing is converted then.
+// Converts the boxes and BoringData, which is taken from the boxes first, and sets FileChanged. Nothing stops a second
+// conversion. More lines of descriptions, well notes or remarks than the record holds are failure 9, and nothing is
+// converted then.
 void convertfeet2meters();

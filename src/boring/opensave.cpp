@@ -25,9 +25,9 @@ static const SharedRecord shared[] = {
     {"frmOpenSave::SS", Kind::Window, frmOpenSave::SS},
     {"frmOpenSave::HiddenFolder", Kind::Window, frmOpenSave::HiddenFolder},
     {"frmOpenSave::HiddenFiles", Kind::Window, frmOpenSave::HiddenFiles},
-    {"frmCross::Title", Kind::Document, frmCross::Title},
-    {"frmFence::Title", Kind::Document, frmFence::Title},
-    {"frmSoil::Title", Kind::Document, frmSoil::Title},
+    {"frmCross::Title", Kind::Boxes, frmCross::Title},
+    {"frmFence::Title", Kind::Boxes, frmFence::Title},
+    {"frmSoil::Title", Kind::Boxes, frmSoil::Title},
 };
 
 namespace

@@ -24,13 +24,13 @@ struct Record {
 extern Record Dialog;
 extern Grid SS; // the projects: ID and path
 
-void Load();                         // by DialogMode
-void ChangeFolder(const Text& name); // another folder is shown
-void ChangeVersion(int index);       // another file version is marked: 0 3.0, 1 4.0/4.0P, 2 4.6/5.0
-void Command1();                     // OK: DialogResult, and the version in DialogMode
-void Command2();                     // Cancel
-void Command4();                     // Edit Project List; the project grid is shown anew
-// A project is chosen: its heading file and logo take effect, and its folder becomes the project folder of the
+void Load();                         // Fills the boxes by DialogMode.
+void ChangeFolder(const Text& name); // Shows another folder.
+void ChangeVersion(int index);       // Marks another file version: 0 3.0, 1 4.0/4.0P, 2 4.6/5.0.
+void Command1();                     // OK: answers in DialogResult, with the version in DialogMode.
+void Command2();                     // Cancel: answers "" in DialogResult.
+void Command4();                     // Edit Project List: opens its editor, and shows the project grid anew.
+// Chooses the project of a row: its heading file and logo take effect, and its folder becomes the project folder of the
 // session, unless it cannot be written.
 void SelectProject(int row);
 
@@ -53,7 +53,7 @@ namespace frmSoil
 extern Text Title;
 }
 
-// The layout files of the layout folder, or of the working folder where that cannot be written; bare names. Mode 1
-// fills the layout list of the log tool with them and leaves the layout that is typed there; any other mode fills the
-// chooser's hidden list alone. Does nothing while there is no project folder.
+// Looks up the layout files of the layout folder, or of the working folder where that cannot be written, by their bare
+// names. Mode 1 fills the layout list of the log tool with them and leaves the layout that is typed there; any other
+// mode fills the chooser's hidden list alone. It does nothing while there is no project folder.
 void getfilelist(int mode);

@@ -19,16 +19,16 @@ struct ProjectRecord {
 extern Slots<ProjectRecord, MaxProjects> ProjectList;
 extern int16_t ProjectCount;
 
-// The file of the set-up into ProjectList; one that does not exist gives an empty list. Failures by number: the rows
-// before a failure stay.
+// Reads the file of the set-up into ProjectList; one that does not exist gives an empty list. Failures by number: the
+// rows before a failure stay.
 void LoadProjectList();
-// ProjectList into the file of the set-up; with none named there a box tells so, and nothing is written.
+// Writes ProjectList into the file of the set-up; with none named there a box tells so, and nothing is written.
 void SaveProjectList();
 
 // The editor of the list.
 namespace frmProjEdit
 {
 extern Grid SS;  // project ID, path, heading file, logo file
-void Load();     // the list into the grid
-bool Command1(); // OK: the grid into the list and its file; true when the window closes
+void Load();     // Puts the list into the grid.
+bool Command1(); // OK: takes the grid into the list and its file; returns true when the window closes.
 } // namespace frmProjEdit

@@ -7,16 +7,16 @@
 #include "session/linebreaks.h"
 #include "session/session.h"
 
-// The lines of a text box in LineBuffer, at most 1000, with the paragraph mark where a paragraph ends; LineCount is
-// their number. kind 1 description, 2 well notes, 3 remarks, 4 soil notes, any other the general notes.
+// Puts the lines of a text box into LineBuffer, at most 1000, with the paragraph mark where a paragraph ends; LineCount
+// is their number. kind 1 is the description, 2 well notes, 3 remarks, 4 soil notes, any other the general notes.
 void Text2Wrap32(int kind);
 
-// The text cut at CR LF into LineBuffer, up to 400 lines; LineCount counts those beyond too. Blank lines at the end
-// are not counted when there are 400 or fewer.
+// Puts the text, cut at CR LF, into LineBuffer, up to 400 lines; LineCount counts those beyond too. Blank lines at the
+// end are not counted when there are 400 or fewer.
 void Text2Array(const Text& text);
 
-// The flowing text of stored lines: what a text box shows of them. An empty line without a mark cannot hold text and is
-// dropped.
+// Returns the flowing text of stored lines: what a text box shows of them. An empty line without a mark cannot hold
+// text and is dropped.
 template <int Rows>
 Text FlowingText(const Slots<Text, Rows>& lines, int count)
 {

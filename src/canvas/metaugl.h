@@ -37,7 +37,8 @@ void triangleup(float r);
 void triangledown(float r);
 void triangleupsolid(float r);
 void triangledownsolid(float r);
-// A missing file: a message, and nothing is added. Failure 481 for one that is no picture.
+// Adds a picture of that size from the pen up and to the right. A missing file is told in a box, and nothing is added;
+// one that is no picture is failure 481.
 void drawbitmap(const Text& file, float width, float height);
 void bringtofront();
 

@@ -3,6 +3,6 @@
 
 #include "session/text.h"
 
-// The lines of the current page, each closed by a line feed: first the page, then each object in drawing order with
-// only the keys that its kind has. number counts the drawn pages of a run from 1.
+// Returns the lines of the current page, each closed by a line feed: first the page, then each object in drawing order
+// with only the keys that its kind has. number counts the drawn pages of a run from 1.
 std::string PageListing(int number, const Text& source);

@@ -59,10 +59,11 @@ struct PageListRecord {
 };
 extern PageListRecord PageList;
 
-void ClearPage(int32_t width, int32_t height); // removes all objects and sets the extent
-// The new object, with the default style; it becomes the current object. Failure 7 on a full page: absurd tick counts
-// in a damaged file end so, and not in the machine's memory.
+void ClearPage(int32_t width, int32_t height); // Removes all objects and sets the extent.
+// Adds an object with the default style, which becomes the current object, and returns it. A full page is failure 7:
+// absurd tick counts in a damaged file end so, and not in the machine's memory.
 PageObject& AddObject(ObjectKind kind, int32_t x1, int32_t y1, int32_t x2, int32_t y2);
-PageObject& CurrentObject(); // failure 5 without one
-void SelectedToFront();      // moves the selected objects to the end of the drawing order and clears the selection
-std::array<int32_t, 4> PageBounds(); // smallest and largest x and y of the objects: x1, y1, x2, y2; zeros if none
+PageObject& CurrentObject(); // Returns the object added last; without one it is failure 5.
+void SelectedToFront();      // Moves the selected objects to the end of the drawing order and clears the selection.
+// Returns the smallest and the largest x and y of the objects: x1, y1, x2, y2; zeros where there are none.
+std::array<int32_t, 4> PageBounds();

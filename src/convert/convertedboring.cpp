@@ -6,6 +6,7 @@
 #include "run/batchrun.h"
 #include "session/files.h"
 #include "session/platform.h"
+#include "session/shared.h"
 
 void ClearForConversion()
 {
@@ -32,7 +33,13 @@ void SetFixedForm(std::span<const char* const> prompts, std::span<const FixedPar
     BoringData.LayoutFile = layout;
 }
 
-static Text BesideSource(const Text& source)
+Text (*ConvertedName)(const Text& source) = nullptr;
+
+static const SharedRecord shared[] = {
+    {"ConvertedName", Kind::Machine, ConvertedName},
+};
+
+Text BesideSource(const Text& source)
 {
     return Text(Before(source, '.')) + ".bor";
 }
@@ -52,13 +59,23 @@ void ConvertRunFiles(void (*convert)(const Text& source))
     }
 }
 
+// A new file can be made again from its source; waiting for the disk after each one would be most of a long run.
+static Durability DurabilityOf(const Text& boring)
+{
+    return FileExists(boring) ? Durability::Saved : Durability::Scratch;
+}
+
 void WriteBesideSource(const Text& source, const Text& style, const Text& draft)
 {
     while (BoringData.RepPartCount > 0 && IsBlank(BoringData.RepParts[BoringData.RepPartCount].Item))
         --BoringData.RepPartCount;
-    const Text name = BesideSource(source);
-    // A new file can be made again from its source; waiting for the disk after each one would be most of a long run.
-    WriteBoring(name, style, draft, FileExists(name) ? Durability::Saved : Durability::Scratch);
+    const Text name = ConvertedName ? ConvertedName(source) : BesideSource(source);
+    WriteBoring(name, style, draft, DurabilityOf(name));
+}
+
+void PlaceConverted(const Text& source, std::string_view bytes)
+{
+    WriteWholeFile(BesideSource(source), bytes, DurabilityOf(BesideSource(source)));
 }
 
 ConversionProgress::ConversionProgress(int total)

@@ -21,8 +21,8 @@ extern Record Dialog;
 extern Grid SS1; // fields of headers.txt: where each goes, and the number of the row there
 extern Grid SS2; // GTGS fill codes and what they are here
 
-void Load(); // a new mapping
-// What would drop a map that has changed asks first.
+void Load(); // Begins a new mapping.
+// The commands that would drop a map that has changed ask first.
 void mnuOpenGTGSConvFile();
 void OpenNamed(
     const Text& name);      // from outside; one that is refused leaves no name behind that a save could write over

@@ -29,13 +29,13 @@ struct GtgsMappingRecord {
 };
 extern GtgsMappingRecord GtgsMapping;
 
-void OpenGTGSConversionFile(const Text& name); // a .GCV file into GtgsMapping
-void SaveGTGSConversionFile(const Text& name); // and back
+void OpenGTGSConversionFile(const Text& name); // Reads a .GCV file into GtgsMapping.
+void SaveGTGSConversionFile(const Text& name); // Writes GtgsMapping into one.
 
 // Stands for the name that headers.txt gives.
 extern const Text NameFromHeaders;
 
-// The name in the box of the editor as that of a file: with its ending, in the folder of the tables.
+// Returns the name in the box of the editor as that of a file: with its ending, in the folder of the tables.
 Text NewBoringFile(const Text& name);
 
 // Converts the tables by GtgsMapping into the file, or into one of the boring's name in the project folder. Returns

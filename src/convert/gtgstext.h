@@ -5,8 +5,8 @@
 // boring, in the same folder.
 void ConvertGTGSText();
 
-// The command: in the folder last shown by the batch dialog, or the project's before any was shown.
 namespace frmBorinput
 {
+// Converts the tables of the folder last shown by the batch dialog, or the project's before any was shown.
 void mnuConvertGTGStxt();
-}
+} // namespace frmBorinput

@@ -1,7 +1,7 @@
 // irpims.h -- borings as the three tables of the IRPIMS data exchange.
 #pragma once
 
-// runFiles 1 to runFileCount into timbore.txt, timlith.txt and timcons.txt of the folder lastDir.
+// Exports runFiles 1 to runFileCount into timbore.txt, timlith.txt and timcons.txt of the folder lastDir.
 void Export2IRPIMS();
 
 namespace frmBorinput

@@ -3,14 +3,14 @@
 
 #include "session/files.h"
 
-// Read line by line, with the next line in view: a line that belongs to the next boring stays there for it.
+// The file is read line by line, with the next line in view: a line that belongs to the next boring stays there for it.
 class TableFile
 {
 public:
     explicit TableFile(const Text& name);
     bool AtEnd() const;
-    const Text& Next() const; // not at the end
-    void Take();
+    const Text& Next() const; // Returns the next line; not to be asked at the end.
+    void Take();              // Goes on to the line behind it.
 
 private:
     LineReader in;
@@ -21,6 +21,6 @@ private:
 // Appends the paragraph mark unless the line has it.
 void MarkLine(Text& line);
 
-// The description of one boring into BoringData.Des, up to the depth line that is below the one before; that line is
-// the next boring's. Depth lines begin with ".L=" or ".D=", paragraphs with "."; other lines flow on.
+// Reads the description of one boring into BoringData.Des, up to the depth line that is below the one before; that line
+// is the next boring's. Depth lines begin with ".L=" or ".D=", paragraphs with "."; other lines flow on.
 void ReadDescriptionText(TableFile& in);

@@ -7,10 +7,10 @@ class LineReader;
 
 enum class LastBlock { GenParamSetup, InnerLayers, Client };
 
-// The blocks behind the version line, in the file's order, up to the last one asked for. A form without Client ends at
-// GenParamSetup where Client is asked for. Counts above a bound and an early end are failures by number.
+// Reads the blocks behind the version line, in the file's order, up to the last one asked for. A form without Client
+// ends at GenParamSetup where Client is asked for. Counts above a bound and an early end are failures by number.
 void ReadBoringBlocks(LineReader& in, const Text& version, BoringRecord& boring, LastBlock last);
 
-// What a conversion takes from a template boring into BoringData, which is clear: prompts, report parts, layout, both
-// set-ups, and the client lines of a form that has them, if they are asked for.
+// Takes from a template boring into BoringData, which is clear, what a conversion needs of it: prompts, report parts,
+// layout, both set-ups, and the client lines of a form that has them, if they are asked for.
 void TakeTemplate(LineReader& in, const Text& version, bool client);

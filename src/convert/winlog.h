@@ -5,9 +5,9 @@
 
 extern Text WinLogTemplate; // the template boring of the run; "" for none
 
-void ConvertWinLog(); // runFiles 1 to runFileCount
+void ConvertWinLog(); // Converts runFiles 1 to runFileCount.
 
 namespace frmBorinput
 {
-void mnuConvertWinLog(); // asks for the template, then shows the batch dialog
+void mnuConvertWinLog(); // Asks for the template, then shows the batch dialog.
 }

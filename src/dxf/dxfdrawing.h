@@ -22,7 +22,7 @@ public:
     void Add(int code, double value); // up to 6 decimals, no trailing zeros
     void AddTenths(int code, double value);
     void AddHandle(int code, int handle);
-    void AddPoint(int code, double x, double y); // code for x, code + 10 for y
+    void AddPoint(int code, double x, double y); // x by that code, y by the code + 10
     void Append(const DxfTags& tags)
     {
         bytes += tags.bytes;
@@ -44,20 +44,21 @@ enum class DxfLayer { Lines, Rectangles, Ellipses, Arcs, Outlines, Fills, Patter
 class DxfDrawing
 {
 public:
-    // Starts an entity of the model space: its type, handle and layer. Leaves the handle.
+    // Starts an entity of the model space: its type, handle and layer. Returns the handle.
     int Entity(const char* type, DxfLayer layer);
     // Starts an entity of a block, on the layer of whatever insert shows it.
     void BlockEntity(DxfTags& block, const char* type);
-    // A block of those entities, named after something. Leaves its name.
+    // Adds a block of those entities under a name that is made from this one, and returns that name.
     Text Block(std::string_view name, DxfTags entities);
-    // The text style of a font; made when first asked for.
+    // Returns the name of a font's text style, which is made when first asked for.
     const Text& Style(const Text& font, bool bold);
-    // A picture's definition and the entity's link to it; path in the machine's own encoding, size in pixels.
+    // Adds a picture's definition and the entity's link to it, and returns their handles. path is in the machine's own
+    // encoding, the size in pixels.
     struct ImageLink {
         int Definition, Reactor;
     };
     ImageLink Image(int entity, const std::string& path, int width, int height);
-    // The whole file, with the entities so far.
+    // Returns the whole file, with the entities so far.
     std::string File(const DxfSheet& sheet);
 
     DxfTags Entities;
@@ -96,10 +97,10 @@ private:
     std::vector<BlockOfEntities> blocks;
 };
 
-// The mark of a drawing by its bytes; "" where it has none.
+// Returns the mark of a drawing by its bytes; "" where it has none.
 Text MarkOfDxf(std::string_view drawing);
-// A text as the value of a group: control characters and "^" by the caret, "%%" and "\U+" so that they stay what they
-// are, codes without a character as the replacement sign.
+// Returns a text as the value of a group: control characters and "^" by the caret, "%%" and "\U+" so that they stay
+// what they are, codes without a character as the replacement sign.
 std::string DxfString(std::string_view text);
-// A name of a table entry: without the letters that names cannot have.
+// Returns the text as the name of a table entry, without the letters that such names cannot have.
 Text DxfName(std::string_view name);

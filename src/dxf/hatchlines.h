@@ -8,7 +8,7 @@
 
 #include <vector>
 
-// Lengths in pixels of the tile, y up, from the tile's upper left corner.
+// A family of dashed lines. Lengths are pixels of the tile, y up, from the tile's upper left corner.
 struct HatchLine {
     double Angle = 0;                // degrees, counter-clockwise
     double X = 0, Y = 0;             // start of the first dash
@@ -22,5 +22,5 @@ struct HatchPattern {
     bool Solid = false; // a tile of ink alone: no lines
 };
 
-// Pixels darker than half are ink. A tile without ink gives no lines.
+// Returns the definition lines that cover the ink of a tile: its pixels darker than half. One without ink has no lines.
 HatchPattern HatchLines(const Bitmap& tile);

@@ -8,7 +8,7 @@
 
 #include <vector>
 
-// In drawing units, y up.
+// A point in drawing units, y up.
 struct HatchPoint {
     double X, Y;
     bool operator==(const HatchPoint&) const = default;
@@ -28,12 +28,12 @@ struct HatchWindow {
     double Left, Bottom, Right, Top;
 };
 
-// The strokes of the pattern within the corners of an area and within the window, definition line by definition line.
-// What the border goes round twice is outside. What it leaves of a dash is passed over where that is shorter than the
-// pen is wide. Ends early behind `most` strokes and leaves more than that.
+// Returns the strokes of the pattern within the corners of an area and within the window, definition line by definition
+// line. What the border goes round twice is outside. What the border leaves of a dash is passed over where that is
+// shorter than the pen is wide. The work ends early behind `most` strokes, and returns more than that then.
 std::vector<HatchStroke> HatchStrokes(const HatchPattern& pattern, const HatchPlace& place,
                                       const std::vector<HatchPoint>& corners, const HatchWindow& window, size_t most);
 
-// The strokes as chains of two points or more: strokes whose ends lie no farther apart than that are one chain, through
-// the middle between those ends. In no order; a chain that comes back to its start ends there.
+// Returns the strokes as chains of two points or more, in no order: strokes whose ends lie no farther apart than that
+// are one chain, through the middle between those ends. A chain that comes back to its start ends there.
 std::vector<std::vector<HatchPoint>> JoinedStrokes(const std::vector<HatchStroke>& strokes, double apart);

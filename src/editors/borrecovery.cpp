@@ -7,6 +7,7 @@
 #include "editors/fillform.h"
 #include "grid/gridedit.h"
 #include "session/files.h"
+#include "session/session.h"
 #include "tools/hush.h"
 
 namespace
@@ -45,8 +46,6 @@ static void SetAside(const Text& copy, std::vector<std::unique_ptr<Kept<Text>>>&
 void frmBorinput::WriteCopy(const Text& copy)
 {
     const Hushed quiet;
-    const Kept name(BoringFileName);
-    const Kept record(BoringData);
     std::vector<std::unique_ptr<Kept<Text>>> texts;
     SetAside(copy, texts);
     BoringFileName = copy;

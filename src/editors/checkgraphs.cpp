@@ -6,8 +6,8 @@
 #include "logrender/graph.h"
 #include "session/files.h"
 #include "session/machine.h"
+#include "session/session.h"
 #include "session/shared.h"
-#include "tools/hush.h"
 
 #include <algorithm>
 #include <cmath>
@@ -170,8 +170,6 @@ static const FileValues& ValuesOf(int n, const LogParamSetup& setup, float end)
     if (file.State.Size >= 0 && file.State == state)
         return file;
     file = {state, {}, false};
-    const Kept live(LogBoring.GenSetup[n]);
-    const Kept page(LogPage);
     LogBoring.GenSetup[n] = setup;
     LogPage.BoringFileName = BoringFileName;
     LogPage.PageStartDepth = 0;

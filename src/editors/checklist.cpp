@@ -3,26 +3,10 @@
 
 #include "editors/checkparts.h"
 #include "report/heading.h"
-#include "session/failure.h"
+#include "session/shared.h"
 #include "tools/hush.h"
 
 #include <algorithm>
-
-namespace
-{
-// The words and the logo that a run would draw with, as long as it lives.
-struct WordsOfRun {
-    WordsOfRun()
-    {
-        getclientlogo(1);
-    }
-    const Kept<Slots<Text, MaxHeadings>> words{HeadingWords};
-    const Kept<int16_t> legend{LegendInUse};
-    const Kept<Slots<int16_t, 4>> boxFill{LegendBoxFill};
-    const Kept<LogoRecord> logo{LogoData};
-    const Kept<int> failures{FailuresReported};
-};
-} // namespace
 
 std::vector<CheckEntry> CheckBoring()
 {
@@ -34,8 +18,8 @@ std::vector<CheckEntry> CheckBoring()
         CheckFiles,      CheckLines,     CheckRoom,   CheckLetters};
     std::vector<CheckEntry> found;
     const Hushed quiet;
-    const WordsOfRun words;
-    const Kept target(list);
+    const KeepAll records{Kind::Run};
+    getclientlogo(1); // the words and the logo that a run would draw with
     list = &found;
     for (void (*part)() : parts)
         try {

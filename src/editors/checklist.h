@@ -4,8 +4,9 @@
 
 #include "tools/checkentry.h"
 
-// The gravest lines in front: the warnings of a save, cells that are read otherwise than they were meant, what lies out
-// of order or below the log, codes and colours that draw blank, markers and texts of other layers, text and columns
-// without room, values beyond their axis, files that are not found, letters of no code page. What a page would be drawn
-// from is looked for as a run looks for it; a part of the list is a file of its own beside this one.
+// Returns what it flags, the gravest lines in front: the warnings of a save, cells that are read otherwise than they
+// were meant, what lies out of order or below the log, codes and colours that draw blank, markers and texts of other
+// layers, text and columns without room, values beyond their axis, files that are not found, letters of no code page.
+// What a page would be drawn from is looked for as a run looks for it. Each part of the list is a file of its own
+// beside this one.
 std::vector<CheckEntry> CheckBoring();

@@ -10,7 +10,9 @@
 #include "report/projectfiles.h"
 #include "session/deviceconfig.h"
 #include "session/files.h"
-#include "tools/hush.h"
+#include "session/kept.h"
+#include "session/platform.h"
+#include "session/session.h"
 
 #include <algorithm>
 #include <cmath>
@@ -139,9 +141,6 @@ try {
 
 double BoringChecks::PageLength()
 {
-    const Kept kind(LogGeometry.FrameKind);
-    const Kept bottomRow(LogGeometry.HasBottomRow);
-    const Kept length(LogBoring.PageLength);
     const Text pageBreak = Cell(ScaleBox, 3, 1);
     LogBoring.PageLength = static_cast<float>(TextNumber(Behind(pageBreak, ',')));
     LogGeometry.FrameKind = 'P';

@@ -44,13 +44,15 @@ Text WhereIs(int box,
              int row); // "Soil Sample Data, row 3", or the row's own name: "General Well Information, Stick-Up"
 Text Quoted(const Text& words);
 
-// The descriptions, or the remarks, as the file holds them or will hold them: a stored line each without the mark that
-// ends a paragraph, and where it begins in the text of its box, line ends as one character. Leaves them in LineBuffer.
+// A stored line of the descriptions or of the remarks, without the mark that ends a paragraph, and where the line
+// begins in the text of its box, line ends as one character.
 struct StoredLine {
     Text Words;
     int Place;
 };
-std::vector<StoredLine> StoredLines(int kind); // 1 descriptions, 3 remarks
+// Returns the lines as the file holds them or will hold them: kind 1 is the descriptions, 3 the remarks. Leaves them in
+// LineBuffer.
+std::vector<StoredLine> StoredLines(int kind);
 
 // ---- The page
 
@@ -59,26 +61,27 @@ struct PageDepths {
     float Start, End;
 };
 std::vector<PageDepths> LogPages();
-float EndOfLog();    // of the last page; 0 for a log without pages
-float LastContact(); // the deepest; 0 without contacts
+float EndOfLog();    // returns the depth that the last page ends at; 0 for a log without pages
+float LastContact(); // returns the depth of the deepest contact; 0 without contacts
 struct DrawnPart {
     Text Name; // in upper case
     double Width;
     int Row;
 };
-std::vector<DrawnPart> DrawnParts(); // the report parts up to the first empty one, where a run ends
-bool Draws(const char* front);       // one of them begins so
-bool DrawsGraphic();                 // patterns of the soil codes
+std::vector<DrawnPart> DrawnParts(); // returns the report parts up to the first empty one, where a run ends
+bool Draws(const char* front);       // returns whether the name of one of them begins so
+bool DrawsGraphic();                 // returns whether patterns of the soil codes are drawn
 bool DrawsWell();
-Text LayoutFilePath();                 // where a run looks for the layout
-bool ReadLayout(LayoutRecord& layout); // false: it is not there
-double PageLength();                   // the inches that a page has for its depths, by the layout
+Text LayoutFilePath();                 // returns where a run looks for the layout
+bool ReadLayout(LayoutRecord& layout); // reads the layout; returns false where it is not there
+double PageLength();                   // returns the inches that a page has for its depths, by the layout
 
-void LookForPatterns(); // in their folder, if it has changed; before codes are held against them
+// Looks up the pattern files in their folder, if it has changed: before codes are held against them.
+void LookForPatterns();
 
 // ---- The parts of the list
 
-void CheckScale(); // what a save warns of
+void CheckScale(); // flags what a save warns of
 void CheckPages();
 void CheckDepthCells();
 void CheckContacts();

@@ -13,7 +13,7 @@ struct MovedMarkers {
 // Which rows hold a layer, from index 1; those behind the list hold none.
 using LayerRows = std::vector<bool>;
 
-// The description when the rows have moved, and these hold layers now. The text of a layer that has gone
+// Returns the description when the rows have moved, and these hold layers now. The text of a layer that has gone
 // stays, with the layer that has its depths now: the one below it, else the one above. Markers that were in order
 // without a gap are so again: an empty one holds the place of a layer that has come, and blocks of text change places
 // as their layers do.

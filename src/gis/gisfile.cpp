@@ -30,12 +30,12 @@ static const SharedRecord shared[] = {
     {"GisData", Kind::Document, GisData},
     {"boringSummary", Kind::Run, boringSummary},
     {"boringLithology", Kind::Run, boringLithology},
-    {"frmGIS::SSGISLayers", Kind::Document, frmGIS::SSGISLayers},
-    {"frmGIS::SSGISInfo", Kind::Document, frmGIS::SSGISInfo},
-    {"frmGIS::SSBoringData", Kind::Document, frmGIS::SSBoringData},
-    {"frmGIS::Title", Kind::Document, frmGIS::Title},
+    {"frmGIS::SSGISLayers", Kind::Boxes, frmGIS::SSGISLayers},
+    {"frmGIS::SSGISInfo", Kind::Boxes, frmGIS::SSGISInfo},
+    {"frmGIS::SSBoringData", Kind::Boxes, frmGIS::SSBoringData},
+    {"frmGIS::Title", Kind::Boxes, frmGIS::Title},
     {"frmGIS::FileName", Kind::Document, frmGIS::FileName},
-    {"frmGIS::File1", Kind::Document, frmGIS::File1},
+    {"frmGIS::File1", Kind::Boxes, frmGIS::File1},
 };
 
 using namespace frmGIS;
@@ -92,16 +92,13 @@ static void Empty(Slots<Text, Rows>& cells)
         cell.clear();
 }
 
-// In place: the record is large, and every section that names a GIS file clears it.
 void ClearGISArrays()
 {
     GisData.layerCount = GisData.boringCount = 0;
     Empty(GisData.layerName);
     Empty(GisData.layerColor);
-    for (auto& cells : GisData.boringCells.slot)
-        Empty(cells);
-    for (auto& cells : GisData.layerCells.slot)
-        Empty(cells);
+    GisData.boringCells.Clear();
+    GisData.layerCells.Clear();
     GisData.trailerLine.clear();
 }
 

@@ -18,40 +18,41 @@ struct GisRecord {
     int32_t layerCount = 0;
     Slots<Text, MaxGisLayers> layerName, layerColor;
     int32_t boringCount = 0;
-    Slots<Slots<Text, GisColumns>, MaxGisBorings> boringCells; // boring, X, Y, surface elevation, file name
-    Slots<Slots<Text, MaxGisLayers>, MaxGisBorings> layerCells;
+    GrowingSlots<Slots<Text, GisColumns>, MaxGisBorings> boringCells; // boring, X, Y, surface elevation, file name
+    GrowingSlots<Slots<Text, MaxGisLayers>, MaxGisBorings> layerCells;
     Text trailerLine; // a last line kept as it stands
 };
 extern GisRecord GisData;
 
-// Of the boring last read: name, X, Y, surface elevation, file, greatest ends of the outer and inner table, and the
-// tops and the bottoms of the screens.
+// What is known of the boring last read: name, X, Y, surface elevation, file, greatest ends of the outer and inner
+// table, and the tops and the bottoms of the screens.
 extern Slots<Text, 9> boringSummary;
-// Its lithology. The workbench has a table of its own for it: the log tool, which stays open below, shows another one.
+// The lithology of the boring last read. The workbench has a table of its own for it: the log tool, which stays open
+// below, shows another one.
 struct GisLithology {
     int32_t count = 0;
     Slots<Text, MaxGisLayers> depth, code;
 };
 extern GisLithology boringLithology;
 
-// The file into GisData, which is emptied first, also when the file turns out to be missing: ".gis" behind a name
-// with no "."; box "GIS File Not Found: ".
+// Reads the file into GisData, which is emptied first, also when the file turns out to be missing: that is told in the
+// box "GIS File Not Found: ". A name with no "." gets ".gis" behind it.
 void OpenGISFile(const Text& path);
-// Takes the list and the table as they stand, also layers that have no column yet, then writes the file. False: nothing
-// was written, and the report has told why.
+// Takes the list and the table as they stand, also layers that have no column yet, then writes the file. Returns false
+// where nothing was written; the report has told why.
 bool SaveGISFile(const Text& path);
-// The boring file into boringSummary, all but its file name, and boringLithology; both are emptied first.
+// Reads the boring file into boringSummary, all but its file name, and boringLithology; both are emptied first.
 void OpenBoringGIS(const Text& path);
 void ClearGISArrays();
-// GisData into SSGISLayers and SSGISInfo, which gets a column for each layer, and the title by FileName. Leaves
-// FileChanged as it is.
+// Puts GisData into SSGISLayers and SSGISInfo, which gets a column for each layer, and sets the title by FileName.
+// Leaves FileChanged as it is.
 void FillGISForm();
-// The clearing of New, and of the window's opening: no file name, empty grids and record, the title; FileChanged 0. It
-// does not ask.
+// Clears the workbench for New and at the window's opening: no file name, empty grids and record, the title;
+// FileChanged 0. It does not ask.
 void ClearGISForm();
 
-// The two exports, to a file that is known; both end in their box. False: the report has told why. They take the table
-// as it stands in SSGISInfo, and the layers by GisData.
+// Export to a file that is known, with a box at the end. They take the table as it stands in SSGISInfo, and the layers
+// by GisData. They return false where the report has told of a failure.
 bool ExportGIS2ArcView(const Text& path);
 bool ExportGIS2EVS(const Text& path);
 
@@ -73,16 +74,16 @@ struct FileList {
     bool SelectAll = false;     // Option1 is checked
 };
 extern FileList File1;
-void RefreshFileList();                    // read anew; what was marked and is still there stays marked
-void SelectFile(int index, bool selected); // from 0. "Select All" is let go
-void Option1();                            // "Select All": marks every file
-void Command1();                           // "Add to GIS": a row for each marked file; nothing is marked then
-void Command2();                           // "Update Layers": the columns by the layer list
-void Command3();                           // "View Data ->": the first marked file
-// Into SSGISInfo, a row below the last with data: the boring, with its depths by the layer list. path is the file, name
-// what stands in its "Filename" cell. Failures by number: 9 when the table is full.
+void RefreshFileList();                    // Reads the list anew; what was marked and is still there stays marked.
+void SelectFile(int index, bool selected); // Marks a file or not, counted from 0; "Select All" is let go.
+void Option1();                            // "Select All": marks every file.
+void Command1();                           // "Add to GIS": adds a row for each marked file; nothing is marked then.
+void Command2();                           // "Update Layers": makes the columns those of the layer list.
+void Command3();                           // "View Data ->": shows the first marked file.
+// Adds the boring to SSGISInfo in a row below the last with data, with its depths by the layer list. path is the file,
+// name what stands in its "Filename" cell. Failures by number: 9 when the table is full.
 void AddBoring(const Text& path, const Text& name);
-// At the current cell of SSGISInfo. The column commands do nothing in the first five columns. All set FileChanged.
+// Work at the current cell of SSGISInfo. The column commands do nothing in the first five columns. All set FileChanged.
 void mnuInsertRow();
 void mnuDeleteRow();
 void mnuInsertColumn();

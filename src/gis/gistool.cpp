@@ -5,13 +5,6 @@
 #include "session/files.h"
 #include "session/savename.h"
 #include "session/shared.h"
-#include "tools/hush.h"
-
-static void Undisturbed(const std::function<void()>& work)
-{
-    const Kept form(GisData);
-    work();
-}
 
 // A name may be typed without its ending; it is complete from then on, or a save would write a second file that no
 // reader of tables finds.
@@ -43,7 +36,6 @@ ToolRecord GisForm = {
     .ClearArrays = ClearGISForm, // the columns of the table go with the layers
     .FillForm = FillGISForm,
     .Label = frmGIS::LabelBoxes,
-    .Undisturbed = Undisturbed,
     .State = State,
     .Check = CheckGisTable,
     .titleInFront = true,

@@ -24,16 +24,16 @@ struct GridShape {
     friend bool operator==(const GridShape&, const GridShape&) = default;
 };
 
-// Where the rows of a grid have gone: row n, from index 1, is row [n] now, and 0 says that it has gone. Empty: none has
-// moved.
+// Where the rows of a grid have gone: row n, from index 1, is row [n] now, and 0 says that it has gone. An empty list
+// says that none has moved.
 using RowMoves = std::vector<int>;
 
 // A text elsewhere that names the rows of a grid by their numbers, and goes with them.
 struct RowNames {
     Text (*text)();
     void (*put)(const Text& text);
-    Text (*move)(const RowMoves& moves); // renumbers the text; what it has done in words, "" for nothing
-    Text (*cut)(int top, int bottom);    // what becomes of the names of rows that were cut out, in words
+    Text (*move)(const RowMoves& moves); // renumbers the text, and returns in words what it has done; "" for nothing
+    Text (*cut)(int top, int bottom);    // returns in words what becomes of the names of rows that were cut out
 };
 
 // Whole rows that were cut out and not pasted yet: the first one, and what the clipboard has of them.
@@ -57,7 +57,7 @@ struct Grid {
     Grid(int rowCount, int columnCount);
     Text& Cell(int row, int column);
     const Text& Cell(int row, int column) const;
-    int DataRowCount() const; // the last row with a character in any cell, blanks included; 0 if none
+    int DataRowCount() const; // returns the last row with a character in any cell, blanks included; 0 if none
     void ClearRows(int first, int last);
     void Clear();
     void Resize(int rowCount, int columnCount); // cells and headings that both sizes have stay
@@ -95,7 +95,7 @@ struct Memo {
     int factor = 1550;                      // twips of room to an inch of text: 1550 for 8 point, 1750 for 7 point
     Text fontName = "Arial";                // what it is drawn with; where lines break does not depend on it
     bool edited = false;                    // a command has changed the text: its widget shows that as a step of Undo
-    int Points() const;                     // the size that factor stands for
-    int64_t Room() const;                   // of a line, in the line breaker's units
-    std::vector<Text> DisplayLines() const; // every character but the line ends stands in one of them
+    int Points() const;                     // returns the size that factor stands for
+    int64_t Room() const;                   // returns the room of a line, in the line breaker's units
+    std::vector<Text> DisplayLines() const; // returns the lines shown, which hold all characters but the line ends
 };

@@ -5,12 +5,13 @@
 
 #include <vector>
 
-// So many characters from a place on give way to others. A line end (CR LF) counts as one character, places from 0.
+// One change: `removed` characters from a place on give way to others. A line end (CR LF) counts as one character, and
+// places are counted from 0.
 struct TextEdit {
     int from, removed;
     Text put;
 };
 
-// The changes, the last place first, so that each place is that of the text before. Paragraphs that both texts have are
-// not touched, and of one that has changed only the middle.
+// Returns the changes, the last place first, so that each place is that of the text before. Paragraphs that both texts
+// have are not touched, and of one that has changed only the middle is.
 std::vector<TextEdit> EditsBetween(const Text& before, const Text& after);

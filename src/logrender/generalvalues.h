@@ -17,8 +17,8 @@ struct GeneralValues {
     std::vector<GeneralValue> Rows;
 };
 
-// General parameter n, in file or table order. A data file lies in the project folder: header lines to skip, then a
-// depth and fields in each line, parted by commas if the first of these lines holds one, else by blanks. A file that
-// is not there is told in a box. A file shorter than its header is failure 62.
+// Finds the values of general parameter n, in file or table order. A data file lies in the project folder: header lines
+// to skip, then a depth and fields in each line, parted by commas if the first of these lines holds one, else by
+// blanks. A file that is not there is told in a box. A file shorter than its header is failure 62.
 void findgeneralvalues(int n, GeneralValues& values);
 } // namespace VLOG

@@ -16,7 +16,7 @@ struct GraphAxis {
     float Power = 0, Decades = 0; // logarithmic: the power of ten at the origin, and how many more the axis holds
     double Decade = 0;            // logarithmic: inches for each of them
     bool Held = false;            // set by place when a number lies beyond an end
-    float place(double number);   // held within the axis
+    float place(double number);   // returns the number's place, held within the axis
     static GraphAxis linear(const LogParamSetup& setup);
     static GraphAxis logarithmic(const LogParamSetup& setup, double inches); // paramgraphs.cpp
 };
@@ -36,21 +36,30 @@ struct GraphCurve {
     int Count = 0;     // points since the curve began
 };
 
-// The axis of a linear graph, inches long: sets the x scale, and draws the ticks from the pen with their numbers and
-// grid lines. inward: the first number left, the last right aligned, so that both stay in the column.
+// Draws the axis of a linear graph, inches long: sets the x scale, and draws the ticks from the pen with their numbers
+// and grid lines. With inward the first number is left and the last right aligned, so that both stay in the column.
 void graphaxis(const LogParamSetup& setup, double inches, bool inward);
-float axisscale(const LogParamSetup& setup, double inches); // axis units in an inch
-int16_t axisticks(const LogParamSetup& setup);              // a count beyond 16 bits is failure 6
-void gridline(); // dotted, from the pen down the body and back; y scale 1 before and after
-// The band's lines right of and below a graph's heading, width wide; the pen ends on the baseline at the left edge.
+// Returns how many units of the axis lie on an inch.
+float axisscale(const LogParamSetup& setup, double inches);
+// Returns the number of ticks; one beyond 16 bits is failure 6.
+int16_t axisticks(const LogParamSetup& setup);
+// Draws a dotted line from the pen down the body and goes back; the y scale is 1 before and after.
+void gridline();
+// Draws the band's lines right of and below a graph's heading, width wide; the pen ends on the baseline at the left
+// edge.
 void headingband(double width);
-// The body's box; then the plot's origin, margin right of the left edge on the depth line. Leaves y scale DepthPerInch.
+// Draws the body's box and sets the plot's origin, margin right of the left edge on the depth line. Leaves y scale
+// DepthPerInch.
 void plotbody(double width, double margin);
-void curvepoint(GraphCurve& curve, float x, float y); // the first point by a move, the others by a line
-// A value as typed: one number, or value, low and high at commas, drawn as a dot with a bar, behind which the curve
+// Goes on with a curve: to its first point by a move, to the others by a line.
+void curvepoint(GraphCurve& curve, float x, float y);
+// Draws a value as typed: one number, or value, low and high at commas as a dot with a bar, behind which the curve
 // begins anew.
 void curvevalue(GraphCurve& curve, const Text& value, float y);
-float belowstart(double depth); // the y of a depth on the body
-float samplemiddle(int sample); // the y of the middle of a sample, as cut at the page's ends
-void endgraph(double right);    // scales 1, the pen to the column's right edge, so far right of the plot's origin
+// Returns the y of a depth on the body.
+float belowstart(double depth);
+// Returns the y of the middle of a sample, as it is cut at the page's ends.
+float samplemiddle(int sample);
+// Sets both scales to 1 and moves the pen to the column's right edge, so far right of the plot's origin.
+void endgraph(double right);
 } // namespace VLOG

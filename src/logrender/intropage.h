@@ -6,9 +6,9 @@ namespace VLOG
 {
 void vlogintrostart(); // the loop over the borings of log.mas, a page for each; introType is the arrangement
 void drawframeintro(); // starts the page: frame, date line, logo and client block
-void drawintromain();  // all that stands in the frame
-void drawintrowcon();  // the well construction block of arrangement 1, and of arrangement 2
+void drawintromain();  // draws all that stands in the frame
+void drawintrowcon();  // draws the well construction block of arrangement 1, and of arrangement 2
 void drawintrowcon2();
-void drawintromap(); // the project map of arrangement 1, and of arrangement 2
+void drawintromap(); // draws the project map of arrangement 1, and of arrangement 2
 void drawintromap2();
 } // namespace VLOG

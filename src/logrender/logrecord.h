@@ -114,6 +114,7 @@ struct LogGeometryRecord {
 };
 extern LogGeometryRecord LogGeometry;
 
-// Length of the depth range on the page, and height of the column lines from the top of the heading band; inches.
+// Return the length of the depth range on the page, and the height of the column lines from the top of the heading
+// band, both in inches.
 double DrawingLength();
 double ColumnHeight();

@@ -11,23 +11,23 @@ namespace VLOG
 constexpr double LinePitch = 0.12;  // inches a printed line takes
 constexpr double TextIndent = 0.05; // inches from the column's left edge to its text
 
-// A description column's heading, its legend if there is one, and its box; ColumnWidth is half the column. continued
-// says that a page that goes on from the one before has a dotted top line. Pen: from the baseline at the left edge;
-// leaves the origin at the left edge on the depth line, the y scale at DepthPerInch, 8 point, left aligned.
+// Draws a description column's heading, its legend if there is one, and its box; ColumnWidth is half the column. With
+// continued a page that goes on from the one before has a dotted top line. The pen comes from the baseline at the left
+// edge; the origin is left at the left edge on the depth line, the y scale at DepthPerInch, 8 point, left aligned.
 void descriptionbox(bool continued);
 
-// The end of a description column: line style 1, y scale 1, pen to the right edge on the baseline.
+// Ends a description column: line style 1, y scale 1, the pen at the right edge on the baseline.
 void enddescriptions();
 
-// Whether contact n, as an "@" line names it, is drawn on the page. The number is rounded and may be anything.
+// Returns whether contact n, as an "@" line names it, is drawn on the page. The number is rounded and may be anything.
 bool contactonpage(double n);
 
-// Pen to the column's left edge at a depth; leaves y scale 1. The origin is on the depth line.
+// Moves the pen to the column's left edge at a depth; leaves y scale 1. The origin is on the depth line.
 void movetodepth(float depth);
 
-// The well construction lines of the boring at the pen, 0.1 apart, a value so far right of its label.
+// Draws the well construction lines of the boring at the pen, 0.1 apart, a value so far right of its label.
 void wellrows(double offset);
 
-// A "-" line: whether its depth is on the page. If so the pen goes there, indented; leaves y scale 1.
+// Returns whether the depth of a "-" line is on the page. If so the pen goes there, indented; leaves y scale 1.
 bool depthplaced(const Text& line);
 } // namespace VLOG

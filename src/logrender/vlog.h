@@ -11,14 +11,14 @@
 namespace VLOG
 {
 // logrun.cpp
-void vlogstart(); // the loop over the pages of log.mas
+void vlogstart(); // draws the pages of log.mas, one after another
 // columns.cpp
-void processrepparts();             // the report part at ColumnNumber, by the table of all columns
-bool knowncolumn(const Text& name); // a report part's name, in upper case, stands in the table
+void processrepparts();             // draws the report part at ColumnNumber, by the table of all columns
+bool knowncolumn(const Text& name); // returns whether a report part's name, in upper case, stands in the table
 // frame.cpp, scale.cpp
 void drawframe();
-void framefont(); // the font of the set-up, 6 point, left aligned
-void dateline();  // the date and the boring's file, outside the frame
+void framefont(); // sets the font of the set-up, 6 point, left aligned
+void dateline();  // draws the date and the boring's file, outside the frame
 void drawscale();
 void drawelev();
 // lithology.cpp
@@ -34,7 +34,7 @@ struct Blow {
     float Depth; // of the middle of its part of the sample
     Text Value;
 };
-std::vector<Blow> blowsonpage(); // every blow count of the page, from the top
+std::vector<Blow> blowsonpage(); // returns every blow count of the page, from the top
 // descriptions.cpp; dotdescriptions.cpp, manualdescriptions.cpp, desclegend.cpp
 void ArrangeDescs();
 void drawdes();
@@ -66,7 +66,11 @@ void drawmpgraph();
 void drawgw();
 void drawwaterlevels();
 // narrowcolumn.cpp: what the narrow columns begin and end with.
-void turnedheading(double x, const Text& words);      // markorigin; 8 point, upward, from (x, 0.05)
-void narrowcolumn(double width, bool bodyBox = true); // lines of the heading band; the depth line as origin, y scale
-void endcolumn(double width);                         // y scale 1, pen to the right edge on the baseline
+// Marks the origin and draws a heading that reads upward from (x, 0.05), 8 point.
+void turnedheading(double x, const Text& words);
+// Draws the lines of the heading band and, with bodyBox, the box of the body; leaves the origin on the depth line and
+// the y scale at DepthPerInch.
+void narrowcolumn(double width, bool bodyBox = true);
+// Sets the y scale to 1 and moves the pen to the right edge on the baseline.
+void endcolumn(double width);
 } // namespace VLOG

@@ -24,26 +24,32 @@ enum WellCell {
     OtherDepth = 14
 };
 
-const Text& wellcell(int row);
-bool casingfilled(int casing);
-int casingsfilled();
-double stickup(); // above ground, in depth units
+const Text& wellcell(int row); // Returns the cell of the well in that row.
+bool casingfilled(int casing); // Returns whether that surface casing is there.
+int casingsfilled();           // Returns how many are.
+double stickup();              // Returns how far the well stands above ground, in depth units.
 
 // wellfills.cpp
-// The file number of the annulus's layer by its fill cell or its text, 0 after a failure; 500 and up: symbols.
+// Returns the file number of the annulus's layer by its fill cell or its text, 0 after a failure; 500 and up are
+// symbols.
 int16_t selectfill(int layer);
-int materialof(const Text& text); // the first of the material words that a text holds, wherever; 0 for none
-double findcenttype(Text& layer); // "CENT..., offset": cuts the text at its comma and gives the number, else 0
-double findscwidth(double depth, double t = 0); // see wellcasings.cpp
+// Returns the number of the first of the material words that a text holds, wherever; 0 for none.
+int materialof(const Text& text);
+// Cuts a text "CENT..., offset" at its comma and returns the offset; 0 for any other text.
+double findcenttype(Text& layer);
+// Returns the length that a leader line at a depth below the page's start needs to clear the casings; t is where it
+// begins, in steps of 0.1 inch.
+double findscwidth(double depth, double t = 0);
 // wellcasings.cpp
 void surfacecasings(bool large);
 void wellcover(bool large);
 // waterlevels.cpp
-void diamond(float r); // black about the pen, r to each corner in true inches; the pen is put back exactly
+void diamond(float r); // Draws it black about the pen, r to each corner in true inches; the pen is put back exactly.
 struct WaterMark {
     WellCell Cell;
     void (*Draw)(float);
 };
 extern const WaterMark waterMarks[3];
-bool wateronpage(const WaterMark& mark, double& depth); // depth below the page's start
+// Returns whether the mark's water level is on the page, and its depth below the page's start.
+bool wateronpage(const WaterMark& mark, double& depth);
 } // namespace VLOG

@@ -3,12 +3,13 @@
 
 #include "session/text.h"
 
-// Starts it, once; before the first page is painted and never earlier, since a run that only lists pages has no use
-// for it. It says nothing on standard error.
+// Starts the library, once; before the first page is painted and never earlier, since a run that only lists pages has
+// no use for it. It says nothing on standard error.
 void StartWithoutScreen();
 
-// Today, in the short form of the user's locale.
+// Returns today's date, in the short form of the user's locale.
 Text ShortDateOfLocale();
 
-// Where the user's programs keep their data, after the desktop's convention; asked without starting the library.
+// Returns where the user's programs keep their data, after the desktop's convention; asked without starting the
+// library.
 Text UserDataFolder();

@@ -11,21 +11,21 @@
 class PdfRun
 {
 public:
-    // mark: what the PDF says of itself, "" for nothing. Failures by number.
+    // Begins a PDF; mark is what it says of itself, "" for nothing. Failures by number.
     PdfRun(const Text& file, const Text& title, const Text& mark = "");
-    ~PdfRun();      // a run that was not closed leaves nothing
-    void AddPage(); // the page in hand. Failures by number; the page is there even so
-    void Close();   // failures by number
+    ~PdfRun();      // A run that was not closed leaves nothing.
+    void AddPage(); // Adds the page in hand. Failures by number; the page is there even so.
+    void Close();   // Lets the whole PDF take its place; failures by number.
 
 private:
     struct Body;
     std::unique_ptr<Body> body;
 };
 
-// The file is a PDF whose producer entry names this program.
+// Returns whether the file is a PDF whose producer entry names this program.
 bool WrittenByUs(const Text& file);
 
-// Where a PDF with that mark goes whose first page comes from source: beside it, with the ending ".pdf". Only a PDF of
-// this program with the very mark is replaced. What another program or another command wrote there, or the same command
-// from another file, is left alone; then a number is added, "B-1-2.pdf".
+// Returns where a PDF with that mark goes whose first page comes from source: beside it, with the ending ".pdf". Only a
+// PDF of this program with the very mark is replaced. What another program or another command wrote there, or the same
+// command from another file, is left alone; then a number is added, "B-1-2.pdf".
 Text PdfBeside(const Text& source, const Text& mark);

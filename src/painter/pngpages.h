@@ -3,6 +3,6 @@
 
 #include "session/text.h"
 
-// The whole paper, the printer's margin included. Failures by number; a picture or pattern that cannot be had is
+// Saves the whole paper, the printer's margin included. Failures by number; a picture or pattern that cannot be had is
 // told when the file is there.
 void SavePagePng(const Text& file, int dotsPerInch);

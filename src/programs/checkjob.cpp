@@ -33,11 +33,6 @@ static Text OneLine(Text words)
     return words;
 }
 
-static void Print(const Text& file, const Text& words)
-{
-    std::printf("%s\n", ToUtf8(OneLine(file + ": " + words)).c_str());
-}
-
 // The tool of a file by its ending; null for a boring and for a file of no tool.
 static ToolRecord* ToolOf(const Text& file)
 {
@@ -93,34 +88,45 @@ static void EnterProject(const Text& project, void (*enter)(const Text& project)
     enter(project);
 }
 
-bool RunChecks(const CommandLine& asked, void (*enter)(const Text& project))
+// One file, with the project it is in being the current one. False: it could not be read.
+static bool CheckFile(CheckRun& run, const Text& file)
+{
+    const Text name = AsGiven(file);
+    ToolRecord* const tool = ToolOf(file);
+    if (const Text words = Unreadable(file, tool); !words.empty()) {
+        run.Print(OneLine(name + ": Error: " + words));
+        run.Good = false;
+        return false;
+    }
+    const CheckList list = ListForProject(tool ? tool->Check() : CheckBoring(), run.Asked.All);
+    for (const CheckEntry& entry : list.Entries) {
+        const CheckWeight weight = WeightOf(entry);
+        const Text place = PlaceInWords(entry);
+        run.Print(
+            OneLine(name + ": " + Text(WeightWord(weight)) + ": " + (place.empty() ? "" : place + ": ") + entry.Words));
+        run.Good = run.Good && weight != CheckWeight::Error;
+    }
+    run.Hidden += list.Hidden;
+    return true;
+}
+
+void RunChecks(CheckRun& run)
 {
     Platform.MsgBox = Tell;
-    bool good = true, entered = false;
-    int hidden = 0;
+    bool entered = false;
     Text inFolder;
-    for (const Text& file : asked.Files) {
-        const Text folder = FolderName(file), name = AsGiven(file);
-        if (!entered || (asked.Project.empty() && folder != inFolder))
-            EnterProject(folder, enter);
+    for (const Text& file : run.Asked.Files) {
+        const Text folder = FolderName(file);
+        if (!entered || (run.Asked.Project.empty() && folder != inFolder))
+            EnterProject(folder, run.Enter);
         entered = true;
         inFolder = folder;
-        ToolRecord* const tool = ToolOf(file);
-        if (const Text words = Unreadable(file, tool); !words.empty()) {
-            Print(name, "Error: " + words);
-            good = false;
-            continue;
-        }
-        const CheckList list = ListForProject(tool ? tool->Check() : CheckBoring(), asked.All);
-        for (const CheckEntry& entry : list.Entries) {
-            const CheckWeight weight = WeightOf(entry);
-            const Text place = PlaceInWords(entry);
-            Print(name, Text(WeightWord(weight)) + ": " + (place.empty() ? "" : place + ": ") + entry.Words);
-            good = good && weight != CheckWeight::Error;
-        }
-        hidden += list.Hidden;
+        run.Done(run, CheckFile(run, file));
     }
+}
+
+void PrintHidden(int hidden)
+{
     if (hidden > 0)
         std::printf("%s (--all shows them).\n", ToUtf8(HiddenInWords(hidden)).c_str());
-    return good;
 }

@@ -3,6 +3,16 @@
 
 #include "programs/commandline.h"
 
-// Prints a line for each entry, "file: Error: place: words", file by file. enter makes a project the current one, with
-// its set-up. True when none of them is an error; a file that cannot be read is one.
-bool RunChecks(const CommandLine& asked, void (*enter)(const Text& project));
+struct CheckRun {
+    const CommandLine& Asked;
+    void (*Enter)(const Text& project);     // makes a project the current one, with its set-up
+    void (*Print)(const Text& line);        // takes a line of the list
+    void (*Done)(CheckRun& run, bool read); // a file is done; read: it is in the boxes
+    int Hidden = 0;                         // entries that the projects have switched off
+    bool Good = true;                       // none so far is an error; a file that cannot be read is one
+};
+
+// Lists each entry of the files, "file: Error: place: words", file by file.
+void RunChecks(CheckRun& run);
+// Prints how many entries the projects have switched off, if there are any.
+void PrintHidden(int hidden);

@@ -8,9 +8,9 @@
 
 // The jobs that draw the pages of files take the options of a log. --page has no effect where a file has one page.
 static constexpr char LogOptions[] = "--home DIR;--project DIR;--page N;--date TEXT;--pdf FILE;--png DIR;--dpi N;"
-                                     "--dxf DIR;--list FILE";
+                                     "--dxf DIR;--list FILE;--jobs N";
 static constexpr char IntroOptions[] = "--type 1|2;--home DIR;--project DIR;--page N;--date TEXT;--pdf FILE;--png DIR;"
-                                       "--dpi N;--dxf DIR;--list FILE";
+                                       "--dpi N;--dxf DIR;--list FILE;--jobs N";
 static constexpr char GuideOptions[] = "--home DIR;--pdf FILE;--png DIR;--dpi N;--list FILE";
 
 static constexpr BatchJob Jobs[] = {
@@ -28,26 +28,29 @@ static constexpr BatchJob Jobs[] = {
      "converts the GTGS text tables of a folder, a boring file for each boring", BatchWork::ConvertsTables},
     {"convert-general", NoJob, 0, "--name NAME;--home DIR;--project DIR", "[DIR]",
      "converts one boring of GTGS text tables by a map", BatchWork::ConvertsByMap, "--map FILE.GCV"},
-    {"convert-prt", PrtJob, 0, "--home DIR", "FILE.PRT...",
+    {"convert-prt", PrtJob, 0, "--home DIR;--jobs N", "FILE.PRT...",
      "converts GTGS print files, each to a boring file beside it", BatchWork::Converts},
-    {"convert-log", WinLogJob, 0, "--template FILE.BOR;--home DIR", "FILE.LOG...",
+    {"convert-log", WinLogJob, 0, "--template FILE.BOR;--home DIR;--jobs N", "FILE.LOG...",
      "converts WinLog files, each to a boring file beside it", BatchWork::Converts},
     {"export-irpims", IrpimsJob, 0, "--home DIR", "FILE.BOR...", "writes the three IRPIMS tables of saved borings",
      BatchWork::Converts, "--out DIR"},
-    {"check", NoJob, 0, "--all;--home DIR;--project DIR", "FILE...",
+    {"check", NoJob, 0, "--all;--home DIR;--project DIR;--jobs N", "FILE...",
      "lists what a reviewer would flag in borings, sections, fences, soil tables and GIS files", BatchWork::Checks},
 };
 
-static constexpr int SmallestDpi = 10, LargestDpi = 1200;
+static constexpr int SmallestDpi = 10, LargestDpi = 1200, MostJobs = 256;
 
 namespace
 {
 struct Option {
     const char* name;
-    Text CommandLine::*text; // where its word goes; --dpi and --type are numbers
+    Text CommandLine::*text; // where its word goes; --dpi, --type and --jobs are numbers
     bool path;
 };
 } // namespace
+
+// What a run gives the processes that do its shares: "2/4:FOLDER". Not for users, and in no help.
+static constexpr char ShareOption[] = "--share";
 
 static constexpr char AllOption[] = "--all"; // it has no word
 
@@ -69,6 +72,7 @@ static constexpr Option Options[] = {
     {"--template", &CommandLine::Template, true},
     {"--out", &CommandLine::Out, true},
     {"--name", &CommandLine::Name, false},
+    {"--jobs", nullptr, false},
 };
 
 // Whether the option stands in a list of them.
@@ -131,11 +135,24 @@ static bool IsNumber(const std::string& word)
            std::all_of(word.begin(), word.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
+static std::string TakeShare(CommandLine& line, const std::string& word)
+{
+    const size_t of = std::min(word.find('/'), word.size()), folder = std::min(word.find(':'), word.size());
+    const std::string share = word.substr(0, of), all = of < folder ? word.substr(of + 1, folder - of - 1) : "";
+    line.Share = IsNumber(share) ? std::stoi(share) : 0;
+    line.Of = IsNumber(all) ? std::stoi(all) : 0;
+    line.ShareFolder = folder < word.size() ? FullPath(FromUtf8(word.substr(folder + 1))) : Text();
+    const bool good = line.Share >= 1 && line.Share <= line.Of && !line.ShareFolder.empty();
+    return good ? "" : "no share of a run: " + word;
+}
+
 // The option at the front of the words, with its word; what is wrong with it, "" for nothing.
 static std::string TakeOption(CommandLine& line, const std::string& name, const std::string* word)
 {
     const auto option =
         std::find_if(std::begin(Options), std::end(Options), [&](const Option& o) { return o.name == name; });
+    if (name == ShareOption && word && Knows(*line.Job, "--jobs"))
+        return TakeShare(line, *word);
     if (option == std::end(Options) || !Knows(*line.Job, name))
         return std::string("unknown option for ") + line.Job->Name + ": " + name;
     if (!word || word->empty())
@@ -144,6 +161,12 @@ static std::string TakeOption(CommandLine& line, const std::string& name, const 
         line.Dpi = IsNumber(*word) ? std::stoi(*word) : 0;
         if (line.Dpi < SmallestDpi || line.Dpi > LargestDpi)
             return "--dpi takes a number from 10 to 1200, not " + *word;
+        return "";
+    }
+    if (name == "--jobs") {
+        line.Jobs = IsNumber(*word) ? std::stoi(*word) : 0;
+        if (line.Jobs < 1 || line.Jobs > MostJobs)
+            return "--jobs takes a number from 1 to 256, not " + *word;
         return "";
     }
     if (name == "--type") {
@@ -263,6 +286,8 @@ std::string UsageText()
         "  --template FILE  the boring that gives prompts, report parts, layout and\n"
         "                   set-ups\n"
         "  --out DIR        the folder of the tables that are written\n"
+        "  --jobs N         at most N processes at once for a run of many files (1); with\n"
+        "                   --pdf one draws all\n"
         "  --all            also what the project has switched off\n"
         "Messages go to standard error, one line each. The exit status is 0 when all was done and no message but one\n"
         "that says so appeared, 1 when another appeared, and 2 for a wrong command line. A check lists on standard "

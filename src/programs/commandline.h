@@ -31,6 +31,9 @@ struct CommandLine {
     bool DateGiven = false;
     bool All = false; // --all
     int Dpi = 150;
+    int Jobs = 0;            // processes; 0: as many as pay
+    int Share = 0, Of = 0;   // this process does share 2 of 4; 0: all
+    Text ShareFolder;        // where it leaves what it has made
     std::vector<Text> Files; // full paths
 };
 

@@ -14,8 +14,8 @@ public:
     explicit OutputNames(Text word) : job(std::move(word))
     {
     }
-    // The name of the next page, which comes from that file. With a number of its own (page 2 of the log, drawn alone)
-    // it has that one, and "-2" behind it where two files have the same name; without (0) pages count on.
+    // Returns the name of the next page, which comes from that file. With a number of its own (page 2 of the log, drawn
+    // alone) it has that one, and "-2" behind it where two files have the same name; without (0) pages count on.
     Text Next(const Text& source, int number = 0);
 
 private:

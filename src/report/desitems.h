@@ -9,14 +9,14 @@
 
 constexpr int MaxDesItems = 50;
 
-// The file of the set-up, or else desitem.txt, into frmBorinput::List; with neither the lists stay. They are filled
-// only when all four blocks have been read.
+// Reads the file of the set-up, or else desitem.txt, into frmBorinput::List; with neither the lists stay. They are
+// filled only when all four blocks have been read.
 void loaddeslists();
 
 // The editor of the lists.
 namespace frmDesItems
 {
 extern Slots<Text, 4> Box; // a list each, an item a line, CR LF line ends
-void Load();               // the lists into the boxes
-bool Command1();           // OK: the boxes into the file and the lists; true when the window closes
+void Load();               // Puts the lists into the boxes.
+bool Command1();           // OK: takes the boxes into the file and the lists; returns true when the window closes.
 } // namespace frmDesItems

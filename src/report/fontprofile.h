@@ -8,7 +8,7 @@
 #include "session/slots.h"
 #include "session/text.h"
 
-// Six lines: the font, then text adjustments 1 to 5 as integers.
+// A profile, whose file has six lines: the font, then text adjustments 1 to 5 as integers.
 struct FontProfile {
     Text FontName;
     Slots<int16_t, 5> TextAdjust;
@@ -16,8 +16,8 @@ struct FontProfile {
 FontProfile ReadProfile(const Text& name); // failures by number
 void WriteProfile(const Text& name, const FontProfile& profile);
 
-// DeviceConfig.FontName, "Arial" if it is empty, to every box whose text reaches the drawings: a line that wraps on
-// the screen is the same line on paper.
+// Gives DeviceConfig.FontName, "Arial" if it is empty, to every box whose text reaches the drawings: a line that wraps
+// on the screen is the same line on paper.
 void AssignFont();
 
 // Copies the files that an office has made its own (logo, project list, description items, headings, layouts, logo
@@ -45,7 +45,7 @@ struct Record {
 extern Record Dialog;
 extern Grid SSMainFilePath; // the seven system files
 
-void Load();
+void Load();     // Fills the boxes from DeviceConfig.
 void Command1(); // OK: the boxes take effect, and device.cfg is written
 void Command3(); // Printer Set-Up
 void Command4(); // Choose Font: takes effect on the adjustments at once

@@ -30,13 +30,15 @@ namespace frmHeading
 extern Grid SSLog, SSSections, SSGraphics;
 }
 
-// DialogResult into HeadingTable and the grids. A file of the old form, which had the legends inside, is told in a
-// box and has the words that it knew in their slots. One that breaks off leaves what was read of it, there and there.
+// Reads the file DialogResult into HeadingTable and the grids. A file of the old form, which had the legends inside, is
+// told in a box, and the words that it knew come into their slots. A file that breaks off leaves what was read of it in
+// the table and in the grids.
 void OpenHeadingFile();
-// The grids into HeadingTable, keywords (slots 31 to 39) in upper case, and that to DialogResult. Refused with a box
-// while 6 or more of slots 1 to 20 are empty in the table as last read.
+// Takes the grids into HeadingTable, keywords (slots 31 to 39) in upper case, and writes that to DialogResult. It is
+// refused with a box while 6 or more of slots 1 to 20 are empty in the table as last read.
 void SaveHeadingFile();
 
-// The renderers' reader: kind 1 the log, 2 cross sections and fences, 3 soil tables. Box "Heading File Not Found:  "
-// or the one for the old form; then logo.txt (not behind the old form).
+// Reads the words of a run into HeadingWords: kind 1 is the log, 2 cross sections and fences, 3 soil tables. A missing
+// file is told in the box "Heading File Not Found:  ", one of the old form in a box of its own. Then it reads logo.txt
+// into LogoData, but not behind the old form.
 void getclientlogo(int kind);

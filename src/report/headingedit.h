@@ -7,9 +7,9 @@
 namespace frmHeading
 {
 extern Text Title;
-void Load(); // nothing is open: an empty table and empty grids
+void Load(); // Empties the table and the grids: nothing is open.
 void mnuOpen();
-// The file is the one in DialogResult, so any chooser that is shown in between changes where Save writes.
+// Saves to the file in DialogResult, so any chooser that is shown in between changes where Save writes.
 void mnuSave();
 void mnuSaveAs();
 } // namespace frmHeading
@@ -25,6 +25,6 @@ struct Record {
     Slots<Slots<Text, 4>, 2> Line; // of the text legends
 };
 extern Record Dialog;
-void Load();     // from HeadingTable
-bool Command1(); // OK: into HeadingTable; false: more than two are checked, and the window stays
+void Load();     // Fills the boxes from HeadingTable.
+bool Command1(); // OK: takes them into HeadingTable; false where more than two are checked, and the window stays.
 } // namespace frmDescLegend

@@ -10,6 +10,7 @@ struct LayoutRecord {
 };
 extern LayoutRecord LayoutData;
 
-// 13 lines into LayoutData. Failures by number; what was read stays then, and nothing of a layout before.
+// Reads a layout, 13 lines, into LayoutData. Failures by number; what was read stays then, and nothing of a layout
+// before.
 void ReadLayoutFile(const Text& name);
-void SaveLayoutFile(); // LayoutData to DialogResult
+void SaveLayoutFile(); // Writes LayoutData to the file DialogResult.

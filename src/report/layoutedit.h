@@ -19,24 +19,24 @@ struct TilePoint {
 extern Slots<TilePoint, 12> Tile; // by title block code
 extern Text Title;
 
-// The places of an orientation, 0 portrait, 1 landscape, any other tabloid.
+// Return the columns and the rows of the places of an orientation: 0 portrait, 1 landscape, any other tabloid.
 const std::vector<int>& ColumnsOf(int orientation);
 const std::vector<int>& RowsOf(int orientation);
 const char* TileName(int code);
 
-void Load(); // as New
+void Load(); // Begins as New does.
 void mnuNew();
 void mnuOpen();
-// The file is the one in DialogResult, so any chooser that is shown in between changes where Save writes.
+// Saves to the file in DialogResult, so any chooser that is shown in between changes where Save writes.
 void mnuSave();
 void mnuSaveAs();
 void ChooseOrientation(int orientation);
-// A tile let go at a point: near a place it snaps there and takes it in LayoutData, elsewhere it leaves the layout.
+// Lets a tile go at a point: near a place it snaps there and takes it in LayoutData, elsewhere it leaves the layout.
 void DropTile(int code, int x, int y);
-// By the keyboard: to the neighbouring place. From beside the page the step to the right enters the first column; the
-// step to the left out of the first column leaves the layout.
+// Moves a tile to the neighbouring place, for the keyboard. From beside the page the step to the right enters the first
+// column; the step to the left out of the first column leaves the layout.
 void StepTile(int code, int right, int down);
-void TakeOutTile(int code); // back beside the page, out of the layout
+void TakeOutTile(int code); // Puts it back beside the page, out of the layout.
 bool InLayout(int code);
-void mnuExit(); // behind the closing: the log tool's list of layouts may have a new one
+void mnuExit(); // Looks up the log tool's list of layouts anew, behind the closing: it may have a new one.
 } // namespace frmLayout

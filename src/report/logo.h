@@ -14,6 +14,6 @@ struct Record {
 };
 extern Record Dialog;
 
-void Load();     // from logo.txt, as far as it has lines; a missing file is failure 53
-void Command1(); // OK: logo.txt is written
+void Load();     // Fills the boxes from logo.txt, as far as it has lines; a missing file is failure 53.
+void Command1(); // OK: writes logo.txt.
 } // namespace frmLogo

@@ -11,6 +11,6 @@
 // The folder of the open boring while a copy of it is drawn elsewhere, as the live page does; "" at all other times.
 extern Text SourceFolder;
 
-// The path to use: the first place where the file is, else the last one of a layout and the first one of a map.
+// Return the path to use: the first place where the file is, else the last place of a layout and the first of a map.
 Text LayoutPath(const Text& name, const Text& boring);
 Text MapPath(const Text& name, const Text& boring);

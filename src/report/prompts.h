@@ -17,12 +17,12 @@ extern int16_t PromptForce;                           // 1: the next LoadPrompts
 // The labels that LoadPrompts has set. Titles and headings of the log tool's grids stand in their records too.
 extern Slots<std::optional<Text>, MaxPrompts> PromptSlot;
 
-// The label that a window shows for a slot: its own one by design until LoadPrompts sets another.
+// Returns the label that a window shows for a slot: its own one by design until LoadPrompts sets another.
 Text PromptLabel(int slot, const Text& design);
 
-// prompt.txt of the working folder into PromptTable, and each label that differs from its default, or all of them where
-// PromptForce is 1, to its window. Clears PromptForce. Failures by number: the file belongs to an installation, and
-// without it there is no start.
+// Reads prompt.txt of the working folder into PromptTable, and gives each label that differs from its default, or all
+// of them where PromptForce is 1, to its window. Clears PromptForce. Failures by number: the file belongs to an
+// installation, and without it there is no start.
 void LoadPrompts();
 
 // The editor of prompt.txt.
@@ -30,8 +30,8 @@ namespace frmPrompt
 {
 extern Grid SS1;     // default text, new text
 extern bool Changed; // a cell has been typed in since the last reading or writing
-void Load();         // prompt.txt into the grid
-void mnuSave();      // the grid into prompt.txt, and the labels into the windows
-void mnuRevert();    // the same with the defaults in the place of the new texts, for every label
-bool mnuExit();      // asks if there are changes; false: the user stays
+void Load();         // Reads prompt.txt into the grid.
+void mnuSave();      // Writes the grid into prompt.txt, and gives the labels to the windows.
+void mnuRevert();    // Does the same with the defaults in the place of the new texts, for every label.
+bool mnuExit();      // Asks if there are changes; returns false where the user stays.
 } // namespace frmPrompt

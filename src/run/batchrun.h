@@ -45,10 +45,11 @@ extern void (*IntroPages)();
 // The dialog's boxes. File1 holds the names of the folder Dir1; Selected those that are marked.
 namespace frmDrawPrint
 {
+constexpr int MostFiles = 10000;
 struct Record {
     Text Title, Filter, Label, Dir1;
-    Slots<Text, 10000> File1;
-    Slots<bool, 10000> Selected;
+    Slots<Text, MostFiles> File1;
+    Slots<bool, MostFiles> Selected;
     int FileCount = 0;
     bool SelectAll = false;   // Option1 is checked
     bool ReportChoice = true; // Frame2 and Frame3 are there

@@ -21,11 +21,12 @@ struct RunMessagesRecord {
 };
 extern RunMessagesRecord RunMessages;
 
-// Whether a box may offer the list: one that asks nothing and tells of something wrong, in a run of several files.
+// Returns whether a box may offer the list: one that asks nothing and tells of something wrong, in a run of several
+// files.
 bool OffersList(Buttons buttons, Icon icon);
-// The words of a box into the list, where messages are collected. False: the box is to be shown.
+// Puts the words of a box into the list, where messages are collected. Returns false where the box is to be shown.
 bool CollectMessage(const Text& words, Buttons buttons, Icon icon);
-// The list as lines of text, for the clipboard: file, page and words between tabs.
+// Returns the list as lines of text, for the clipboard: file, page and words between tabs.
 Text RunMessagesText();
 
 // A run of so many files, as long as it lives. At its end the list is shown, if there is one.

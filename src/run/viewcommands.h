@@ -3,13 +3,13 @@
 
 #include "session/text.h"
 
-// Print: the notice, then the page that is shown. It stays on the screen, unchanged.
+// Prints the page that is shown, behind the notice. It stays on the screen, unchanged.
 void PrintShownPage();
 
-// Export to PDF: every page of the run that is on the screen, drawn anew from its file, in one PDF beside the source
-// file. The page on the screen, the place in the run and what one page leaves behind for the next stay as they are.
+// Exports every page of the run that is on the screen, drawn anew from its file, to one PDF beside the source file. The
+// page on the screen, the place in the run and what one page leaves behind for the next stay as they are.
 void ExportPdf();
 
-// Where the page on the screen stands, "Page 2 of 5", and the file that it comes from. The guide has neither.
+// Return where the page on the screen stands, "Page 2 of 5", and the file that it comes from. The guide has neither.
 Text ShownPlace();
 Text ShownFile();

@@ -149,8 +149,6 @@ static TableLookedAt LookTable(const Text& path)
     if (!FileExists(path))
         return nullptr;
     const Hushed quiet;
-    const Kept table(GisData);
-    const Kept failures(FailuresReported);
     const int before = FailuresReported;
     OpenGISFile(path);
     if (FailuresReported != before)
@@ -180,7 +178,7 @@ bool VCROSS::HasThickness(const GisRecord& table, int row, int k)
 {
     if (row == 0)
         return false;
-    const auto& cells = table.layerCells.slot[size_t(row)].slot;
+    const auto& cells = table.layerCells[row].slot;
     const Text cell = UpperCase(Trim(cells[size_t(k)]));
     if (cell.empty() || cell.starts_with('X'))
         return false;

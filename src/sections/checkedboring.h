@@ -42,30 +42,30 @@ struct CheckedBoring {
     Slots<Slots<Text, 9>, SampleParams> SampleSetup;
     Slots<Slots<Text, 8>, GenParams> GenSetup;
 
-    double Ground() const
+    double Ground() const // returns the elevation of the ground
     {
         return RefElevation - StickUp;
     }
-    double Depth() const // of all that is drawn of it
+    double Depth() const // returns the depth of all that is drawn of it
     {
         return BoreDepth > Deepest ? BoreDepth : Deepest;
     }
-    bool Whole() const
+    bool Whole() const // returns whether the file has this program's form and was read to its end
     {
         return Current && Failure == 0;
     }
 };
 
-// The boring behind a path that a drawing would open; never null.
 using BoringLookedAt = std::shared_ptr<const CheckedBoring>;
+// Returns the boring behind a path that a drawing would open; never null.
 BoringLookedAt LookAtBoring(const Text& path);
 
-// The layer table behind a path, ".gis" behind a name with no ".", the file names in it as sections look them up; null
-// for one that cannot be read whole.
 using TableLookedAt = std::shared_ptr<const GisRecord>;
+// Returns the layer table behind a path, with the file names in it as sections look them up; null for one that cannot
+// be read whole. A name with no "." gets ".gis" behind it.
 TableLookedAt LookAtTable(const Text& path);
-// The row of a boring's file in it; 0 for none.
+// Returns the row of a boring's file in the table; 0 for none.
 int RowInTable(const GisRecord& table, const Text& boringFile);
-// Whether layer k is there at the boring of a row; false for row 0.
+// Returns whether layer k is there at the boring of a row; false for row 0.
 bool HasThickness(const GisRecord& table, int row, int k);
 } // namespace VCROSS

@@ -139,7 +139,7 @@ void SectionCheck::PlaceByTable()
     if (!TheTable)
         return;
     const auto number = [&](const Placed& boring, int column) {
-        return TextNumber(TheTable->boringCells.slot[size_t(boring.TableRow)].slot[size_t(column)]);
+        return TextNumber(TheTable->boringCells[boring.TableRow].slot[size_t(column)]);
     };
     double px = 0, py = 0, before = 0;
     for (Placed& boring : Borings) {

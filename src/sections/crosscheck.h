@@ -4,6 +4,7 @@
 
 #include "tools/checkentry.h"
 
-// Borings and files that are not found, distances out of order, scales, borings beyond the frame, codes that draw
-// blank, fills that the legend lacks, and cells that are not read as they look. A form with nothing in it has no entry.
+// Returns what it flags: borings and files that are not found, distances out of order, scales, borings beyond the
+// frame, codes that draw blank, fills that the legend lacks, and cells that are not read as they look. A form with
+// nothing in it has no entry.
 std::vector<CheckEntry> CheckSection();

@@ -18,9 +18,9 @@ Grid SS1(CrossRecord::FormBorings, 5), SS2(CrossRecord::Scales, 1), SS3(CrossRec
 } // namespace frmCross
 
 static const SharedRecord shared[] = {
-    {"CrossData", Kind::Document, CrossData},         {"frmCross::FileName", Kind::Document, frmCross::FileName},
-    {"frmCross::SS1", Kind::Document, frmCross::SS1}, {"frmCross::SS2", Kind::Document, frmCross::SS2},
-    {"frmCross::SS3", Kind::Document, frmCross::SS3}, {"frmCross::SS4", Kind::Document, frmCross::SS4},
+    {"CrossData", Kind::Document, CrossData},      {"frmCross::FileName", Kind::Document, frmCross::FileName},
+    {"frmCross::SS1", Kind::Boxes, frmCross::SS1}, {"frmCross::SS2", Kind::Boxes, frmCross::SS2},
+    {"frmCross::SS3", Kind::Boxes, frmCross::SS3}, {"frmCross::SS4", Kind::Boxes, frmCross::SS4},
 };
 
 // ---------------------------------------------------------------------------------------------------- reading

@@ -40,10 +40,12 @@ extern Grid SS4;      // legend, 8 rows of 2
 } // namespace frmCross
 
 // All work on frmCross::FileName. None asks a question or touches the changed flag.
-void OpenCrossFile(); // the file into CrossData, which is emptied first; a short file leaves what was read
-// The boxes into CrossData, and that into the file. A distance beyond the end of the horizontal scale is told, once,
-// and saved. False: nothing was written, and the report has told why.
+// Reads the file into CrossData, which is emptied first; a short file leaves what was read.
+void OpenCrossFile();
+// Takes the boxes into CrossData and writes that into the file. A distance beyond the end of the horizontal scale is
+// told, once, and saved. Returns false where nothing was written; the report has told why.
 bool SaveCrossFile();
-// All cells, also those that the form does not show: what one section had there is not saved with the next.
+// Empties all cells, also those that the form does not show: what one section had there is not saved with the next.
 void ClearCrossArrays();
-void FillCrossForm(); // CrossData into the boxes, and the form's title by FileName
+// Puts CrossData into the boxes, and sets the form's title by FileName.
+void FillCrossForm();

@@ -7,7 +7,6 @@
 #include "sections/crosscheck.h"
 #include "sections/crossrun.h"
 #include "session/shared.h"
-#include "tools/hush.h"
 
 // Cells of a boring that no column shows: label offset, second label, azimuth, inclination.
 static constexpr int firstHidden = 6, lastHidden = 9, hiddenCells = lastHidden - firstHidden + 1;
@@ -47,14 +46,6 @@ void frmCross::LabelBoxes()
     SS1.putBeside = PutHiddenCells;
 }
 
-static void Undisturbed(const std::function<void()>& work)
-{
-    const Kept form(CrossData);
-    const Kept section(VCROSS::CrossRun);
-    const Kept table(GisData); // a section reads the file that it names into it
-    work();
-}
-
 static Text State()
 {
     return CountOf(frmCross::SS1.DataRowCount(), "boring", "borings");
@@ -76,7 +67,6 @@ ToolRecord CrossForm = {
     .ClearArrays = ClearCrossArrays,
     .FillForm = FillCrossForm,
     .Label = frmCross::LabelBoxes,
-    .Undisturbed = Undisturbed,
     .State = State,
     .Check = CheckSection,
 };

@@ -8,7 +8,7 @@ extern ToolRecord CrossForm;
 
 namespace frmCross
 {
-void LabelBoxes(); // those by design, or those that the prompts have set
+void LabelBoxes(); // Sets the labels: those by design, or those that the prompts have set.
 
 inline constexpr auto mnuNew = OfTool<CrossForm, ToolNew>;
 inline constexpr auto mnuOpen = OfTool<CrossForm, ToolOpen>;

@@ -10,7 +10,7 @@
 #include "sections/sectionboring.h"
 #include "sections/sheetcheck.h"
 #include "session/session.h"
-#include "tools/hush.h"
+#include "session/shared.h"
 
 #include <algorithm>
 #include <cmath>
@@ -154,7 +154,7 @@ void FenceCheck::ReadRow(int row)
     if (TheTable)
         stake.TableRow = RowInTable(*TheTable, BoringFileOf(stake.Name));
     if (stake.TableRow != 0) {
-        const auto& cells = TheTable->boringCells.slot[size_t(stake.TableRow)].slot;
+        const auto& cells = TheTable->boringCells[stake.TableRow].slot;
         stake.X = TextNumber(cells[GisX]);
         stake.Y = TextNumber(cells[GisY]);
         stake.Ground = TextNumber(cells[GisElevation]);
@@ -350,9 +350,7 @@ static void EachFill(int a, int b, Use used)
 
 void FenceCheck::CodeFills()
 {
-    const Kept run(CrossRun);
-    const Kept fence(FenceRun);
-    const Kept fill(LayerFill);
+    const KeepAll run{Kind::Run};
     ResetCrossRun();
     for (int row = 1; row <= FenceRecord::Borings; ++row) {
         const Stake& stake = Stakes[size_t(row)];

@@ -4,7 +4,7 @@
 
 #include "tools/checkentry.h"
 
-// Borings and files that are not found, panels that are not drawn, stakes beyond the base plane or the sheet, scales,
-// codes that draw blank, fills that the legend lacks, and cells that are not read as they look. A form with nothing in
-// it has no entry.
+// Returns what it flags: borings and files that are not found, panels that are not drawn, stakes beyond the base plane
+// or the sheet, scales, codes that draw blank, fills that the legend lacks, and cells that are not read as they look. A
+// form with nothing in it has no entry.
 std::vector<CheckEntry> CheckFence();

@@ -15,10 +15,10 @@ Grid SS1(FenceRecord::Borings, 6), SS2(FenceRecord::Scales, 1), SS3(FenceRecord:
 } // namespace frmFence
 
 static const SharedRecord shared[] = {
-    {"FenceData", Kind::Document, FenceData},         {"frmFence::FileName", Kind::Document, frmFence::FileName},
-    {"frmFence::SS1", Kind::Document, frmFence::SS1}, {"frmFence::SS2", Kind::Document, frmFence::SS2},
-    {"frmFence::SS3", Kind::Document, frmFence::SS3}, {"frmFence::SS4", Kind::Document, frmFence::SS4},
-    {"frmFence::SS5", Kind::Document, frmFence::SS5},
+    {"FenceData", Kind::Document, FenceData},      {"frmFence::FileName", Kind::Document, frmFence::FileName},
+    {"frmFence::SS1", Kind::Boxes, frmFence::SS1}, {"frmFence::SS2", Kind::Boxes, frmFence::SS2},
+    {"frmFence::SS3", Kind::Boxes, frmFence::SS3}, {"frmFence::SS4", Kind::Boxes, frmFence::SS4},
+    {"frmFence::SS5", Kind::Boxes, frmFence::SS5},
 };
 
 // The first pieces of a line, a cell each; the last cell takes all that is left, commas too.

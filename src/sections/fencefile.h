@@ -34,7 +34,11 @@ extern Grid SS5;      // sections, 20 rows
 } // namespace frmFence
 
 // All four work on frmFence::FileName, and none asks a question or touches the changed flag.
-void OpenFenceFile();    // the file into FenceData, whose cells are emptied first; a short file leaves what was read
-void SaveFenceFile();    // the boxes into FenceData, and that into the file; no value is checked
-void ClearFenceArrays(); // all cells
-void FillFenceForm();    // FenceData into the boxes, and the window's title
+// Reads the file into FenceData, whose cells are emptied first; a short file leaves what was read.
+void OpenFenceFile();
+// Takes the boxes into FenceData and writes that into the file; no value is checked.
+void SaveFenceFile();
+// Empties all cells.
+void ClearFenceArrays();
+// Puts FenceData into the boxes, and sets the window's title.
+void FillFenceForm();

@@ -38,8 +38,9 @@ struct FenceRunRecord {
 extern FenceRunRecord FenceRun;
 void ResetFenceRun(); // as at the start of the program
 
-// A row of the file without a boring's name is an empty slot: no stake, no panel and no word about it.
+// Returns whether slot i has a boring. A row of the file without a boring's name is an empty slot: no stake, no panel
+// and no word about it.
 bool HasBoring(int i);
-// Units of the base plane to an inch.
+// Returns the units of the base plane to an inch.
 float BaseScale();
 } // namespace VCROSS

@@ -9,13 +9,16 @@ namespace VCROSS
 // fencerun.cpp
 void vfencestart(); // draws every file of log.mas
 // fencedata.cpp
-bool getfencedata(); // the current file of the run into both records; false: it is not there, and a box has told so
+// Reads the current file of the run into FenceRun and CrossRun. Returns false where it is not there, and a box has told
+// so.
+bool getfencedata();
 // fencedraw.cpp
 void drawfenceframe();
 void drawfenceborings();
 void drawwaterlevelfence();
 // fencelayers.cpp
-void fenceorigin(); // of stakes and panels: both scales 1, the pen at the level of vStart above the base's origin
+// Sets the origin of stakes and panels: both scales 1, the pen at the level of vStart above the base's origin.
+void fenceorigin();
 void fillfencelayers();
 void fillfenceGIS();
 } // namespace VCROSS

@@ -7,7 +7,6 @@
 #include "sections/fencecheck.h"
 #include "sections/fencerun.h"
 #include "session/shared.h"
-#include "tools/hush.h"
 
 void frmFence::LabelBoxes()
 {
@@ -19,16 +18,6 @@ void frmFence::LabelBoxes()
                "Page Size (L/T)", "GIS File"});
     LabelGrid(SS4, 178, "Legend", 179, {"USCS/Color", "Text"});
     LabelGrid(SS5, 181, "Sections", 182, {"Bor. #1, Bor. #2"});
-}
-
-// A fence is drawn from the section's record too, and from the table of the GIS file that it names.
-static void Undisturbed(const std::function<void()>& work)
-{
-    const Kept form(FenceData);
-    const Kept section(VCROSS::CrossRun);
-    const Kept fence(VCROSS::FenceRun);
-    const Kept table(GisData);
-    work();
 }
 
 static Text State()
@@ -53,7 +42,6 @@ ToolRecord FenceForm = {
     .ClearArrays = ClearFenceArrays,
     .FillForm = FillFenceForm,
     .Label = frmFence::LabelBoxes,
-    .Undisturbed = Undisturbed,
     .State = State,
     .Check = CheckFence,
 };

@@ -8,7 +8,7 @@ extern ToolRecord FenceForm;
 
 namespace frmFence
 {
-void LabelBoxes(); // those by design, or those that the prompts have set
+void LabelBoxes(); // Sets the labels: those by design, or those that the prompts have set.
 
 inline constexpr auto mnuNew = OfTool<FenceForm, ToolNew>;
 inline constexpr auto mnuOpen = OfTool<FenceForm, ToolOpen>;

@@ -10,12 +10,13 @@
 
 namespace VCROSS
 {
-// The file names of GisData as borings are looked up by them: ".BOR" behind a name with no ".", upper case.
+// Spells the file names of GisData as borings are looked up by them: ".BOR" behind a name with no ".", upper case.
 void spellgisnames();
-int gisrowof(const Text& boringFile); // the first row with that name, letter for letter; 0 without one
+// Returns the first row with that name, letter for letter; 0 without one.
+int gisrowof(const Text& boringFile);
 
-// The polygon of layer k between the pair in LayerFill. False: neither side has a thickness.
+// Builds the polygon of layer k between the pair in LayerFill. Returns false where neither side has a thickness.
 bool setgispoints(int k);
-// All layers between the pair, each in its pattern or colour. False when the user has stopped the fill.
+// Fills all layers between the pair, each in its pattern or colour. Returns false when the user has stopped the fill.
 bool fillgislayers();
 } // namespace VCROSS

@@ -29,27 +29,29 @@ struct LayerFillRecord {
 };
 extern LayerFillRecord LayerFill;
 
-// Heights of the contacts above and below a layer of a boring whose ground is so high.
+// Return the heights of the contacts above and below a layer of a boring whose ground is so high.
 float contacttop(float ground, int boring, int layer);
 float contactbottom(float ground, int boring, int layer);
 
-// What comes next in the pair: one shape, or two of which the second is a lens on the first. height tells where the
-// bottom of a layer lies, for the comparison. Failure 9 where a look ahead leaves the tables.
+// Returns what comes next in the pair: one shape, or two of which the second is a lens on the first. height tells where
+// the bottom of a layer lies, for the comparison. A look ahead that leaves the tables is failure 9.
 std::string_view chooseshapes(float (*height)(int boring, int layer));
 // Builds the polygon of a shape, "B" to "J", and moves the two layers of the pair on.
 void setlayerpoints(char shape);
 
 void setcorner(int n, float x, float y);
-void closecorners(int n); // corner n is the first once more, and the last
-void walkcorners();       // the polygon built last on the page; a closing call has to follow
-// The polygon built last in the pattern of the layer that it is built for, closed by polyfill or polyfillwhite.
+void closecorners(int n); // Makes corner n the first once more, and the last.
+void walkcorners();       // Goes round the polygon built last, on the page; a closing call has to follow.
+// Draws the polygon built last in the pattern of the layer that it is built for, closed by polyfill or polyfillwhite.
 void filllayer(void (*close)());
 
-// A turn for the window system between two polygons. True when the user has asked to stop, once for each request.
+// Gives the window system a turn between two polygons. Returns true when the user has asked to stop, once for each
+// request.
 bool fillstopped();
 
-// crosslayers.cpp, fencelayers.cpp: the pair of borings (i, i + 1) of a section, or (a, b) of a fence, from their first
-// layers on; and the polygon of a shape in it. Shape "A", for the last boring of a section, looks at no right boring.
+// crosslayers.cpp, fencelayers.cpp: they start the pair of borings (i, i + 1) of a section, or (a, b) of a fence, from
+// their first layers on, and build the polygon of a shape in it. Shape "A", for the last boring of a section, looks at
+// no right boring.
 void startcrosspair(int i);
 void setcrosspoints(char shape);
 void startfencepair(int a, int b);

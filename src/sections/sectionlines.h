@@ -5,10 +5,11 @@
 #include "session/slots.h"
 #include "session/text.h"
 
-// The three numbers of a scale, a line each, joined by commas as their cell shows them.
+// Reads the three numbers of a scale, a line each, and returns them joined by commas as their cell shows them.
 Text ReadScaleCell(LineReader& in);
-void WriteScaleCell(LineWriter& out, const Text& cell); // trimmed; a cell without a comma is written 0, 1000, 100
+// Writes the three numbers of a cell, trimmed, a line each; a cell without a comma is written 0, 1000, 100.
+void WriteScaleCell(LineWriter& out, const Text& cell);
 
-// A legend row "code;text", in older files "code,text".
+// Read and write a legend row "code;text", which in older files is "code,text".
 void ReadLegendRow(LineReader& in, Slots<Text, 2>& row);
 void WriteLegendRow(LineWriter& out, const Slots<Text, 2>& row);

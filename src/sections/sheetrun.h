@@ -4,10 +4,11 @@
 
 namespace VCROSS
 {
-// Reads, draws and shows or prints each file in turn, RunPages.pageFile being its name. words: which heading words the
-// pages print (getclientlogo). read is false for a file that is not there; it has no page, and the run goes on.
+// Reads, draws and shows or prints each file in turn, RunPages.pageFile being its name. words tells which heading words
+// the pages print (getclientlogo). read returns false for a file that is not there; it has no page, and the run goes
+// on.
 void RunSheets(int words, bool (*read)(), void (*draw)());
 
-// Whether RunPages.pageFile is there; else its box is shown.
+// Returns whether RunPages.pageFile is there; else its box is shown.
 bool DefinitionThere();
 } // namespace VCROSS

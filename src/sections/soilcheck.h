@@ -4,7 +4,7 @@
 
 #include "tools/checkentry.h"
 
-// A boring that is not found, numbers that are no parameter, columns without values or beyond the page, bars without a
-// full scale, rows beyond the depth scale or on one another, codes that draw blank, too many notes. A form with nothing
-// in it has no entry.
+// Returns what it flags: a boring that is not found, numbers that are no parameter, columns without values or beyond
+// the page, bars without a full scale, rows beyond the depth scale or on one another, codes that draw blank, too many
+// notes. A form with nothing in it has no entry.
 std::vector<CheckEntry> CheckSoilTable();

@@ -18,7 +18,7 @@ Text frmSoil::FileName;
 
 static const SharedRecord shared[] = {
     {"SoilData", Kind::Document, SoilData},
-    {"frmSoil::SS1", Kind::Document, frmSoil::SS1},
+    {"frmSoil::SS1", Kind::Boxes, frmSoil::SS1},
     {"frmSoil::FileName", Kind::Document, frmSoil::FileName},
 };
 

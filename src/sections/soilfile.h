@@ -31,21 +31,22 @@ struct SoilRecord {
 };
 extern SoilRecord SoilData;
 
-void OpenSoilFile(); // frmSoil::FileName into SoilData, which is emptied first
-// Takes the boxes, then writes frmSoil::FileName. False: too many notes, or a failure; a box has told which, and
-// nothing was written.
+void OpenSoilFile(); // Reads frmSoil::FileName into SoilData, which is emptied first.
+// Takes the boxes, then writes frmSoil::FileName. Returns false after too many notes or a failure; a box has told
+// which, and nothing was written.
 bool SaveSoilFile();
 void ClearSoilArrays();
-void FillSoilForm(); // SoilData into the boxes, and the title by FileName. Leaves FileChanged as it is
+// Puts SoilData into the boxes, and sets the title by FileName. Leaves FileChanged as it is.
+void FillSoilForm();
 
 // The boxes of the soil tool; MemoSoil and Title stand elsewhere.
 namespace frmSoil
 {
 extern Grid SS1;      // "Report Information": a row for each cell
 extern Text FileName; // the open .SOI file; empty: it was never saved
-void LabelBoxes();    // the grid's labels: those by design, or those that the prompts have set
-void SizeMemo();      // the notes box by its adjustment, as at the opening of the window
-// The buttons that make the notes box narrower and wider by 50 twips, without a limit.
+void LabelBoxes();    // sets the grid's labels: those by design, or those that the prompts have set
+void SizeMemo();      // sizes the notes box by its adjustment, as at the opening of the window
+// Make the notes box narrower and wider by 50 twips, by its two buttons, without a limit.
 void cmdAdj5();
 void cmdAdj6();
 } // namespace frmSoil

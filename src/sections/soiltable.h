@@ -37,8 +37,9 @@ struct SoilRunRecord {
 };
 extern SoilRunRecord SoilRun;
 
-void vsoilstart();    // draws every file of log.mas
-bool getsoildata();   // RunPages.pageFile and its boring into SoilRun; false: it is not there, and a box has told so
-void drawsoilframe(); // the head and the foot of the page
-void drawsoilmain();  // the log of the boring and the table
+void vsoilstart(); // draws every file of log.mas
+// Reads RunPages.pageFile and its boring into SoilRun. Returns false where it is not there, and a box has told so.
+bool getsoildata();
+void drawsoilframe(); // draws the head and the foot of the page
+void drawsoilmain();  // draws the log of the boring and the table
 } // namespace VCROSS

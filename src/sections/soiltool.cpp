@@ -4,13 +4,6 @@
 #include "run/batchrun.h"
 #include "sections/soilcheck.h"
 #include "session/shared.h"
-#include "tools/hush.h"
-
-static void Undisturbed(const std::function<void()>& work)
-{
-    const Kept form(SoilData);
-    work();
-}
 
 static Text State()
 {
@@ -38,7 +31,6 @@ ToolRecord SoilForm = {
             frmSoil::LabelBoxes();
             frmSoil::SizeMemo();
         },
-    .Undisturbed = Undisturbed,
     .State = State,
     .Check = CheckSoilTable,
 };

@@ -19,9 +19,9 @@ struct DeviceRecord {
 };
 extern DeviceRecord DeviceConfig;
 
-// Steps 2 and 3 of the start: reads device.cfg, or writes it and says so; replaces a project folder that cannot be
-// written by the working folder; fills what is empty; writes the file anew.
+// Reads device.cfg at the start of a program, or writes it where there is none, and says so. A project folder that
+// cannot be written gives way to the working folder, and what is empty is filled in; then the file is written anew.
 void LoadDevice();
-void SaveDevice();         // rewrites device.cfg, clears DeviceChanged
-void SplitMarginOffsets(); // MarginOffsets into MarginX and MarginY; without a comma 0, 0
-void DefaultSystemFiles(); // those that are empty
+void SaveDevice();         // Rewrites device.cfg, and clears DeviceChanged.
+void SplitMarginOffsets(); // Puts MarginOffsets into MarginX and MarginY; without a comma they are 0.
+void DefaultSystemFiles(); // Gives each system file that has no name its default one.

@@ -27,7 +27,7 @@ int FailureInHand()
 int FailuresReported = 0;
 
 static const SharedRecord shared[] = {
-    {"FailuresReported", Kind::Machine, FailuresReported},
+    {"FailuresReported", Kind::Document, FailuresReported},
 };
 
 void ReportFailure(const char* procedure)

@@ -27,16 +27,16 @@ struct RunTimeError {
     int Number;
 };
 
-// The number of the failure that is being handled; call it inside a catch block only. What the standard
+// Returns the number of the failure that is being handled; call it inside a catch block only. What the standard
 // library throws has its number too, so that nothing passes unnamed.
 int FailureInHand();
 
-// The end of every procedure of the shared modules, as a function-try-block:
+// Tells the failure that is being handled. Every procedure of the shared modules ends so, as a function-try-block:
 //     catch (...) { ReportFailure(__func__); }
-// Shows "Error" + number + " in " + procedure + ".  Please contact Norvane" (OK only, no icon) and returns; the
+// The box says "Error" + number + " in " + procedure + ".  Please contact Norvane" (OK only, no icon). Behind it the
 // caller goes on as if the procedure had succeeded.
 void ReportFailure(const char* procedure);
-extern int FailuresReported; // so many reports since the start: how a caller that must know learns of one
+extern int FailuresReported; // counts the reports that the user has seen: so a caller that must know learns of one
 
 // Raises the failure that the operating system's error number stands for. folderThere tells, for a missing
 // file, whether its folder exists.

@@ -23,41 +23,60 @@ char Separator();       // between the folders of a path, as users of this syste
 bool HasDriveLetters(); // disks are called "a:\\" and the like
 bool Exists(const std::string& path);
 bool IsFolder(const std::string& path);
-bool Readable(const std::string& path); // by this user; a folder too
+// Return whether this user may read it, or write it; a folder too.
+bool Readable(const std::string& path);
 bool Writable(const std::string& path);
-bool SameFile(const std::string& a, const std::string& b); // both are there, and are one file, links followed
+// Returns whether both are there and are one file, links followed.
+bool SameFile(const std::string& a, const std::string& b);
 FileState StateOf(const std::string& path);
 
-// Changes whenever an entry of the folder is added, removed or renamed; 0 for no folder, or for one that has changed
-// within the last second, when a further change might not show.
+// Returns a number that changes whenever an entry of the folder is added, removed or renamed; 0 for no folder, or for
+// one that has changed within the last second, when a further change might not show.
 int64_t FolderStamp(const std::string& folder);
-std::vector<std::string> Entries(const std::string& folder); // names of files and folders, unsorted; empty if unread
+// Returns the names of the files and folders in it, unsorted; none where the folder cannot be read.
+std::vector<std::string> Entries(const std::string& folder);
 
-// The file that a link stands for, so that a save goes through the link and does not replace it. The path itself where
-// nothing is there.
+// Returns the file that a link stands for, so that a save goes through the link and does not replace it; the path
+// itself where nothing is there.
 std::string BehindLinks(const std::string& path);
 
-// Reads the whole file into bytes. A folder is EACCES.
+// Reads the whole file into bytes. For a folder the error is EACCES.
 int Read(const std::string& path, std::string& bytes);
-// Writes a file that is not there yet, which is gone again after an error. like: a file whose rights it is to have, or
-// "". flushed: the bytes are on the disk when this returns.
+// Writes a file that is not there yet, and that is gone again after an error. It gets the rights of the file `like`, if
+// that is not "". With flushed the bytes are on the disk when this returns.
 int WriteNew(const std::string& path, std::string_view bytes, const std::string& like, bool flushed);
-// Moves a file over another one in one step: at every moment the old or the new one is there. flushed: the move is on
-// the disk too when this returns, where the system can tell.
+// Moves a file over another one in one step: at every moment the old or the new one is there. With flushed the move is
+// on the disk too when this returns, where the system can tell.
 int Replace(const std::string& from, const std::string& to, bool flushed);
-int Flush(int handle); // an open file's bytes to the disk
+int Flush(int handle); // Brings the bytes of an open file to the disk.
 void Remove(const std::string& path);
-// Writes and removes a small file: the only test of a folder that counts on every kind of disk.
+// Returns whether a small file could be written there and removed: the only test of a folder that counts on every kind
+// of disk.
 bool ProbeFolder(const std::string& folder);
-void KeepPrivate(const std::string& folder); // for this user alone from now on
+// Lets no other user into the folder from now on.
+void KeepPrivate(const std::string& folder);
 
-// A lock that the system drops with the program, however it ends. -1: it is held elsewhere, or cannot be opened.
+// Returns a lock on the file, which the system drops with the program, however it ends; -1 where the lock is held
+// elsewhere or the file cannot be opened. With make the file is made where it is not there.
 int Lock(const std::string& path, bool make);
 void Unlock(int lock);
 
 int ProcessNumber();
-std::string CurrentFolder(); // "" where it cannot be told
-std::string ProgramFolder(); // of the program that runs; "" where it cannot be told
-// Makes a new folder for this user alone, for files of passing use. Its path, or "" with the error.
+std::string CurrentFolder(); // Returns the current folder, "" where it cannot be told.
+std::string ProgramFolder(); // Returns the folder of the program that runs, "" where it cannot be told.
+// Makes a new folder for this user alone, for files of passing use. Returns its path, or "" with the error.
 std::string MakePrivateFolder(int& error);
+
+// Starts the program that runs once more, with these words behind its name, in the same folder and with the same
+// standard files. Returns the number of the process, or -1 with the error.
+int StartWorker(const std::vector<std::string>& words, int& error);
+// Waits until one of these processes, which StartWorker has started, ends. Returns its number, with its exit status or
+// -1 where it was killed; or -1 where the user has interrupted the wait.
+int AwaitWorker(const std::vector<int>& processes, int& status);
+void KillWorker(int process); // ends it at once; AwaitWorker has not returned it yet
+int StartedBy();              // the number of the process that has started this one, or of its heir
+// While on, a user's interrupt (Ctrl-C, or the request of the system to end) is noted and ends nothing.
+void NoteInterrupts(bool on);
+bool Interrupted();      // one has been noted
+void EndAsInterrupted(); // ends the program as an interrupt would that is not noted
 } // namespace Machine

@@ -1,16 +1,21 @@
 // machine_posix.cpp -- the calls of a POSIX system.
 #include "session/machine.h"
 
+#include "session/shared.h"
+
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
 #include <filesystem>
+#include <spawn.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace
@@ -249,4 +254,89 @@ std::string Machine::MakePrivateFolder(int& error)
     std::string name = std::filesystem::temp_directory_path().string() + "/stratavue-XXXXXX";
     error = ::mkdtemp(name.data()) ? 0 : errno;
     return error == 0 ? name : "";
+}
+
+int Machine::StartWorker(const std::vector<std::string>& words, int& error)
+{
+    std::string name = "stratavue-batch";
+    std::vector<std::string> copies = words;
+    std::vector<char*> pointers = {name.data()};
+    for (std::string& word : copies)
+        pointers.push_back(word.data());
+    pointers.push_back(nullptr);
+    pid_t process = -1;
+    // The link leads to the very program that runs, also where another one has been installed in its place.
+    error = ::posix_spawn(&process, "/proc/self/exe", nullptr, nullptr, pointers.data(), environ);
+    return error == 0 ? process : -1;
+}
+
+static std::sig_atomic_t interruptNoted = 0; // the number of the signal
+
+static const SharedRecord shared[] = {
+    {"interruptNoted", Kind::Machine, interruptNoted},
+};
+
+// The note as a signal may write it at any moment.
+static volatile std::sig_atomic_t& InterruptNoted()
+{
+    return interruptNoted;
+}
+
+int Machine::AwaitWorker(const std::vector<int>& processes, int& status)
+{
+    // In small steps, so that no interrupt falls between a look at the note and the wait.
+    while (!Interrupted()) {
+        for (const int process : processes) {
+            int told = 0;
+            if (::waitpid(process, &told, WNOHANG) == process) {
+                status = WIFEXITED(told) ? WEXITSTATUS(told) : -1;
+                return process;
+            }
+        }
+        const timespec step = {0, 2'000'000};
+        ::nanosleep(&step, nullptr);
+    }
+    return -1;
+}
+
+void Machine::KillWorker(int process)
+{
+    ::kill(process, SIGKILL);
+    while (::waitpid(process, nullptr, 0) < 0 && errno == EINTR) {
+    }
+}
+
+int Machine::StartedBy()
+{
+    return ::getppid();
+}
+
+static void NoteSignal(int number)
+{
+    InterruptNoted() = number;
+}
+
+void Machine::NoteInterrupts(bool on)
+{
+    struct sigaction action = {};
+    action.sa_handler = on ? NoteSignal : SIG_DFL;
+    ::sigemptyset(&action.sa_mask);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP}) {
+        struct sigaction before = {};
+        // One that is ignored (under nohup) stays so.
+        if (::sigaction(number, nullptr, &before) == 0 && before.sa_handler != SIG_IGN)
+            ::sigaction(number, &action, nullptr);
+    }
+}
+
+bool Machine::Interrupted()
+{
+    return InterruptNoted() != 0;
+}
+
+void Machine::EndAsInterrupted()
+{
+    const int number = Interrupted() ? InterruptNoted() : SIGTERM;
+    ::signal(number, SIG_DFL);
+    ::raise(number);
 }

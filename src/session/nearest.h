@@ -4,9 +4,9 @@
 
 #include "session/text.h"
 
-// The letters that stand for a character: itself where the code page has it, the nearest where that lacks it ("<=" for
-// the sign of less or equal, the bare letter for one with a foreign mark), none for a sign without a width, and "?"
-// where nothing is near.
+// Returns the letters that stand for a character: itself where the code page has it, the nearest where that lacks it
+// ("<=" for the sign of less or equal, the bare letter for one with a foreign mark), none for a sign without a width,
+// and "?" where nothing is near.
 Text NearestInCodePage(char32_t letter);
 
 struct NearestText {
@@ -16,13 +16,13 @@ struct NearestText {
     Text first;       // what stands for the first of them
 };
 
-// A whole text by its nearest letters. A letter and the mark behind it are one where the code page has them as one; a
-// fraction behind a digit has a blank before it, a power of ten a "^".
+// Returns a whole text by its nearest letters. A letter and the mark behind it are one where the code page has them as
+// one; a fraction behind a digit has a blank before it, a power of ten a "^".
 NearestText NearestOf(std::string_view utf8);
 
-// One sentence for the status line about what was replaced, empty if nothing was.
+// Returns one sentence for the status line about what was replaced, empty if nothing was.
 Text ReplacementWords(const NearestText& nearest);
 
-// The same with the characters themselves, which no Text can hold, in UTF-8: each once, what became of it, and after
-// the first few how many there are more.
+// Returns words in UTF-8 about what was replaced in a text, with the characters themselves, which no Text can hold:
+// each once, what became of it, and after the first few how many there are more.
 std::string ReplacedCharacters(std::string_view utf8);

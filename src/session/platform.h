@@ -1,4 +1,5 @@
-// platform.h -- all that the logic asks of the machine.
+// platform.h -- all that the logic asks of the window system. What it asks of the machine's own system, files and the
+// process, stands in session/machine.h.
 //
 // The record of procedures is filled in once, at the start of a program: by windows/desktop.cpp and
 // programs/stratavue-batch.cpp for the two programs, by plain/plain.cpp for the tests. Every procedure is always there.
@@ -19,8 +20,8 @@ struct Sheet {
     float WidthInches = 0, HeightInches = 0, WidthUnits = 0, HeightUnits = 0;
 };
 
-// The page of a machine with no printer: letter, or 11 by 17 inches landscape, less a quarter inch on each side, at 600
-// units to the inch. mode as for PrinterSheet.
+// Returns the page of a machine with no printer: letter, or 11 by 17 inches landscape, less a quarter inch on each
+// side, at 600 units to the inch. mode is as for PrinterSheet.
 Sheet DefaultSheet(char mode);
 
 struct PlatformRecord {

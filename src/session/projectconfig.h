@@ -12,17 +12,18 @@
 
 #include <vector>
 
-// The value of the key as it stands on disk now; the fallback where no line has the key.
+// Returns the value of the key as it stands on disk now; the fallback where no line has the key.
 Text ProjectSetting(const Text& key, const Text& fallback = "");
 
 // Writes the value into the line that counts, or into a new one at the end; all other lines, the unknown ones too, stay
-// byte for byte. It is always the project's own file that is written: one without its own gets a copy of the working
-// folder's, so that no other project changes. False: the file could not be written, and a box has told so.
+// byte for byte. It is always the project's own file that is written: a project without one gets a copy of the working
+// folder's, so that no other project changes. Returns false where the file could not be written, and a box has told so.
 bool SetProjectSetting(const Text& key, const Text& value);
 
-// A value that is a list, "a, b, c": its parts without blanks around them, empty ones left out; and back.
+// Returns the parts of a value that is a list, "a, b, c", without blanks around them and without empty ones.
 std::vector<Text> SettingList(const Text& value);
+// Returns the parts as such a value.
 Text ListSetting(const std::vector<Text>& parts);
 
-// The file that the settings are read from; "" where there is none.
+// Returns the name of the file that the settings are read from; "" where there is none.
 Text ProjectConfigFile();

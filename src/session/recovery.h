@@ -20,35 +20,36 @@ constexpr int MaxRecoveryTools = 5;
 struct RecoveryTool {
     Text Name;                      // as in the title of its window
     const Text* FileName = nullptr; // the name of its open document; empty: it was never saved
-    // What Save would write, into this file, with no check, message or change of any state.
+    // Writes what Save would write into this file, with no check, message or change of any state.
     void (*Write)(const Text& copy) = nullptr;
-    // The copy into the boxes, with the document's own name and FileChanged 1.
+    // Takes the copy into the boxes, with the document's own name and FileChanged 1.
     void (*Open)(const Text& copy, const Text& name) = nullptr;
 };
 extern Slots<RecoveryTool, MaxRecoveryTools> RecoveryTools; // filled by the start of the desktop program
 extern int RecoveryInterval;                                // milliseconds between two copies
 
-// This run of the program begins: folder is made if need be, and its lock taken. Where that fails there are no copies.
+// Begins the copies of this run of the program: makes the folder if need be and takes its lock. Where that fails there
+// are no copies.
 void StartRecovery(const Text& folder);
-// The tool in front: FileChanged speaks of its document from now on.
+// Says which tool is in front: FileChanged speaks of its document from now on.
 void WatchTool(int tool);
-// To be called again and again, some ten times in an interval: writes the copy when it is time to, and takes it away
-// when FileChanged has become 0 with no save that failed.
+// Writes the copy when it is time to, and takes it away when FileChanged has become 0 with no save that failed. To be
+// called again and again, some ten times in an interval.
 void KeepCopy();
-// A save of the tool in front. The copy goes if the file has been written, else it is made anew and stays.
+// Performs a save of the tool in front. The copy goes if the file has been written, else it is made anew and stays.
 void SaveDocument(void (*save)());
-// The user wished to save and it did not come to it: the copy is made anew and stays, as after a save that failed.
+// Makes the copy anew, to stay as after a save that failed: the user wished to save, and it did not come to it.
 void OweCopy();
-// The last save of the document in front has failed or was refused, and none has written it since.
+// Returns whether the last save of the document in front has failed or was refused, and none has written it since.
 bool SaveOwed();
-// The user has dropped the changes: the answer No.
+// Takes the copy away: the user has dropped the changes, by the answer No.
 void DropCopy();
-// Another document comes into the tool's boxes, or its window closes. The copy of a document whose save failed is left
-// for the next start.
+// Ends the copies of the document in front, since another one comes into the tool's boxes or its window closes. The
+// copy of a document whose save failed is left for the next start.
 void LeaveDocument();
-// At the start: asks about what other runs have left, newest first, until the user has opened one. No takes the copy
+// Asks at the start about what other runs have left, newest first, until the user has opened one. No takes the copy
 // away; Cancel, which is also Escape and the closing of the box, keeps it for the next start, and a tool that is not
 // there keeps its copies.
 void OfferCopies();
-// The clean end.
+// Ends the run cleanly: its copies and its lock go, but for copies of documents whose save failed.
 void EndRecovery();

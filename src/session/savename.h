@@ -3,7 +3,7 @@
 
 #include "session/text.h"
 
-// The name with the ending, ".BOR" for one, where its last part has no ".".
+// Returns the name with the ending, ".BOR" for example, behind it where its last part has no ".".
 Text WithEnding(const Text& name, const char* ending);
-// True when there is no such file, or when the user says in a box that it may be overwritten.
+// Returns true when there is no such file, or when the user says in a box that it may be overwritten.
 bool MayReplace(const Text& name);

@@ -17,10 +17,15 @@ Text WorkingFolder = ".";
 Text RunFolder = ".";
 
 static const SharedRecord shared[] = {
-    {"ProjectPath", Kind::Session, ProjectPath},  {"BoringFileName", Kind::Document, BoringFileName},
-    {"FileChanged", Kind::Document, FileChanged}, {"DeviceChanged", Kind::Session, DeviceChanged},
-    {"ActiveBox", Kind::Window, ActiveBox},       {"DialogMode", Kind::Window, DialogMode},
-    {"DialogResult", Kind::Window, DialogResult}, {"LineBuffer", Kind::Run, LineBuffer},
-    {"LineCount", Kind::Run, LineCount},          {"WorkingFolder", Kind::Session, WorkingFolder},
+    {"ProjectPath", Kind::Session, ProjectPath},
+    {"BoringFileName", Kind::Document, BoringFileName},
+    {"FileChanged", Kind::Document, FileChanged},
+    {"DeviceChanged", Kind::Session, DeviceChanged},
+    {"ActiveBox", Kind::Window, ActiveBox},
+    {"DialogMode", Kind::Document, DialogMode},
+    {"DialogResult", Kind::Document, DialogResult},
+    {"LineBuffer", Kind::Document, LineBuffer},
+    {"LineCount", Kind::Document, LineCount},
+    {"WorkingFolder", Kind::Session, WorkingFolder},
     {"RunFolder", Kind::Run, RunFolder},
 };

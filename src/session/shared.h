@@ -16,7 +16,8 @@
 
 enum class Kind {
     Session,  // goes on from the start of the program to its end
-    Document, // is part of what is open: its records, its boxes, its name
+    Document, // is part of what is open, or written by a step of its opening and saving: its records, its name
+    Boxes,    // stands in the boxes of what is open, and in its title: a save reads it and writes none of it
     Run,      // is written by a run of pages, a conversion or a step of them
     Window,   // stands in a window while it is open
     Machine   // belongs to this process and nobody puts it back: the seam, pictures in memory, counts that only grow
@@ -34,7 +35,7 @@ public:
     SharedRecord(const SharedRecord&) = delete;
     SharedRecord& operator=(const SharedRecord&) = delete;
 
-    // A copy of the record as it is now, and the ways to put it into the record and to drop it.
+    // Returns a copy of the record as it is now, for Put, GiveBack and Drop.
     void* Copy() const
     {
         return copy(record);
@@ -107,12 +108,12 @@ const std::vector<const SharedRecord*>& SharedRecords();
 class KeptRecords
 {
 public:
-    explicit KeptRecords(std::initializer_list<Kind> kinds);
+    KeptRecords(std::initializer_list<Kind> kinds);
     ~KeptRecords();
     KeptRecords(const KeptRecords&) = delete;
     KeptRecords& operator=(const KeptRecords&) = delete;
-    void PutBack() const;  // any number of times
-    void GiveBack() const; // once, and the quicker way
+    void PutBack() const;  // Puts the copies into the records; any number of times.
+    void GiveBack() const; // Moves the copies into the records: once, and quicker.
 
 private:
     struct KeptRecord {
@@ -122,12 +123,12 @@ private:
     std::vector<KeptRecord> records;
 };
 
-// All records of a kind are put back at the end of the scope: for a run in the midst of another one, and for one that
+// Puts all records of the kinds back at the end of the scope: for a run in the midst of another one, and for what
 // nobody is to notice. What is written on the disk meanwhile is the caller's to put back.
 class KeepAll
 {
 public:
-    explicit KeepAll(Kind kind) : records({kind})
+    KeepAll(std::initializer_list<Kind> kinds) : records(kinds)
     {
     }
     ~KeepAll()

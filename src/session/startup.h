@@ -9,13 +9,15 @@
 
 extern Text HelpFile; // what the help viewer is given
 
-// What the desktop program answers on standard output instead of starting, by the words of its command line; "" where
-// it is to start.
+// Returns what the desktop program answers on standard output instead of starting, by the words of its command line; ""
+// where it is to start.
 std::string ShellAnswer(const std::vector<std::string>& words);
-// The title box, the log window, the title box again as a blocking window, and the treatment of a first start.
+// Starts the program: shows the title box, the log window, and the title box again as a blocking window; then it treats
+// a first start.
 void Main();
-// The loading of the title box: the folder of the executable becomes the working folder. That of an installed program
-// is the user's, which is given its stock files.
+// Loads the title box, by which the folder of the executable becomes the working folder. The working folder of an
+// installed program is the user's, which is given its stock files.
 void LoadTitleBox();
-// On a first start, which is one without first.txt in the working folder: writes it, and welcomes the user.
+// Writes first.txt into the working folder and welcomes the user, where that file is not there: then it is a first
+// start.
 void checkiffirst();

@@ -8,10 +8,10 @@
 
 #include "session/text.h"
 
-bool Installed();
-Text StockFolder(); // of this program: beside it, or of its installation
-Text UserFolder();  // "Stratavue" in the user's data folder; need not be there
-Text HomeFolder();  // the working folder of the desktop program
+bool Installed();   // Returns whether this is an installed program.
+Text StockFolder(); // Returns the folder of its stock files: beside it, or that of its installation.
+Text UserFolder();  // Returns "Stratavue" in the user's data folder; it need not be there.
+Text HomeFolder();  // Returns the working folder of the desktop program.
 
 // Gives the working folder each stock file that it was never given, and notes it in stock.lst there. So a later version
 // adds what is new in it, overwrites nothing of the user's, and brings back nothing that the user has deleted.

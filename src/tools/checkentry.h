@@ -27,7 +27,7 @@ struct CheckEntry {
     const char* Kind = "";        // the key of its kind, which tells its weight
 };
 
-// Every kind, in the order of the menu.
+// Returns every kind, in the order of the menu.
 const std::vector<CheckKind>& CheckKinds();
 
 // Returns the weight of the entry's kind. An entry whose key is in no list is a mistake of ours: a warning.

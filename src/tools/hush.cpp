@@ -14,3 +14,8 @@ Hushed::Hushed()
     Platform.Breathe = [] {};
     Platform.Unattended = true;
 }
+
+Hushed::~Hushed()
+{
+    document.PutBack();
+}

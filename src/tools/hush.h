@@ -3,14 +3,18 @@
 
 #include "session/kept.h"
 #include "session/platform.h"
-#include "session/session.h"
+#include "session/shared.h"
 
-// As long as it lives the seam to the machine shows nothing and answers what loses nothing; the session variables that
-// a save writes are put back behind it. The document's record and name are the caller's to keep.
+// As long as a Hushed lives, the seam to the window system shows nothing and answers what loses nothing; behind it all
+// that a save or an opening of a file writes is put back. For a run, KeepAll{Kind::Run} beside it puts back what that
+// writes.
+//
+// It may come in the midst of a run, by the timer of the recovery copies. What the run holds on to stays where it is:
+// a record that nothing has changed is put back in place.
 struct Hushed {
     Hushed();
+    ~Hushed();
 
     const Kept<PlatformRecord> platform{Platform};
-    const Kept<int16_t> changed{FileChanged}, deviceChanged{DeviceChanged}, mode{DialogMode}, lineCount{LineCount};
-    const Kept<Slots<Text, MaxLineBuffer>> lines{LineBuffer};
+    const KeptRecords document{Kind::Document};
 };

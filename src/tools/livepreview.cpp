@@ -48,7 +48,7 @@ static void TakeLogPage()
 
 namespace
 {
-// A run that nobody is to notice: what a run writes is put back too.
+// A run that nobody is to notice.
 struct QuietRun {
     QuietRun(const Text& folder, const Text& name, void (*takePage)(), LivePage& fresh)
     {
@@ -57,10 +57,6 @@ struct QuietRun {
         RunFolder = folder;
         frmDrawPrint::CloseWindow = nullptr;
         drawn = &fresh;
-    }
-    ~QuietRun()
-    {
-        drawn = nullptr;
     }
     // The file that the boxes have been saved in, drawn as the job's only one.
     void Draw(int16_t job, const Text& file)
@@ -132,17 +128,15 @@ bool DrawLivePage(int number, const Text& folder, LivePage& page)
 {
     LivePage fresh;
     QuietRun run(folder, BoringFileName, TakeLogPage, fresh);
-    const Kept name(BoringFileName);
-    const Kept record(BoringData);
-    const Kept source(SourceFolder);
-    SourceFolder = FolderName(BoringFileName);
+    const Text own = BoringFileName;
+    SourceFolder = FolderName(own);
     BoringFileName = FreshFile(folder, ".BOR");
     SaveBoringFile();
     if (!FileExists(BoringFileName)) // more lines than a boring holds
         return false;
     const Text file = BoringFileName;
     if (FileChanged == 0)
-        TakeOwnFile(*name.before, file, folder);
+        TakeOwnFile(own, file, folder);
     fresh.Pages = PagesOfLog();
     fresh.Page = std::clamp(number, 1, std::max(fresh.Pages, 1));
     frmDrawPrint::Dialog.AllPages = false;
@@ -161,12 +155,9 @@ bool DrawLiveTool(ToolRecord& tool, const Text& folder, LivePage& page)
         return false;
     LivePage fresh;
     QuietRun run(folder, tool.FileName, TakePage, fresh);
-    const Kept name(tool.FileName);
     tool.FileName = FreshFile(folder, tool.ending);
-    tool.Undisturbed([&] {
-        if (tool.SaveFile())
-            run.Draw(tool.drawJob, tool.FileName);
-    });
+    if (tool.SaveFile())
+        run.Draw(tool.drawJob, tool.FileName);
     if (fresh.List.Objects.empty())
         return false;
     fresh.Page = fresh.Pages = 1;

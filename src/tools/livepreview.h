@@ -14,10 +14,11 @@ struct LivePage {
     double UnitsPerDepth = 0; // device units to a unit of depth
 };
 
-// Draws a page of the log, counted from 1 and at most the last one. folder is private to the caller. False: the boring
-// cannot be drawn as it stands, and page is as it was.
+// Draws a page of the log, counted from 1 and at most the last one. folder is private to the caller. Returns false
+// where the boring cannot be drawn as it stands; page is as it was then.
 bool DrawLivePage(int number, const Text& folder, LivePage& page);
-// The one page of another tool's file. False as above, and for a tool that draws nothing.
+// Draws the one page of another tool's file. Returns false where it cannot be drawn, and for a tool that draws nothing;
+// page is as it was then.
 bool DrawLiveTool(ToolRecord& tool, const Text& folder, LivePage& page);
-// The row of the lithology whose layer lies at so many device units from the top of the sheet; 0 for none.
+// Returns the row of the lithology whose layer lies at so many device units from the top of the sheet; 0 for none.
 int LayerAt(const LivePage& page, double y);

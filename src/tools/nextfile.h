@@ -7,8 +7,8 @@
 // The file that the window which comes next, or is in front when a command ends, opens; "" for none. Set by what leaves
 // a window for the sake of a file, taken by the windows.
 extern Text NextFile;
-Text TakeNextFile(); // it, which is none then
+Text TakeNextFile(); // Returns that file, and leaves none.
 
-bool OpensFile(const Text& name);       // its ending is one of the program's
-bool IsConversionMap(const Text& name); // .GCV, of the editor of the general conversion
-Tool ToolOfFile(const Text& name);      // by its ending; the log tool for all that no other one has
+bool OpensFile(const Text& name);       // Returns whether its ending is one of the program's.
+bool IsConversionMap(const Text& name); // Returns whether it is a .GCV file, of the editor of the general conversion.
+Tool ToolOfFile(const Text& name);      // Returns the tool by the file's ending; the log tool for all other endings.

@@ -122,17 +122,16 @@ static const char* const besideCopy = ".memo";
 void WriteToolCopy(ToolRecord& tool, const Text& copy)
 {
     const Hushed quiet;
-    const Kept name(tool.FileName);
     tool.FileName = copy;
     if (!tool.memo) {
-        tool.Undisturbed([&tool] { tool.SaveFile(); });
+        tool.SaveFile();
         return;
     }
     // More lines than a file takes would not be saved, so the text has a file of its own.
     WriteWholeFile(copy + besideCopy, tool.memo->text);
     const Kept text(tool.memo->text);
     tool.memo->text = "";
-    tool.Undisturbed([&tool] { tool.SaveFile(); });
+    tool.SaveFile();
 }
 
 void OpenToolCopy(ToolRecord& tool, const Text& copy, const Text& name)

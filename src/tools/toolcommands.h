@@ -9,7 +9,6 @@
 #include "session/platform.h"
 #include "tools/checkentry.h"
 
-#include <functional>
 #include <initializer_list>
 #include <vector>
 
@@ -30,9 +29,7 @@ struct ToolRecord {
     void (*ClearArrays)() = nullptr;  // empties the record
     void (*FillForm)() = nullptr;     // the record into the boxes, and the title
     void (*Label)() = nullptr;        // the words of the boxes, as the office has them
-    // Does the work, and puts back all that a save and a run of this tool write.
-    void (*Undisturbed)(const std::function<void()>& work) = nullptr;
-    Text (*State)() = nullptr;                    // a few words for the status bar: how much is there
+    Text (*State)() = nullptr;        // a few words for the status bar: how much is there
     std::vector<CheckEntry> (*Check)() = nullptr; // what a reviewer would flag; may be null
     bool titleInFront = false; // the title stands in front of the file's name, and alone while there is none
     // The Edit menu's, where they do not go by the grid last entered; may be null.

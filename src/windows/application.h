@@ -11,12 +11,12 @@ public:
     bool notify(QObject* receiver, QEvent* event) override;
 };
 
-// Inside a catch block: the box "Run-time error" + number. The handler that failed is left where it was, the program
-// and the work stay; while the log window is not up yet there is nothing to go on with, and the process ends with
-// status 1.
+// Tells the failure that is being handled in the box "Run-time error" + number; call it inside a catch block. The
+// handler that failed is left where it was, the program and the work stay; while the log window is not up yet there is
+// nothing to go on with, and the process ends with status 1.
 void TellRunTimeError();
 
-// The log window is up: from now on a failure in a handler does not end the program.
+// True once the log window is up: from then on a failure in a handler does not end the program.
 extern bool StartDone;
-// How it ends then; a test looks on instead.
+// Ends the process before that; a test looks on instead.
 extern void (*EndAtOnce)(int status);

@@ -17,19 +17,20 @@ class QMainWindow;
 class QMenu;
 class QToolButton;
 
-// The sign of a weight, told by its shape: a disc with a cross, a triangle with an exclamation mark, a ring with an i.
+// Returns the sign of a weight, told by its shape: a disc with a cross, a triangle with an exclamation mark, a ring
+// with an i.
 QIcon WeightSign(CheckWeight weight, const QPalette& palette);
 
 class CheckDock : public QDockWidget
 {
 public:
-    // On the right of the window, hidden at first; its entry goes into the menu.
+    // Stands on the right of the window, hidden at first; its entry goes into the menu.
     CheckDock(QMainWindow* window, QMenu* menu);
-    std::function<std::vector<CheckEntry>()> Check; // as it stands now
-    std::function<void(const CheckEntry&)> GoTo;
-    void Soon(); // something has changed: looked at anew when the user pauses
+    std::function<std::vector<CheckEntry>()> Check; // Returns what there is to flag now.
+    std::function<void(const CheckEntry&)> GoTo;    // Leads to where an entry is to be mended.
+    void Soon();                                    // Looks anew when the user pauses, since something has changed.
     QListWidget* List() const;
-    QWidget* Kinds() const; // the button with the kinds, for the way of the Tab key
+    QWidget* Kinds() const; // Returns the button with the kinds, for the way of the Tab key.
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -22,9 +22,9 @@ public:
     std::function<void()> before;           // takes in what is being typed
     std::function<void()> refresh;          // shows what a command has done
     std::function<bool()> mayClose;         // asks; false: the user stays
-    std::function<bool(const Text&)> opens; // a file from outside that is its own; false: of another window
+    std::function<bool(const Text&)> opens; // opens a file from outside that is its own; false: of another window
     void reject() override;
-    // One that asks before it closes makes room for the window that opens the file.
+    // Returns true also for a window that asks before it closes: it makes room for the one that opens the file.
     bool Takes(const Text& name) const override;
     void OpenSoon(const Text& name) override;
 

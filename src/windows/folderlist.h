@@ -24,6 +24,6 @@ class DriveList : public QComboBox
 {
 public:
     explicit DriveList(QWidget* parent);
-    void Show(const Text& folder); // marks the drive that it is on
+    void Show(const Text& folder); // marks the drive that the folder is on
     std::function<void(const Text&)> OnFolder;
 };

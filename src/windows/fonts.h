@@ -3,5 +3,5 @@
 
 #include "session/text.h"
 
-bool PrinterHasFont(const Text& name); // exactly so
-Text ShowFontDialog(const Text& font); // the family chosen, "" when cancelled
+bool PrinterHasFont(const Text& name); // Returns whether there is a font of exactly that name.
+Text ShowFontDialog(const Text& font); // Returns the family chosen, "" when cancelled.

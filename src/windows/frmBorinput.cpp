@@ -10,7 +10,6 @@
 #include "session/platform.h"
 #include "session/recovery.h"
 #include "session/session.h"
-#include "tools/hush.h"
 #include "tools/nextfile.h"
 #include "tools/toolcommands.h"
 #include "windows/application.h"

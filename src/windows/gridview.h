@@ -19,12 +19,12 @@ class GridView : public QTableView
 public:
     // keptAs: what the widths that the user sets are kept under; where grids of two windows bear one name, they differ.
     GridView(const char* name, Grid& shown, QWidget* parent, const QString& keptAs = QString());
-    void Refresh();                 // the record has changed: cells, headings, current cell, selected block
-    void Fit();                     // columns as wide as what they hold, but for those that the user has set
-    void Home();                    // another document, whose steps are still to come: its first row
+    void Refresh();                 // shows what the record holds: cells, headings, current cell, selected block
+    void Fit();                     // makes columns as wide as what they hold, but for those that the user has set
+    void Home();                    // goes to the first row, for another document
     void FinishEdit();              // takes in what is being typed
-    void AsTyped(void (*work)());   // work sees what is being typed as if it had been taken in; it has not
-    std::function<void()> OnChange; // after every change by the user
+    void AsTyped(void (*work)());   // lets work see what is being typed as if it had been taken in; it has not
+    std::function<void()> OnChange; // called after every change by the user
 
 protected:
     QSize sizeHint() const override;
@@ -40,7 +40,7 @@ protected:
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
-    void Done(); // a procedure has worked on the record
+    void Done(); // shows what a procedure has done to the record
     void Step(int rows, int columns);
     void Tab(int columns);
     void Enter(int rows);
@@ -48,9 +48,9 @@ private:
     void KeepWidths() const;
     void Stretch();
     void Widen(const QModelIndex& at);
-    void Grow();                              // the columns of the selected block, for what has been pasted into it
-    const std::vector<Text>* Offered() const; // for the current cell; null: nothing
-    void Offer();                             // the list of it, below the cell
+    void Grow();                              // widens the columns of the selected block for what was pasted into it
+    const std::vector<Text>* Offered() const; // returns what the current cell may be picked from; null: nothing
+    void Offer();                             // shows that list below the cell
 
     Grid& grid;
     GridModel* model;

@@ -13,17 +13,17 @@ class LivePane : public QWidget
 {
 public:
     explicit LivePane(QWidget* parent);
-    void Soon();          // something has changed: drawn anew when the user pauses
-    void Turn(int pages); // to a later or an earlier page
-    // Who draws: the log tool unless another is set.
+    void Soon();          // draws anew when the user pauses, since something has changed
+    void Turn(int pages); // goes to a later or an earlier page
+    // Draws the page: the log's unless another tool's is set.
     std::function<bool(int number, const Text& folder, LivePage& page)> Draws = DrawLivePage;
-    std::function<void(int)> OnLayer; // a click on the layer of that row
-    std::function<void()> OnDrawn;
+    std::function<void(int)> OnLayer; // called at a click on the layer of that row
+    std::function<void()> OnDrawn;    // called when a page was drawn
     const LivePage& Shown() const
     {
         return page;
     }
-    QRectF Sheet() const; // where the page is in the pane
+    QRectF Sheet() const; // returns where the page is in the pane
 
 protected:
     void paintEvent(QPaintEvent* event) override;

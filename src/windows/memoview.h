@@ -13,9 +13,9 @@ class MemoView : public TypedTextEdit
 {
 public:
     MemoView(const char* name, Memo& shown, QWidget* parent);
-    void Refresh();                 // the record has changed: its text, its width
-    void Insert(const Text& text);  // at the caret
-    std::function<void()> OnChange; // after every change by the user, which the record has taken
+    void Refresh();                 // shows the text and the width that the record has now
+    void Insert(const Text& text);  // puts the text in at the caret
+    std::function<void()> OnChange; // called after every change by the user, which the record has taken
 
 protected:
     QString Clean(const QString& typed) const override;

@@ -21,22 +21,22 @@ class PageView : public QWidget
 public:
     explicit PageView(QWidget* parent);
 
-    void SetPage(); // the canvas holds another page: its pictures are made anew
+    void SetPage(); // makes the pictures anew, since the canvas holds another page
     void SetView(const ViewRecord& view);
     const ViewRecord& View() const
     {
         return shown;
     }
-    void RectangleMode(bool on); // the next drag draws a rectangle instead of moving the page
+    void RectangleMode(bool on); // lets the next drag draw a rectangle instead of moving the page
     bool InRectangleMode() const
     {
         return rectangleMode;
     }
-    void Redraw();         // the picture of the part in view, now
-    bool UpToDate() const; // the picture fits the view: nothing is stretched, nothing in view is missing
+    void Redraw();         // draws the picture of the part in view, now
+    bool UpToDate() const; // returns whether nothing in the picture is stretched and nothing in view is missing
 
-    std::function<void(double x1, double y1, double x2, double y2)> onRectangle; // corners in page units
-    std::function<void()> onMoved;                                               // the user zoomed or dragged
+    std::function<void(double x1, double y1, double x2, double y2)> onRectangle; // called with corners in page units
+    std::function<void()> onMoved;                                               // called at a zoom or a drag
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -54,8 +54,8 @@ private:
         QRectF part; // of the whole page, which is 0, 0, 1, 1
         double pixelsPerUnit = 0;
     };
-    QRectF Page() const;      // the page's image in the control
-    QRect PageInView() const; // what of it is seen
+    QRectF Page() const;      // returns the place of the page's image in the control
+    QRect PageInView() const; // returns what of it is seen
     double PixelsPerUnit() const;
     bool Covers(const Picture& picture, const QRectF& area) const;
     void PaintPicture(QPainter& painter, const Picture& picture, const QRect& area) const;

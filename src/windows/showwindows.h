@@ -33,9 +33,9 @@ void ShowPrintingNotice();              // frmPrinting
 void ShowRunMessagesWindow();           // frmRunMessages
 void ShowProgressWindow(bool shown);    // frmProgress
 void StepProgressWindow(const Text& words, float percent);
-void Breathe();     // a turn for the window system
-bool RunUnderWay(); // a page is being made: the progress window is asked for
-void RunPaused();   // a box was up meanwhile: what the user took to read it does not count as a slow page
+void Breathe();     // gives the window system a turn
+bool RunUnderWay(); // returns whether a page is being made: then the progress window is asked for
+void RunPaused();   // tells that a box was up: what the user took to read it does not count as a slow page
 
 // Fills in Platform for the desktop program.
 void UseDesktopPlatform();

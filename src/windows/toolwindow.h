@@ -32,7 +32,7 @@ public:
                    std::function<void()> command);
     QAction* Action(QMenu* menu, const char* name, const char* caption, QKeySequence keys);
     QMenu* Menu(const char* name) const;
-    void Run(const std::function<void()>& command); // and what it has done is shown
+    void Run(const std::function<void()>& command); // performs the command and shows what it has done
     void Blocking(QWidget* content);                // shown until it is left
     bool Takes(const Text& name) const override;
     void OpenSoon(const Text& name) override;

@@ -8,12 +8,15 @@
 
 class QLineEdit;
 
-void TellWords(const QString& words); // in the status line of the window in front, behind those of the same command
-Text Typed(const QString& text);      // tells what it replaces
+// Shows the words in the status line of the window in front, behind those of the same command.
+void TellWords(const QString& words);
+// Returns what was typed as the code page has it, and tells what it replaces.
+Text Typed(const QString& text);
 
-// A field of one line, as its text has just been edited: it shows what it holds, and the caret stays at its letter.
+// Returns the text of a field of one line that has just been edited, as the code page has it. The field shows that, and
+// the caret stays at its letter.
 Text TypedLine(QLineEdit& line);
-void CleanAsTyped(QLineEdit* line); // the same from now on, for a field whose text is taken later
+void CleanAsTyped(QLineEdit* line); // Does the same at each edit, for a field whose text is taken later.
 
 // A text box of any kind.
 class TypedTextEdit : public QPlainTextEdit
@@ -22,7 +25,7 @@ public:
     using QPlainTextEdit::QPlainTextEdit;
 
 protected:
-    virtual QString Clean(const QString& typed) const; // as the box is to show it
+    virtual QString Clean(const QString& typed) const; // returns what was typed as the box is to show it
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void insertFromMimeData(const QMimeData* source) override;

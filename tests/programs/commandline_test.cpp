@@ -156,16 +156,17 @@ TEST_CASE("the help has a usage line for each job")
     CHECK(ReadCommandLine({"log", "--help"}).Help);
     const std::string text = UsageText();
     CHECK(text.find("stratavue-batch log [--home DIR] [--project DIR] [--page N] [--date TEXT] [--pdf FILE] "
-                    "[--png DIR [--dpi N]] [--dxf DIR] [--list FILE] FILE.BOR...\n") != std::string::npos);
+                    "[--png DIR [--dpi N]] [--dxf DIR] [--list FILE] [--jobs N] FILE.BOR...\n") != std::string::npos);
     CHECK(text.find("stratavue-batch intro [--type 1|2] [--home DIR]") != std::string::npos);
     CHECK(text.find("stratavue-batch section [--home DIR] [--project DIR] [--page N] [--date TEXT] [--pdf FILE] "
-                    "[--png DIR [--dpi N]] [--dxf DIR] [--list FILE] FILE.CRO...\n") != std::string::npos);
+                    "[--png DIR [--dpi N]] [--dxf DIR] [--list FILE] [--jobs N] FILE.CRO...\n") != std::string::npos);
     CHECK(text.find("stratavue-batch guide [--home DIR] [--pdf FILE] [--png DIR [--dpi N]] [--list FILE]\n") !=
           std::string::npos);
     CHECK(text.find("stratavue-batch gis-add --gis FILE [--home DIR] FILE.BOR...\n") != std::string::npos);
     CHECK(text.find("stratavue-batch gis-export --arcview OUT | --evs OUT [--home DIR] FILE.GIS\n") !=
           std::string::npos);
-    CHECK(text.find("stratavue-batch check [--all] [--home DIR] [--project DIR] FILE...\n") != std::string::npos);
+    CHECK(text.find("stratavue-batch check [--all] [--home DIR] [--project DIR] [--jobs N] FILE...\n") !=
+          std::string::npos);
     CHECK(text.find("soil             draws the soil analysis tables") != std::string::npos);
     CHECK(text.find("gis-add          adds borings") != std::string::npos);
 }

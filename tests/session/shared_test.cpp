@@ -3,7 +3,9 @@
 #include "boring/boringboxes.h"
 #include "sections/crosstool.h"
 #include "session/session.h"
+#include "session/slots.h"
 #include "testing.h"
+#include "tools/hush.h"
 
 #include <algorithm>
 #include <string_view>
@@ -25,7 +27,7 @@ static const SharedRecord shared[] = {
 
 TEST_CASE("kept records get back the values that they had, however often, those that hold references too")
 {
-    const KeptRecords before({Kind::Document, Kind::Window});
+    const KeptRecords before({Kind::Document, Kind::Boxes, Kind::Window});
     for (int time = 0; time < 2; ++time) {
         document = "changed";
         pair.second = 2;
@@ -38,6 +40,46 @@ TEST_CASE("kept records get back the values that they had, however often, those 
         CHECK(frmBorinput::SSLith.columns == 4);
         CHECK(CrossForm.active == nullptr);
     }
+}
+
+TEST_CASE("all records of several kinds are put back at the end of the scope")
+{
+    frmBorinput::Title = "window";
+    {
+        const KeepAll records{Kind::Document, Kind::Run};
+        document = "changed";
+        RunFolder = "elsewhere";
+        frmBorinput::Title = "changed"; // which stands in a box
+    }
+    CHECK(document == "start");
+    CHECK(RunFolder == ScratchFolder());
+    CHECK(frmBorinput::Title == "changed");
+}
+
+TEST_CASE("growing slots are those that were asked for, every access checked")
+{
+    GrowingSlots<Text, 20> slots;
+    slots[7] = "seven";
+    const Text& seventh = slots[7];
+    CHECK(slots[20].empty());
+    CHECK(&seventh == &slots[7]);
+    const GrowingSlots<Text, 20> copy = slots;
+    CHECK(copy[7] == "seven");
+    CHECK(copy[3].empty());
+    CHECK_THROWS_AS(slots[21], RunTimeError);
+    CHECK_THROWS_AS(copy[-1], RunTimeError);
+    slots.Clear();
+    CHECK(slots[7].empty());
+}
+
+TEST_CASE("a record that nothing has changed is put back in place, so that what points into it goes on to be good")
+{
+    document = "a text that is too long for a string to hold in itself";
+    const char* const where = document.data();
+    {
+        const Hushed quiet;
+    }
+    CHECK(document.data() == where);
 }
 
 TEST_CASE("a kind that was not asked for is left alone")

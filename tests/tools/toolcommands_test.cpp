@@ -1,13 +1,17 @@
 // toolcommands_test.cpp -- the commands of the tools beside the log tool, each test for all four, with no window.
 #include "tools/toolcommands.h"
 
+#include "boring/boringdata.h"
 #include "boring/opensave.h"
 #include "editors/borinput.h"
 #include "gis/gistool.h"
 #include "grid/gridedit.h"
 #include "places.h"
+#include "report/heading.h"
+#include "report/projectfiles.h"
 #include "report/prompts.h"
 #include "run/batchrun.h"
+#include "sections/crossrun.h"
 #include "sections/crosstool.h"
 #include "sections/fencetool.h"
 #include "sections/soiltool.h"
@@ -737,6 +741,61 @@ TEST_CASE("a copy of the boxes disturbs nothing, and comes back as the changed f
         LoadTool(*tool);
         CHECK(Typed(*tool) == "");
         FileChanged = 0;
+    }
+}
+
+// A word in the record of every tool, and the session's variables of a save.
+static void MarkRecords()
+{
+    BoringFileName = BoringData.Name = CrossData.reportCells[1] = FenceData.boringCells[1][1] = "marked";
+    SoilData.notes[1] = GisData.boringCells[150][GisX] = GisData.layerCells[150][90] = "marked";
+    LineBuffer[3] = DialogResult = HeadingWords[7] = VCROSS::CrossRun.layerCode[2][3] = "marked";
+    SourceFolder = singleFileName = "marked";
+    LineCount = 3;
+    DialogMode = 2;
+    FailuresReported = 5;
+}
+
+static void RecordsAreMarked()
+{
+    CHECK(BoringFileName == "marked");
+    CHECK(BoringData.Name == "marked");
+    CHECK(CrossData.reportCells[1] == "marked");
+    CHECK(FenceData.boringCells[1][1] == "marked");
+    CHECK(SoilData.notes[1] == "marked");
+    CHECK(GisData.boringCells[150][GisX] == "marked");
+    CHECK(GisData.layerCells[150][90] == "marked");
+    CHECK(LineBuffer[3] == "marked");
+    CHECK(DialogResult == "marked");
+    CHECK(LineCount == 3);
+    CHECK(DialogMode == 2);
+    CHECK(FailuresReported == 5);
+}
+
+TEST_CASE("a copy and a live page of a tool leave the records of all tools as they were, and those of the run")
+{
+    for (ToolRecord* tool : tools) {
+        CAPTURE(tool->window);
+        Prepare(*tool);
+        Type(*tool, "typed");
+        MarkRecords();
+        WriteToolCopy(*tool, Scratch("a.copy"));
+        RecordsAreMarked();
+        JobTable[tool->drawJob] = [] { // as greedy as a run can be
+            OpenGISFile("nowhere");
+            ++FailuresReported;
+            HeadingWords = {};
+            VCROSS::ResetCrossRun();
+            SourceFolder = BoringFileName = "run";
+        };
+        LivePage page;
+        CHECK_FALSE(DrawLiveTool(*tool, Scratch("project"), page));
+        RecordsAreMarked();
+        CHECK(HeadingWords[7] == "marked");
+        CHECK(VCROSS::CrossRun.layerCode[2][3] == "marked");
+        CHECK(SourceFolder == "marked");
+        CHECK(singleFileName == "marked");
+        CHECK(Messages.empty());
     }
 }
 
